@@ -1,0 +1,5 @@
+// Captured trace: the text that was collected since captureTrace(true).
+#pragma once
+#include "toolkit/string.h"
+
+Lumo::String getTrace();
