@@ -1,0 +1,142 @@
+#include "runtime/module_entry.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+#include "runtime/hex_text.h"
+#include "runtime/module_list.h"
+#include "runtime/packed_object.h"
+#include "runtime/pointer_conversion.h"
+
+namespace {
+
+constexpr std::string_view kMarker = "swig_ptr: ";
+
+const swig_const_row *find_named_row(const swig_const_row *rows, std::string_view text) {
+    for (const swig_const_row *row = rows; row->kind != SWIG_CONST_END; ++row) {
+        if (text.starts_with(row->name)) {
+            return row;
+        }
+    }
+    return nullptr;
+}
+
+char *append_text(char *out, std::string_view text) {
+    std::memcpy(out, text.data(), text.size());
+    return out + text.size();
+}
+
+// The text in front of the marker, the marker, and the pointer with its type. Null without memory.
+char *callback_docstring(std::string_view before, void *pointer, std::string_view type_name) {
+    const std::size_t digits = 2 * sizeof pointer;
+    const std::size_t length = before.size() + kMarker.size() + 1 + digits + type_name.size();
+    char *text = static_cast<char *>(std::malloc(length + 1));
+    if (text != nullptr) {
+        char *out = append_text(append_text(text, before), kMarker);
+        *out++ = '_';
+        out = SWIG_PackData(out, &pointer, sizeof pointer);
+        *append_text(out, type_name) = '\0';
+    }
+    return text;
+}
+
+PyObject *object_of_row(const swig_const_row &row) {
+    if (row.kind == SWIG_CONST_POINTER) {
+        return SWIG_Python_NewPointerObj(row.pointer, *row.type, 0);
+    }
+    if (row.kind != SWIG_CONST_PACKED) {
+        return nullptr;
+    }
+    if (row.pointer == nullptr) {
+        Py_RETURN_NONE;
+    }
+    return SwigPyPacked_New(row.pointer, row.size, *row.type);
+}
+
+void install_constants(PyObject *dictionary, const swig_constant *first, std::size_t count) {
+    for (const swig_constant *constant = first; constant != first + count; ++constant) {
+        SWIG_Python_SetConstant(dictionary, constant->name, PyInt_FromLong(constant->value));
+    }
+}
+
+void link_variables(const swig_variable *first, std::size_t count) {
+    PyObject *cvar = SWIG_Python_cvar();
+    for (const swig_variable *variable = first; cvar != nullptr && variable != first + count;
+         ++variable) {
+        SWIG_Python_addvarlink(cvar, variable->name, variable->get, variable->set,
+                               variable->read_only);
+    }
+}
+
+void install(PyObject *dictionary, const swig_module_definition &definition,
+             const swig_install_step &step) {
+    switch (step.kind) {
+        case swig_install_kind::constants:
+            install_constants(dictionary, definition.constants + step.first, step.count);
+            break;
+        case swig_install_kind::cvar:
+            if (PyObject *cvar = SWIG_Python_cvar()) {
+                PyDict_SetItemString(dictionary, "cvar", cvar);
+            }
+            break;
+        case swig_install_kind::link:
+            link_variables(definition.variables + step.first, step.count);
+            break;
+    }
+}
+
+}  // namespace
+
+void SWIG_Python_RunEntry(const swig_module_definition &definition) {
+    SWIG_Python_PatchDocstrings(definition.methods, definition.const_rows, swig_type_seeds,
+                                swig_type_slots);
+    PyObject *module =
+        Py_InitModule4(definition.name, definition.methods, nullptr, nullptr, PYTHON_API_VERSION);
+    if (module == nullptr) {
+        return;
+    }
+    PyObject *dictionary = PyModule_GetDict(module);
+    SWIG_Python_JoinModuleList(*definition.table, swig_type_seeds, swig_cast_seeds);
+    SWIG_Python_InstallRows(dictionary, definition.const_rows);
+    PyEval_InitThreads();
+    for (std::size_t index = 0; index < definition.step_count; ++index) {
+        install(dictionary, definition, definition.steps[index]);
+    }
+}
+
+void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *rows,
+                                 swig_type_info *const *type_seeds, swig_type_info **type_slots) {
+    for (PyMethodDef *method = methods; method->ml_name != nullptr; ++method) {
+        const char *marker =
+            method->ml_doc != nullptr ? std::strstr(method->ml_doc, kMarker.data()) : nullptr;
+        if (marker == nullptr) {
+            continue;
+        }
+        const swig_const_row *row = find_named_row(rows, marker + kMarker.size());
+        if (row == nullptr || row->kind != SWIG_CONST_POINTER || row->pointer == nullptr) {
+            continue;
+        }
+        const std::string_view before(method->ml_doc,
+                                      static_cast<std::size_t>(marker - method->ml_doc));
+        const swig_type_info *type = type_seeds[row->type - type_slots];
+        if (char *text = callback_docstring(before, row->pointer, type->name)) {
+            method->ml_doc = text;
+        }
+    }
+}
+
+void SWIG_Python_InstallRows(PyObject *dictionary, const swig_const_row *rows) {
+    for (const swig_const_row *row = rows; row->kind != SWIG_CONST_END; ++row) {
+        SWIG_Python_SetConstant(dictionary, row->name, object_of_row(*row));
+    }
+}
+
+void SWIG_Python_SetConstant(PyObject *dictionary, const char *name, PyObject *object) {
+    if (object != nullptr) {
+        PyDict_SetItemString(dictionary, name, object);
+        Py_DECREF(object);
+    }
+}
+
+PyObject *SWIG_PyInstanceMethod_New(PyObject *, PyObject *) { return nullptr; }
