@@ -1,0 +1,125 @@
+// The call frame: what every plain function row does.
+//
+//   1. take the argument tuple apart, exact count
+//   2. read the arguments from left to right; leave at the first refusal, native function uncalled
+//   3. call the native function once, under the interpreter lock
+//   4. turn its result into an object; a status is never looked at
+//   5. release what the arguments hold (their destructors)
+//
+// The frame is instantiated once for each shape, the tuple of result and argument kinds. An entry
+// `_wrap_NAME` is a few instructions: it loads the row's record and the native function's address
+// and jumps here.
+#pragma once
+
+#include <Python.h>
+#include <cxxabi.h>
+
+#include <cstddef>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "convert/kinds.h"
+
+namespace ombra {
+
+// Whether a declared native type may stand where a shape passes `Kind`. The shape's function type
+// and the declared one must agree in what the calling convention sees: the width of numbers (and
+// their sign below 32 bits, where the callee may rely on the extension), pointer or not, size and
+// alignment of structures. Enumerations count as the numbers they are.
+template <typename Kind, typename Declared>
+constexpr bool fits_shape() {
+    using Native = typename Kind::Native;
+    if constexpr (std::is_void_v<Native>) {
+        return std::is_void_v<Declared>;
+    } else if constexpr (std::is_pointer_v<Native>) {
+        return std::is_pointer_v<Declared> || std::is_reference_v<Declared>;
+    } else if constexpr (std::is_arithmetic_v<Native>) {
+        if constexpr (!std::is_arithmetic_v<Declared> && !std::is_enum_v<Declared>) {
+            return false;
+        } else {
+            return sizeof(Declared) == sizeof(Native) &&
+                   std::is_same_v<Declared, bool> == std::is_same_v<Native, bool> &&
+                   (sizeof(Native) >= sizeof(int) ||
+                    std::is_signed_v<Declared> == std::is_signed_v<Native>);
+        }
+    } else {
+        return std::is_trivially_copyable_v<Declared> && sizeof(Declared) == sizeof(Native) &&
+               alignof(Declared) == alignof(Native);
+    }
+}
+
+template <typename Shape>
+struct Call;
+
+template <typename Result, typename... Args>
+struct Call<Result(Args...)> {
+    using Native = typename Result::Native (*)(typename Args::Native...);
+
+    // The address of a native function as this shape's function type. Compares its real type with
+    // the shape, so that a wrong record does not compile.
+    template <typename R, typename... P>
+    static Native native(R (*function)(P...)) {
+        static_assert(sizeof...(P) == sizeof...(Args), "argument count of the native function");
+        static_assert((fits_shape<Args, P>() && ...), "an argument does not fit its kind");
+        static_assert(fits_shape<Result, R>(), "the result does not fit its kind");
+        return reinterpret_cast<Native>(reinterpret_cast<void (*)()>(function));
+    }
+
+    [[gnu::noinline]] static PyObject *run(const CallRow &row, Native native, PyObject *args) {
+        return run(row, native, args, std::index_sequence_for<Args...>());
+    }
+
+   private:
+    template <std::size_t... I>
+    [[gnu::always_inline]] static PyObject *run(const CallRow &row, Native native, PyObject *args,
+                                                std::index_sequence<I...>) {
+        constexpr auto count = static_cast<Py_ssize_t>(sizeof...(Args));
+        [[maybe_unused]] PyObject *items[sizeof...(Args) + 1] = {};
+        if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...)) {
+            return nullptr;  // 1
+        }
+        [[maybe_unused]] std::tuple<Args...> values;
+        if (!(std::get<I>(values).read(items[I], row, I) && ...)) {
+            return nullptr;  // 2
+        }
+        try {
+            if constexpr (std::is_void_v<typename Result::Native>) {
+                native(std::get<I>(values).native()...);  // 3
+                Py_RETURN_NONE;
+            } else {
+                return Result::result(native(std::get<I>(values).native()...), row);  // 3, 4
+            }
+        } catch (abi::__forced_unwind &) {
+            throw;
+        } catch (...) {
+            return native_exception();
+        }
+    }
+};
+
+// The frame of a hand-written row: reads the arguments, then hands them to `body`, which makes the
+// Python result. `body` takes (row, values...) with the kinds' native types.
+template <typename... Args, typename Body>
+[[gnu::always_inline]] inline PyObject *call_with(const CallRow &row, PyObject *args, Body body) {
+    return [&]<std::size_t... I>(std::index_sequence<I...>) -> PyObject * {
+        constexpr auto count = static_cast<Py_ssize_t>(sizeof...(Args));
+        [[maybe_unused]] PyObject *items[sizeof...(Args) + 1] = {};
+        if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...)) {
+            return nullptr;
+        }
+        [[maybe_unused]] std::tuple<Args...> values;
+        if (!(std::get<I>(values).read(items[I], row, I) && ...)) {
+            return nullptr;
+        }
+        try {
+            return body(std::get<I>(values).native()...);
+        } catch (abi::__forced_unwind &) {
+            throw;
+        } catch (...) {
+            return native_exception();
+        }
+    }(std::index_sequence_for<Args...>());
+}
+
+}  // namespace ombra
