@@ -1,0 +1,35 @@
+// The emitters, one file each. They see the model and nothing else, and return the whole text of
+// an output.
+#pragma once
+
+#include <string>
+
+#include "generator/model.h"
+
+namespace generator {
+
+std::string emit_rows(const Model &model, const std::string &header);  // records and entries
+std::string emit_helpers(const Model &model);                          // boxes and arrays
+std::string emit_method_table(const Model &model);
+std::string emit_entries(const Model &model);  // prototypes of all entries
+std::string emit_type_table(const Model &model);
+std::string emit_type_slots(const Model &model);    // names for the slots, for hand-written code
+std::string emit_install_table(const Model &model); // constants, links, and their order
+std::string emit_constants_header(const Model &model);
+std::string emit_constant_names(const Model &model);  // number and name, for the stand-in's texts
+std::string emit_model(const Model &model);           // JSON, for the tests and tools
+std::string emit_recording(const Model &model, const std::string &header);  // the recording SDK
+
+// "rows_sdk_bcm_l2.cpp" for "platform/sdk/bcm/l2.h".
+std::string rows_file(const std::string &header);
+
+// "recording_sdk_bcm_l2.cpp" for the same.
+std::string recording_file(const std::string &header);
+
+// The kind class of a conversion as the frame's templates name it: "Int32", "Value<160, 4>".
+std::string kind_class(const Conversion &conversion);
+
+// First lines of a generated file: what it is made of and by what.
+std::string banner(const std::string &source, const std::string &emitter);
+
+}  // namespace generator

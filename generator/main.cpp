@@ -1,0 +1,187 @@
+// The generator: reads the declarations, checks them, writes what the build is made of.
+//
+//     generator --root DIR --out DIR     reads DIR/platform, DIR/catalogue and DIR/api
+//     generator --list-rules             what the check pass looks at
+//     generator --list-kinds             the conversion kinds with their declared types
+//
+// Exit status 0 and one line of totals, or 1 with every fault of the run and no output written.
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <iostream>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include "generator/check.h"
+#include "generator/emitters.h"
+#include "generator/faults.h"
+#include "generator/output.h"
+#include "generator/read_catalogue.h"
+#include "generator/read_headers.h"
+#include "generator/resolve.h"
+#include "generator/rows.h"
+
+namespace generator {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Headers below `folder`, as paths from `root`, in path order. A missing folder has none.
+std::vector<std::string> headers_below(const fs::path &root, const std::string &folder) {
+    std::vector<std::string> headers;
+    if (!fs::exists(root / folder)) {
+        return headers;
+    }
+    for (const auto &entry : fs::recursive_directory_iterator(root / folder)) {
+        if (entry.path().extension() == ".h") {
+            headers.push_back(fs::relative(entry.path(), root).string());
+        }
+    }
+    std::sort(headers.begin(), headers.end());
+    return headers;
+}
+
+void read_headers(const fs::path &root, Model &model, Faults &faults) {
+    const auto read = [&](const std::string &header, HeaderRole role) {
+        read_header(header, read_file(root / header), role, model, faults);
+        if (role != HeaderRole::types_only) {
+            model.headers.push_back(header);
+        }
+    };
+    for (const auto &header : headers_below(root, "platform/native")) {
+        read(header, HeaderRole::types_only);
+    }
+    for (const char *folder : {"platform/helper", "platform/sdk"}) {
+        for (const auto &header : headers_below(root, folder)) {
+            read(header, HeaderRole::bound);
+        }
+    }
+    for (const char *header : {"api/exported.h", "api/native_rows.h"}) {
+        if (fs::exists(root / header)) {
+            read(header, HeaderRole::module_native);
+        }
+    }
+}
+
+void read_catalogue(const fs::path &root, Model &model, Faults &faults) {
+    using Read = void (*)(const std::string &, const std::string &, Model &, Faults &);
+    const std::pair<const char *, Read> tables[] = {{"catalogue/types.txt", read_types},
+                                                    {"catalogue/kinds.txt", read_kinds},
+                                                    {"catalogue/constants.txt", read_constants},
+                                                    {"catalogue/variables.txt", read_variables},
+                                                    {"catalogue/departures.txt", read_departures}};
+    for (const auto &[table, read] : tables) {
+        read(table, read_file(root / table), model, faults);
+    }
+}
+
+using Emitter = std::function<std::string(const Model &)>;
+
+// Whether the functions of a header stand outside the module. Headers of types have none.
+bool has_natives_outside(const std::string &header) {
+    const std::string types = "_types.h";
+    return header.rfind("platform/", 0) == 0 &&
+           (header.size() < types.size() ||
+            header.compare(header.size() - types.size(), types.size(), types) != 0);
+}
+
+// Every output with its emitter.
+std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
+    std::vector<std::pair<std::string, Emitter>> list = {
+        {"generated/entries.h", emit_entries},
+        {"generated/type_slots.h", emit_type_slots},
+        {"sdk/constants.h", emit_constants_header},
+        {"method_table.cpp", emit_method_table},
+        {"type_table.cpp", emit_type_table},
+        {"install_table.cpp", emit_install_table},
+        {"rows_helpers.cpp", emit_helpers},
+        {"constant_names.cpp", emit_constant_names},
+        {"model.json", emit_model}};
+    for (const auto &header : model.headers) {
+        list.emplace_back(rows_file(header),
+                          [header](const Model &whole) { return emit_rows(whole, header); });
+        if (has_natives_outside(header)) {
+            list.emplace_back(recording_file(header), [header](const Model &whole) {
+                return emit_recording(whole, header);
+            });
+        }
+    }
+    return list;
+}
+
+int generate(const fs::path &root, const fs::path &out) {
+    Model model;
+    Faults faults;
+    read_headers(root, model, faults);
+    read_catalogue(root, model, faults);
+    resolve(model, faults);
+    check(model, faults);
+    if (!faults.none()) {
+        faults.print();
+        return 1;
+    }
+    for (const auto &[file, emitter] : outputs(model)) {
+        if (!write_if_changed(out / file, emitter(model))) {
+            std::cerr << (out / file).string() << ": cannot be written\n";
+            return 1;
+        }
+    }
+    std::size_t fields = 0;
+    for (const auto &record : model.structs) {
+        fields += record.fields.size();
+    }
+    std::cout << "checked " << model.functions.size() << " functions, " << model.structs.size()
+              << " classes with " << fields << " fields, " << model.types.size() << " types, "
+              << all_rows(model).size() + 1 << " rows\n";
+    return 0;
+}
+
+int list_kinds(const fs::path &root) {
+    Model model;
+    Faults faults;
+    read_catalogue(root, model, faults);
+    std::sort(model.kinds.begin(), model.kinds.end(), [](const KindRow &a, const KindRow &b) {
+        return std::tie(a.kind, a.type) < std::tie(b.kind, b.type);
+    });
+    for (const auto &row : model.kinds) {
+        std::cout << kind_name(row.kind) << "\t" << row.type << "\n";
+    }
+    return 0;
+}
+
+int run(const std::vector<std::string> &arguments) {
+    std::optional<fs::path> root;
+    std::optional<fs::path> out;
+    bool kinds = false;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (arguments[i] == "--list-rules") {
+            list_rules(std::cout);
+            return 0;
+        }
+        if (arguments[i] == "--list-kinds") {
+            kinds = true;
+        } else if (arguments[i] == "--root" && i + 1 < arguments.size()) {
+            root = arguments[++i];
+        } else if (arguments[i] == "--out" && i + 1 < arguments.size()) {
+            out = arguments[++i];
+        }
+    }
+    if (kinds && root) {
+        return list_kinds(*root);
+    }
+    if (!root || !out) {
+        std::cerr << "usage: generator --root DIR --out DIR | --list-rules | "
+                     "--root DIR --list-kinds\n";
+        return 2;
+    }
+    return generate(*root, *out);
+}
+
+}  // namespace
+}  // namespace generator
+
+int main(int count, char **values) {
+    return generator::run({values + 1, values + count});
+}

@@ -1,0 +1,162 @@
+// The model: what the generator knows of the declarations, as plain records.
+//
+// Passes fill it in this order: read_headers and read_catalogue make the first part of each
+// record, resolve() the second, check() only looks, and the emitters see nothing else. Beside each
+// field stands an example of its value.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace generator {
+
+struct Place {
+    std::string file;  // "platform/sdk/bcm/l2.h"
+    int line = 0;      // 41
+};
+
+enum class Kind {
+    none,
+    signed_8,
+    signed_16,
+    signed_32,
+    unsigned_8,
+    unsigned_16,
+    unsigned_32,
+    unsigned_long,
+    unsigned_64,
+    address_32,
+    strict_bool,
+    text,
+    pointer,
+    function_pointer,
+    by_value,
+    reference,
+    port_bitmap,
+    mac_string,
+    fixed_array,
+    nested_struct,
+    pointer_field,
+    object,  // any Python object, passed through; only in hand-written rows
+    nothing  // a `void` result
+};
+
+// Everything a declared type decides about how a value crosses.
+struct Conversion {
+    Kind kind = Kind::none;  // Kind::pointer
+    int slot = 0;            // 931, the index of `_p_int`; the table's size where any type will do
+    int result_slot = 0;     // the same, but `_p_void` for `void *`
+    std::size_t size = 0;    // bytes of the native value, or of one array element
+    std::size_t align = 0;   // its alignment
+    std::size_t count = 1;   // elements of an array, over all dimensions
+    std::string text;        // "unsigned char [16]", as messages spell the type
+};
+
+// A parameter, a field or a typedef'd name.
+struct Variable {
+    std::string type;                 // "bcm_gport_t", "char const *"
+    std::vector<std::string> bounds;  // {"16"}, {"(2)", "(4)"}
+    std::string name;                 // "port"; empty where the declaration gives none
+    Place place;
+    Conversion conversion;    // resolved
+    std::size_t offset = 0;   // of a field, resolved
+};
+
+struct Function {
+    std::string row;        // "tableBaseAddr", the Python name
+    std::string native;     // "TesselApi::tableBaseAddr"
+    std::string result;     // "int"
+    std::vector<Variable> parameters;
+    Place place;
+    bool module_native = false;  // declared below api/: defined in the module itself
+    std::vector<Variable> visible;  // the parameters that Python passes, resolved
+    std::string visible_result;     // the docstring's result, resolved; empty for void
+    Conversion conversion;          // of the result, resolved
+    std::string hand_written;       // "", "body" or "entry", from the departures
+    std::string appended;           // the hidden output that joins the result, or empty
+};
+
+struct Struct {
+    std::string name;         // "bcm_l2_addr_t", the class
+    std::string tag;          // "bcm_l2_addr_s", as messages name it
+    bool is_union = false;
+    std::vector<Variable> fields;
+    Place place;
+    int slot = 0;             // resolved
+    std::size_t size = 0;     // resolved
+    std::size_t align = 0;    // resolved
+};
+
+struct Typedef {
+    std::string name;                 // "bcm_mac_t"
+    std::string type;                 // "unsigned char"
+    std::vector<std::string> bounds;  // {"6"}
+    Place place;
+};
+
+struct TypeRow {
+    std::string mangled;              // "_p_bcm_l2_addr_s"
+    std::vector<std::string> pretty;  // {"bcm_l2_addr_s *", "bcm_l2_addr_t *"}
+    Place place;
+    std::string twin;                 // mangled name of the type that also passes, or empty
+};
+
+struct KindRow {
+    std::string type;  // "bcm_gport_t"
+    Kind kind = Kind::none;
+    std::size_t size = 0;   // of a value
+    std::size_t align = 0;
+    Place place;
+};
+
+// One step of filling the module dictionary.
+struct InstallRow {
+    enum class What { constant, cvar, link } what = What::constant;
+    std::string name;         // "bcmColorGreen"
+    std::int64_t value = 0;
+    Place place;
+};
+
+struct GlobalVariable {
+    std::string name;      // "sh_rcload_depth"
+    std::string type;      // "int"
+    std::string kind;      // "int"
+    std::string mangled;   // "_p_int", or "-"
+    std::string detail;    // "66", or "-"
+    Place place;
+    int slot = 0;          // resolved
+};
+
+struct Departure {
+    std::string word;     // "hidden-output"
+    std::string row;      // "bcm_field_entry_create"
+    std::string details;  // "entry"
+    std::string reason;   // "the id is the result that callers want"
+    Place place;
+    bool used = false;
+};
+
+struct Model {
+    std::vector<std::string> headers;  // bound headers in path order
+    std::vector<Function> functions;
+    std::vector<Struct> structs;
+    std::vector<Typedef> typedefs;
+    std::map<std::string, std::string> aliases;  // "bcm_pkt_t" -> "bcm_pkt_s"
+    std::map<std::string, std::string> defines;  // "SOC_MAX_NUM_DEVICES" -> "66"
+    std::map<std::string, std::string> purposes; // header -> its first comment
+    std::vector<TypeRow> types;
+    std::vector<KindRow> kinds;
+    std::vector<InstallRow> install;
+    std::vector<GlobalVariable> variables;
+    std::vector<Departure> departures;
+};
+
+// "unsigned char [16]": a declared type with its bounds.
+std::string spelled(const std::string &type, const std::vector<std::string> &bounds);
+
+// The name of a kind as the tables write it, "signed-32".
+const char *kind_name(Kind kind);
+
+}  // namespace generator
