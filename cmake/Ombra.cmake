@@ -1,0 +1,47 @@
+# Shared by all folders: the interpreter as targets, warnings, and the generator's outputs.
+
+set(OMBRA_MADE ${CMAKE_BINARY_DIR}/made)
+
+# Interpreters as targets: `python27` carries the headers, `python27_embed` the library as well;
+# the same with `_debug` in a tree for the debug interpreter. A module never links the library: it
+# runs inside a program that has it.
+function(ombra_interpreter target include_dir library)
+    add_library(${target} INTERFACE)
+    target_include_directories(${target} SYSTEM INTERFACE ${include_dir})
+    add_library(${target}_embed INTERFACE)
+    target_link_libraries(${target}_embed INTERFACE ${target} ${library})
+endfunction()
+
+ombra_interpreter(python27 ${PYTHON27_INCLUDE_DIR} "${PYTHON27_LIBRARY}")
+if(OMBRA_DEBUG_INTERPRETER)
+    ombra_interpreter(python27_debug ${PYTHON27_DEBUG_INCLUDE_DIR} "${PYTHON27_DEBUG_LIBRARY}")
+endif()
+
+# Our own code is clean under these, and stays so. Left out: two warnings that g++ 12 raises on
+# std::string itself.
+function(ombra_warnings target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Werror
+        -Wno-restrict -Wno-maybe-uninitialized)
+endfunction()
+
+# An object library of the module, for each interpreter of this tree: `name`, and `name_d` for the
+# debug interpreter. Hidden symbols: the module exports what api/exports.map lists.
+function(ombra_module_objects name)
+    foreach(variant "" _d)
+        if(variant STREQUAL "")
+            set(python python27)
+        elseif(OMBRA_DEBUG_INTERPRETER)
+            set(python python27_debug)
+        else()
+            continue()
+        endif()
+        add_library(${name}${variant} OBJECT ${ARGN})
+        target_link_libraries(${name}${variant} PUBLIC ${python})
+        set_target_properties(${name}${variant} PROPERTIES
+            CXX_VISIBILITY_PRESET hidden
+            VISIBILITY_INLINES_HIDDEN ON)
+        ombra_warnings(${name}${variant})
+        add_dependencies(${name}${variant} made)
+    endforeach()
+endfunction()
