@@ -1,0 +1,69 @@
+# The front door. Everything behind it is done by setup/ (a fresh machine) and CMake
+# (the build); this file only says in which order.
+
+SHELL := /bin/bash
+.DEFAULT_GOAL := help
+.NOTPARALLEL:
+
+JOBS ?= $(shell nproc)
+prefix ?= /usr/local
+DESTDIR ?=
+export DESTDIR PYTHON27 PYTHON27_DEBUG
+
+compile := cmake --build build --parallel $(JOBS)
+compile_debug := cmake --build build/debug --parallel $(JOBS)
+
+# Runs its argument under the interpreter that was built for, with the fresh module.
+python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
+have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
+
+.PHONY: help demo test build debug bench docs fuzz install format tidy setup configure clean
+
+demo: build ## install what is missing, build, and run the quick start
+	@$(call python,examples/quickstart.py)
+
+test: build debug ## the same, and every test: release, then debug interpreter and sanitizers
+	@tests/run/ctest_all.sh $(JOBS)
+
+build: configure ## the module, its libraries and Python files, together in build/lib
+	@$(compile)
+
+debug: configure ## the same under the debug interpreter and sanitizers, in build/debug
+	@if $(have_debug); then setup/configure.sh debug && $(compile_debug); fi
+
+bench: build ## compare with hand-written extension code and with ctypes
+	@$(compile) --target bench
+
+docs: build ## the reference, made from the declarations
+	@$(compile) --target docs
+
+fuzz: setup ## feed the parsers and the conversions hostile input
+	@setup/packages.sh fuzz
+	@setup/configure.sh fuzz
+	@cmake --build build/fuzz --parallel $(JOBS) --target fuzz
+
+install: build ## install below DESTDIR and prefix (/usr/local)
+	@cmake --install build --prefix "$(prefix)"
+
+format: ## lay out all C++ sources by .clang-format
+	@setup/packages.sh format
+	@git ls-files -z --cached --others --exclude-standard '*.h' '*.cpp' ':!tests/generator/*/*' | \
+	    xargs -0 -r clang-format -i
+
+tidy: build ## static checks by .clang-tidy
+	@setup/packages.sh tidy
+	@run-clang-tidy -quiet -p build -j $(JOBS) '^$(CURDIR)/(?!build/)'
+
+setup: ## install what is missing on this machine, nothing else
+	@setup/packages.sh build
+	@setup/python27.sh build/python27.env
+
+configure: setup
+	@setup/configure.sh release
+
+clean: ## remove all that was built
+	rm -rf build
+
+help: ## this list
+	@echo "usage: make TARGET [PYTHON27=/path/to/python2.7] [JOBS=n] [prefix=/usr/local] [DESTDIR=]"
+	@sed -n 's/^\([a-z]*\):[^#]*## \(.*\)/  \1\t\2/p' Makefile | expand -t 12

@@ -1,0 +1,25 @@
+#!/bin/bash
+# Installs what a group of make targets needs and the machine lacks. Does nothing,
+# in a fraction of a second, when all of it is there.
+#
+# usage: setup/packages.sh build|format|tidy|fuzz
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. setup/lib.sh
+
+case "${1:-}" in
+    # g++ brings the runtimes of AddressSanitizer and UBSan along.
+    build)  packages=(g++ cmake ninja-build libgtest-dev libedit-dev) ;;
+    format) packages=(clang-format) ;;
+    tidy)   packages=(clang-tidy) ;;
+    fuzz)   packages=(clang libclang-rt-dev) ;;
+    *)      die "usage: setup/packages.sh build|format|tidy|fuzz" ;;
+esac
+
+mapfile -t missing < <(missing_packages "${packages[@]}")
+[ "${#missing[@]}" -gt 0 ] || exit 0
+
+require_root "installing ${missing[*]}"
+step "Packages: installing ${missing[*]}"
+update_lists
+install_packages "${missing[@]}"
