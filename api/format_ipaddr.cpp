@@ -4,7 +4,7 @@
 #include <array>
 
 #include "api/hand_rows.h"
-#include "convert/frame.h"
+#include "convert/frame_body.h"
 #include "native/values.h"
 #include "sdk/diag/format.h"
 

@@ -3,7 +3,7 @@
 #include <new>
 
 #include "api/hand_rows.h"
-#include "convert/frame.h"
+#include "convert/frame_body.h"
 #include "generated/type_slots.h"
 #include "runtime/append_output.h"
 #include "sdk/bcm/l2.h"

@@ -47,12 +47,11 @@ PyObject *TesselApiSetExt84328MdioAccessWrapper(int unit, int phyId, PyObject *p
 }
 
 PyObject *findChipMemory(const CallRow &by_address, PyObject *args) {
-    static constexpr CallRow by_base{
-        "findChipMemory",
+    CallRow by_base = by_address;  // the name and the result's type are those of the first shape
+    by_base.texts =
         "in method 'findChipMemory', argument 1 of type 'int'\0"
         "in method 'findChipMemory', argument 2 of type 'int'\0"
-        "in method 'findChipMemory', argument 3 of type 'int'",
-        {}};
+        "in method 'findChipMemory', argument 3 of type 'int'";
     return find_chip_memory({by_address, by_base}, args);
 }
 

@@ -8,6 +8,37 @@
 namespace ombra {
 namespace {
 
+constexpr unsigned kSelf = 0;
+constexpr unsigned kField = 1;
+
+// Takes `self` out of a getter's tuple. False with an exception for a wrong count, a wrong type or
+// a null pointer.
+bool read_self(const FieldRow &row, PyObject *args, void *&self) {
+    PyObject *object = nullptr;
+    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 1, 1, &object)) {
+        return false;
+    }
+    const int status = SWIG_Python_ConvertPtrAndOwn(object, &self, slot(row.call, kSelf), 0);
+    if (status < 0) {
+        return refuse(row.call, kSelf, status);
+    }
+    return self != nullptr || refuse_null(row.call, kSelf);
+}
+
+// Takes both arguments of a setter apart and converts `self`, which may come out null.
+bool read_setter(const FieldRow &row, PyObject *args, void *&self, PyObject *&value) {
+    PyObject *object = nullptr;
+    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 2, 2, &object, &value)) {
+        return false;
+    }
+    const int status = SWIG_Python_ConvertPtrAndOwn(object, &self, slot(row.call, kSelf), 0);
+    return status >= 0 || refuse(row.call, kSelf, status);
+}
+
+void *field_address(const FieldRow &row, void *self) {
+    return static_cast<unsigned char *>(self) + row.offset;
+}
+
 // A text or MAC or array setter has no store to skip: a null `self` is refused.
 bool require_self(const FieldRow &row, const void *self) {
     return self != nullptr || refuse_null(row.call, kSelf);
@@ -65,6 +96,50 @@ PyObject *set_text_field(const FieldRow &row, PyObject *args, bool free_old) {
 }
 
 }  // namespace
+
+template <typename Kind>
+PyObject *get_value(const FieldRow &row, PyObject *args) {
+    void *self = nullptr;
+    if (!read_self(row, args, self)) {
+        return nullptr;
+    }
+    typename Kind::Native value;
+    std::memcpy(&value, field_address(row, self), sizeof value);
+    return Kind::result(value, row.call);
+}
+
+template <typename Kind>
+PyObject *set_value(const FieldRow &row, PyObject *args) {
+    void *self = nullptr;
+    PyObject *object = nullptr;
+    Kind value;
+    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField)) {
+        return nullptr;
+    }
+    if (self != nullptr) {
+        const typename Kind::Native native = value.native();
+        std::memcpy(field_address(row, self), &native, sizeof native);
+    }
+    Py_RETURN_NONE;
+}
+
+#define OMBRA_FIELD_KIND(Kind)                                       \
+    template PyObject *get_value<Kind>(const FieldRow &, PyObject *); \
+    template PyObject *set_value<Kind>(const FieldRow &, PyObject *)
+
+OMBRA_FIELD_KIND(Int8);
+OMBRA_FIELD_KIND(Int16);
+OMBRA_FIELD_KIND(Int32);
+OMBRA_FIELD_KIND(UInt8);
+OMBRA_FIELD_KIND(UInt16);
+OMBRA_FIELD_KIND(UInt32);
+OMBRA_FIELD_KIND(UInt64);
+OMBRA_FIELD_KIND(Address32);
+OMBRA_FIELD_KIND(StrictBool);
+OMBRA_FIELD_KIND(PortList);
+template PyObject *set_value<FunctionPointer>(const FieldRow &, PyObject *);
+
+#undef OMBRA_FIELD_KIND
 
 PyObject *get_copy(const FieldRow &row, PyObject *args) {
     void *self = nullptr;

@@ -19,63 +19,12 @@
 
 namespace ombra {
 
-inline constexpr unsigned kSelf = 0;
-inline constexpr unsigned kField = 1;
-
-// Takes `self` out of a getter's tuple. False with an exception for a wrong count, a wrong type or
-// a null pointer.
-inline bool read_self(const FieldRow &row, PyObject *args, void *&self) {
-    PyObject *object = nullptr;
-    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 1, 1, &object)) {
-        return false;
-    }
-    const int status = SWIG_Python_ConvertPtrAndOwn(object, &self, slot(row.call, kSelf), 0);
-    if (status < 0) {
-        return refuse(row.call, kSelf, status);
-    }
-    return self != nullptr || refuse_null(row.call, kSelf);
-}
-
-// Takes both arguments of a setter apart and converts `self`, which may come out null.
-inline bool read_setter(const FieldRow &row, PyObject *args, void *&self, PyObject *&value) {
-    PyObject *object = nullptr;
-    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 2, 2, &object, &value)) {
-        return false;
-    }
-    const int status = SWIG_Python_ConvertPtrAndOwn(object, &self, slot(row.call, kSelf), 0);
-    return status >= 0 || refuse(row.call, kSelf, status);
-}
-
-inline void *field_address(const FieldRow &row, void *self) {
-    return static_cast<unsigned char *>(self) + row.offset;
-}
-
-// Numbers, bool, port lists and opaque values: the field's native value, in and out.
+// Numbers, bool and port lists: the field's native value, in and out. FunctionPointer stores a
+// native function.
 template <typename Kind>
-PyObject *get_value(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    if (!read_self(row, args, self)) {
-        return nullptr;
-    }
-    typename Kind::Native value;
-    std::memcpy(&value, field_address(row, self), sizeof value);
-    return Kind::result(value, row.call);
-}
-
+PyObject *get_value(const FieldRow &row, PyObject *args);
 template <typename Kind>
-PyObject *set_value(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    PyObject *object = nullptr;
-    Kind value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField)) {
-        return nullptr;
-    }
-    if (self != nullptr) {
-        const typename Kind::Native native = value.native();
-        std::memcpy(field_address(row, self), &native, sizeof native);
-    }
-    Py_RETURN_NONE;
-}
+PyObject *set_value(const FieldRow &row, PyObject *args);
 
 // Opaque values of any size: an owned heap copy out.
 PyObject *get_copy(const FieldRow &row, PyObject *args);

@@ -12,7 +12,7 @@
 
 #include "classes/accessor.h"
 #include "classes/live_arrays.h"
-#include "convert/frame.h"
+#include "convert/frame_body.h"
 
 namespace ombra {
 
@@ -35,7 +35,7 @@ PyObject *assign_box(const CallRow &row, PyObject *args) {
     return call_with<Pointer, Kind>(
         row, args, [&](void *self, typename Kind::Native value) -> PyObject * {
             if (self == nullptr) {
-                refuse_null(row, kSelf);
+                refuse_null(row, 0);
                 return nullptr;
             }
             std::memcpy(self, &value, sizeof value);
@@ -47,7 +47,7 @@ template <typename Kind>
 PyObject *box_value(const CallRow &row, PyObject *args) {
     return call_with<Pointer>(row, args, [&](void *self) -> PyObject * {
         if (self == nullptr) {
-            refuse_null(row, kSelf);
+            refuse_null(row, 0);
             return nullptr;
         }
         typename Kind::Native value;
@@ -97,7 +97,7 @@ PyObject *delete_array(const CallRow &row, PyObject *args) {
 // a live one.
 inline void *element_address(const CallRow &row, void *array, int index, std::size_t size) {
     if (array == nullptr) {
-        refuse_null(row, kSelf);
+        refuse_null(row, 0);
         return nullptr;
     }
     const std::size_t *length = array_length(array);

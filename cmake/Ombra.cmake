@@ -15,6 +15,9 @@ endfunction()
 ombra_interpreter(python27 ${PYTHON27_INCLUDE_DIR} "${PYTHON27_LIBRARY}")
 if(OMBRA_DEBUG_INTERPRETER)
     ombra_interpreter(python27_debug ${PYTHON27_DEBUG_INCLUDE_DIR} "${PYTHON27_DEBUG_LIBRARY}")
+    # The debug headers are links to the release ones but for the configuration: g++ must not follow
+    # the links before it looks for that.
+    target_compile_options(python27_debug INTERFACE -fno-canonical-system-headers)
 endif()
 
 # Our own code is clean under these, and stays so. Left out: two warnings that g++ 12 raises on

@@ -2,8 +2,12 @@
 // parameter, which Python does not pass, and which joins the result as [status, number].
 #pragma once
 
+#include <cstddef>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
 #include "convert/frame.h"
-#include "runtime/append_output.h"
 
 namespace ombra {
 
@@ -24,13 +28,7 @@ struct AppendCall<Result(Args...)> {
         return reinterpret_cast<Native>(reinterpret_cast<void (*)()>(function));
     }
 
-    [[gnu::noinline]] static PyObject *run(const CallRow &row, Native native, PyObject *args) {
-        return call_with<Args...>(row, args, [&](typename Args::Native... values) {
-            int output = 0;
-            PyObject *status = Result::result(native(values..., &output), row);
-            return SWIG_Python_AppendOutput(status, PyInt_FromLong(output));
-        });
-    }
+    static PyObject *run(const CallRow &row, Native native, PyObject *args);
 
    private:
     template <typename... P, std::size_t... I>

@@ -8,16 +8,12 @@
 //
 // The frame is instantiated once for each shape, the tuple of result and argument kinds. An entry
 // `_wrap_NAME` is a few instructions: it loads the row's record and the native function's address
-// and jumps here.
+// and jumps here. The steps stand in frame_body.h.
 #pragma once
 
 #include <Python.h>
-#include <cxxabi.h>
 
-#include <cstddef>
-#include <tuple>
 #include <type_traits>
-#include <utility>
 
 #include "convert/kinds.h"
 
@@ -66,60 +62,8 @@ struct Call<Result(Args...)> {
         return reinterpret_cast<Native>(reinterpret_cast<void (*)()>(function));
     }
 
-    [[gnu::noinline]] static PyObject *run(const CallRow &row, Native native, PyObject *args) {
-        return run(row, native, args, std::index_sequence_for<Args...>());
-    }
-
-   private:
-    template <std::size_t... I>
-    [[gnu::always_inline]] static PyObject *run(const CallRow &row, Native native, PyObject *args,
-                                                std::index_sequence<I...>) {
-        constexpr auto count = static_cast<Py_ssize_t>(sizeof...(Args));
-        [[maybe_unused]] PyObject *items[sizeof...(Args) + 1] = {};
-        if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...)) {
-            return nullptr;  // 1
-        }
-        [[maybe_unused]] std::tuple<Args...> values;
-        if (!(std::get<I>(values).read(items[I], row, I) && ...)) {
-            return nullptr;  // 2
-        }
-        try {
-            if constexpr (std::is_void_v<typename Result::Native>) {
-                native(std::get<I>(values).native()...);  // 3
-                Py_RETURN_NONE;
-            } else {
-                return Result::result(native(std::get<I>(values).native()...), row);  // 3, 4
-            }
-        } catch (abi::__forced_unwind &) {
-            throw;
-        } catch (...) {
-            return native_exception();
-        }
-    }
+    // Defined in frame_body.h, and instantiated once for each shape by generated code.
+    static PyObject *run(const CallRow &row, Native native, PyObject *args);
 };
-
-// The frame of a hand-written row: reads the arguments, then hands them to `body`, which makes the
-// Python result. `body` takes (row, values...) with the kinds' native types.
-template <typename... Args, typename Body>
-[[gnu::always_inline]] inline PyObject *call_with(const CallRow &row, PyObject *args, Body body) {
-    return [&]<std::size_t... I>(std::index_sequence<I...>) -> PyObject * {
-        constexpr auto count = static_cast<Py_ssize_t>(sizeof...(Args));
-        [[maybe_unused]] PyObject *items[sizeof...(Args) + 1] = {};
-        if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...)) {
-            return nullptr;
-        }
-        [[maybe_unused]] std::tuple<Args...> values;
-        if (!(std::get<I>(values).read(items[I], row, I) && ...)) {
-            return nullptr;
-        }
-        try {
-            return body(std::get<I>(values).native()...);
-        } catch (abi::__forced_unwind &) {
-            throw;
-        } catch (...) {
-            return native_exception();
-        }
-    }(std::index_sequence_for<Args...>());
-}
 
 }  // namespace ombra

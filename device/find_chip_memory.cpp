@@ -3,7 +3,7 @@
 #include <bit>
 #include <limits>
 
-#include "convert/frame.h"
+#include "convert/frame_body.h"
 #include "device/counted_result.h"
 #include "helper/shadow_cxx.h"
 

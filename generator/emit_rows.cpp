@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <set>
 
 #include "generator/emitters.h"
 #include "generator/output.h"
@@ -12,9 +13,8 @@ const std::string kFile = R"(@banner@
 #include "convert/append_frame.h"
 #include "convert/frame.h"
 #include "generated/entries.h"
-#include "api/hand_rows.h"
 #include "runtime/client_data.h"
-
+@hand@
 #include "@header@"
 
 using namespace ombra;
@@ -215,6 +215,25 @@ std::string proof(const Struct &record) {
 
 }  // namespace
 
+std::string emit_shapes(const Model &model, unsigned part) {
+    std::set<std::string> shapes;
+    for (const auto &row : all_rows(model)) {
+        if (row.function != nullptr && row.function->hand_written != "entry") {
+            shapes.insert((row.function->appended.empty() ? "Call<" : "AppendCall<") +
+                          shape_of(row) + ">");
+        }
+    }
+    std::string text = banner("all declarations", "emit_rows.cpp") +
+                       "\n#include \"convert/frame_body.h\"\n\nnamespace ombra {\n\n";
+    std::size_t index = 0;
+    for (const auto &shape : shapes) {
+        if (index++ % kShapeParts == part) {
+            text += "template struct " + shape + ";\n";
+        }
+    }
+    return text + "\n}  // namespace ombra\n";
+}
+
 std::string kind_class(const Conversion &conversion) {
     switch (conversion.kind) {
         case Kind::signed_8: return "Int8";
@@ -263,9 +282,14 @@ std::string emit_rows(const Model &model, const std::string &header) {
     for (const auto &row : rows_of_header(model, header)) {
         text += row_text(row);
     }
+    const bool hand = std::any_of(
+        model.functions.begin(), model.functions.end(), [&](const Function &function) {
+            return function.place.file == header && !function.hand_written.empty();
+        });
     const std::string root = "platform/";
     return fill(kFile,
-                {{"banner", banner(header, "emit_rows.cpp")},
+                {{"hand", hand ? "#include \"api/hand_rows.h\"\n" : ""},
+                 {"banner", banner(header, "emit_rows.cpp")},
                  {"header", header.rfind(root, 0) == 0 ? header.substr(root.size()) : header},
                  {"rows", text}});
 }

@@ -98,13 +98,24 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
         {"install_table.cpp", emit_install_table},
         {"rows_helpers.cpp", emit_helpers},
         {"constant_names.cpp", emit_constant_names},
+        {"standin_layers.txt", emit_standin_layers},
+        {"_OmbraSdkV2Classes.py", emit_proxy},
+        {"companion_elements.cpp", emit_companion_elements},
+        {"companion_callbacks.cpp", emit_companion_callbacks},
         {"model.json", emit_model}};
+    for (unsigned part = 0; part < kShapeParts; ++part) {
+        list.emplace_back("shapes_" + std::to_string(part) + ".cpp",
+                          [part](const Model &whole) { return emit_shapes(whole, part); });
+    }
     for (const auto &header : model.headers) {
         list.emplace_back(rows_file(header),
                           [header](const Model &whole) { return emit_rows(whole, header); });
         if (has_natives_outside(header)) {
             list.emplace_back(recording_file(header), [header](const Model &whole) {
                 return emit_recording(whole, header);
+            });
+            list.emplace_back(standin_file(header), [header](const Model &whole) {
+                return emit_standin(whole, header);
             });
         }
     }
