@@ -1,0 +1,206 @@
+"""From Python objects to native pointers."""
+
+import unittest
+import weakref
+
+import _swig_companion as companion
+import _swig_neighbour as neighbour
+from companion_support import (
+    BASE, CompanionTest, DERIVED, FAILED, found, FUNCTION, INT, INTP, L2_ADDR,
+    UNNAMED)
+
+
+class Proxy(object):
+
+    def __init__(self, this):
+        self.this = this
+
+
+class OldProxy:
+
+    def __init__(self, this):
+        self.this = this
+
+
+class SlotProxy(object):
+    __slots__ = ('this', '__weakref__')
+
+    def __init__(self, this):
+        self.this = this
+
+
+class ClassThis(object):
+    this = companion.make(BASE, 8)
+
+
+class PropertyThis(object):
+    __slots__ = ()
+    kept = companion.make(BASE, 8)
+
+    @property
+    def this(self):
+        return self.kept
+
+
+class FreshThis(object):
+    __slots__ = ()
+
+    @property
+    def this(self):
+        return companion.make(BASE, 8, 0)
+
+
+class RaisingThis(object):
+    __slots__ = ()
+
+    @property
+    def this(self):
+        raise KeyError('this')
+
+
+class CallableProxy(Proxy):
+
+    def __call__(self):
+        return None
+
+
+class ConversionTest(CompanionTest):
+
+    def test_none_is_a_null_pointer_of_every_type(self):
+        for name in (BASE, INT, FUNCTION, None):
+            for flags in (0, companion.FLAG_DISOWN, companion.FLAG_IMPLICIT):
+                self.assertEqual(companion.convert(None, name, flags),
+                                 found(0))
+            self.assertEqual(companion.convert_function(None, name), found(0))
+
+    def test_no_pointers(self):
+        for value in (0, 8, 8L, 1.0, 'this', u'this', (), [], {}, object(),
+                      object, Proxy, OldProxy, companion, len, lambda: 0,
+                      Proxy(None), Proxy(8), OldProxy('x'), SlotProxy(None)):
+            self.assertEqual(companion.convert(value, BASE), FAILED)
+            self.assertEqual(companion.convert(value, None), FAILED)
+            self.assertIsNone(companion.this_of(value))
+
+    def test_ways_to_this(self):
+        pointer = companion.make(BASE, 8)
+        proxy = Proxy(pointer)
+        slot_proxy = SlotProxy(pointer)
+        callable_proxy = CallableProxy(pointer)
+        for value in (pointer, proxy, OldProxy(pointer), slot_proxy,
+                      weakref.proxy(proxy), weakref.proxy(slot_proxy),
+                      weakref.proxy(callable_proxy), Proxy(proxy),
+                      OldProxy(slot_proxy), SlotProxy(OldProxy(proxy)),
+                      Proxy(weakref.proxy(proxy))):
+            self.assertIs(companion.this_of(value), pointer)
+            self.assertEqual(companion.convert(value, BASE), found(8))
+
+    def test_instance_dictionary_decides(self):
+        self.assertEqual(companion.convert(ClassThis(), BASE), FAILED)
+        self.assertEqual(companion.convert(ClassThis, BASE), found(8))
+        self.assertEqual(companion.convert(PropertyThis(), BASE), found(8))
+        self.assertEqual(companion.convert(RaisingThis(), BASE), FAILED)
+        self.assertEqual(companion.convert(Proxy.__new__(Proxy), BASE), FAILED)
+
+    def test_this_that_nobody_keeps(self):
+        self.assertEqual(companion.convert(FreshThis(), BASE), FAILED)
+
+    def test_dead_weak_proxy(self):
+        dead = weakref.proxy(Proxy(companion.make(BASE, 8)))
+        self.assertEqual(companion.convert(dead, BASE), FAILED)
+
+    def test_this_in_a_ring(self):
+        one, two = Proxy(None), OldProxy(None)
+        one.this, two.this = two, one
+        self.assertEqual(companion.convert(one, BASE), FAILED)
+        one.this = one
+        self.assertEqual(companion.convert(one, None), FAILED)
+
+    def test_types_and_casts(self):
+        for source, wanted, expected in (
+                (BASE, BASE, found(64)), (BASE, None, found(64)),
+                (None, None, found(64)), (None, BASE, FAILED),
+                (DERIVED, BASE, found(72)), (BASE, DERIVED, FAILED),
+                (UNNAMED, BASE, found(64)), (UNNAMED, L2_ADDR, found(64)),
+                (L2_ADDR, UNNAMED, FAILED), (INTP, INT, found(64)),
+                (INT, INTP, FAILED), (INT, BASE, FAILED)):
+            for module in (companion, neighbour):
+                pointer = module.make(source, 64)
+                self.assertEqual(companion.convert(pointer, wanted), expected)
+
+    def test_check_moves_the_hit_to_the_front(self):
+        names = sorted(companion.cast_order(BASE))
+        self.assertEqual(names, [BASE, DERIVED, UNNAMED])
+        for source in (DERIVED, UNNAMED, BASE, BASE, DERIVED):
+            self.assertIs(companion.type_check(source, BASE), True)
+            order = companion.cast_order(BASE)
+            self.assertEqual(order[0], source)
+            self.assertEqual(sorted(order), names)
+            self.assertIs(companion.type_check(INT, BASE), False)
+            self.assertEqual(neighbour.cast_order(BASE), order)
+
+    def test_chain_passes_by_the_link_that_fits(self):
+        head = companion.make(INT, 8, 1)
+        middle = companion.make(DERIVED, 64, 1)
+        last = companion.make(BASE, 128, 1)
+        head.append(middle)
+        middle.append(last)
+        self.assertEqual(companion.convert(head, INT), found(8))
+        self.assertEqual(companion.convert(head, BASE), found(72))
+        self.assertEqual(companion.convert(head, L2_ADDR), FAILED)
+        self.assertEqual(
+            companion.convert(Proxy(head), BASE, companion.FLAG_DISOWN),
+            found(72))
+        self.assertEqual([link.own() for link in (head, middle, last)],
+                         [True, False, True])
+        head.disown()
+        last.disown()
+
+    def test_disown(self):
+        for value in (companion.make(BASE, 8, 1), neighbour.make(BASE, 8, 1)):
+            self.assertEqual(
+                companion.convert(value, INT, companion.FLAG_DISOWN), FAILED)
+            self.assertIs(value.own(), True)
+            self.assertEqual(
+                companion.convert(value, BASE, companion.FLAG_DISOWN),
+                found(8))
+            self.assertIs(value.own(), False)
+
+
+class FunctionConversionTest(CompanionTest):
+
+    def test_exported_callback(self):
+        text = companion.callback.__doc__
+        self.assertRegexpMatches(
+            text, r'^callback\(number\) -> int swig_ptr: _[0-9a-f]{16}%s$'
+            % FUNCTION)
+        for module in (companion, neighbour):
+            status, address = companion.convert_function(module.callback,
+                                                         FUNCTION)
+            self.assertEqual(status, companion.STATUS_OK)
+            self.assertEqual(address, int(module.callback_address))
+            self.assertEqual(companion.call(address, 41), 42)
+
+    def test_null_callback(self):
+        self.assertEqual(
+            companion.convert_function(companion.null_callback, FUNCTION),
+            found(0))
+
+    def test_wrong_type(self):
+        for function in (companion.callback, companion.make, len):
+            self.assertEqual(companion.convert_function(function, INT), FAILED)
+            self.assertEqual(companion.convert_function(function, None),
+                             FAILED)
+
+    def test_other_objects_pass_by_the_usual_rules(self):
+        pointer = companion.callback_address
+        self.assertEqual(companion.convert_function(pointer, FUNCTION),
+                         found(int(pointer)))
+        self.assertEqual(companion.convert_function(pointer, INT), FAILED)
+        for value in (lambda number: number, companion.callback.__doc__,
+                      int, [].append, self.test_wrong_type):
+            self.assertEqual(companion.convert_function(value, FUNCTION),
+                             FAILED)
+
+
+if __name__ == '__main__':
+    unittest.main()

@@ -1,0 +1,174 @@
+#include "runtime/module_entry.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "runtime/module_list.h"
+#include "runtime/packed_object.h"
+#include "tests/unit/runtime/tiny_module.h"
+
+namespace {
+
+using ombra::PyRef;
+using ModuleEntryTest = tiny::Test;
+
+// repr() of an expression in the module's dictionary, or the text of its exception.
+std::string evaluate(const char *expression) {
+    PyObject *globals = tiny::dictionary();
+    const PyRef value(PyRun_String(expression, Py_eval_input, globals, globals));
+    return value != nullptr ? tiny::repr(value.get()) : tiny::take_error(PyExc_Exception);
+}
+
+// Runs a statement, returns the text of its exception, which has to be of the class.
+std::string refused(const char *statement, PyObject *exception_class) {
+    PyObject *globals = tiny::dictionary();
+    const PyRef done(PyRun_String(statement, Py_file_input, globals, globals));
+    return done == nullptr ? tiny::take_error(exception_class) : "";
+}
+
+TEST_F(ModuleEntryTest, FillsTheDictionary) {
+    EXPECT_EQ(evaluate("(least, two, most)"), "(-2147483648, 2, 2147483647)");
+    EXPECT_EQ(evaluate("target").find("<Swig Object of type 'tiny_t *' at 0x"), 0U);
+    EXPECT_EQ(evaluate("target.own()"), "False");
+    EXPECT_EQ(evaluate("(packed, str(packed))"),
+              "(<Swig Packed at _07000000_p_int>, '_07000000_p_int')");
+    EXPECT_EQ(evaluate("nothing"), "None");
+    EXPECT_EQ(evaluate("skipped"), "name 'skipped' is not defined");
+    EXPECT_EQ(evaluate("__doc__"), "None");
+    EXPECT_EQ(evaluate("SWIG_PyInstanceMethod_New(0)"), "error return without exception set");
+}
+
+TEST_F(ModuleEntryTest, VariableLink) {
+    EXPECT_EQ(evaluate("(cvar, str(cvar))"), "(<Swig global variables>, '(limit, silent, level)')");
+    EXPECT_EQ(refused("cvar.level = 5", PyExc_Exception), "");
+    EXPECT_EQ(evaluate("(cvar.level, cvar.limit)"), "(5, 5)");
+    EXPECT_EQ(refused("cvar.level = 'x'", PyExc_TypeError), "an integer is required");
+    const char *unknown = "Unknown C global variable 'other'";
+    EXPECT_EQ(refused("cvar.other", PyExc_AttributeError), unknown);
+    EXPECT_EQ(refused("cvar.other = 1", PyExc_AttributeError), unknown);
+    EXPECT_EQ(refused("del cvar.other", PyExc_AttributeError), unknown);
+    EXPECT_EQ(refused("del cvar.level", PyExc_TypeError), "can't delete variable 'level' of cvar");
+    const char *read_only = "Variable limit is read-only.";
+    EXPECT_EQ(refused("cvar.limit = 1", PyExc_AttributeError), read_only);
+    EXPECT_EQ(refused("del cvar.limit", PyExc_AttributeError), read_only);
+    const char *silent = "Unknown C global variable 'silent'";
+    EXPECT_EQ(refused("cvar.silent", PyExc_AttributeError), silent);
+    EXPECT_EQ(refused("cvar.silent = 1", PyExc_AttributeError), silent);
+    EXPECT_EQ(evaluate("cvar.level"), "5");
+}
+
+// Runs the entry in a second interpreter, in a process of its own: the variables go into the one
+// link object once more, the constants into the new dictionary, and types and casts stay.
+TEST(ModuleEntryDeathTest, SecondInterpreter) {
+    const auto run = [] {
+        swig_type_info *const shape = tiny::type(tiny::shape);
+        const swig_cast_link *const head = shape->casts;
+        PyObject *const first = tiny::dictionary();
+        Py_NewInterpreter();
+        tiny::import_module();
+        const bool good = tiny::dictionary() != first && tiny::type(tiny::shape) == shape &&
+                          shape->casts == head && evaluate("two") == "2" &&
+                          evaluate("str(cvar)") == "'(limit, silent, level, limit, silent, level)'";
+        std::_Exit(good ? 0 : 1);
+    };
+    EXPECT_EXIT(run(), ::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ModuleEntryTest, LaterLinkHidesAnEarlierOne) {
+    const PyRef link(SWIG_Python_newvarlink());
+    const auto one = [] { return PyInt_FromLong(1); };
+    const auto two = [] { return PyInt_FromLong(2); };
+    EXPECT_TRUE(SWIG_Python_addvarlink(link.get(), "x", one, nullptr));
+    EXPECT_TRUE(SWIG_Python_addvarlink(link.get(), "x", two, nullptr));
+    const PyRef value(PyObject_GetAttrString(link.get(), "x"));
+    EXPECT_EQ(tiny::repr(value.get()), "2");
+    const PyRef text(PyObject_Str(link.get()));
+    EXPECT_STREQ(PyString_AsString(text.get()), "(x, x)");
+}
+
+// Prints an object as the print statement does to a real file.
+std::string printed(PyObject *object) {
+    char text[2048] = "";
+    FILE *file = fmemopen(text, sizeof text, "w");
+    EXPECT_EQ(PyObject_Print(object, file, 0), 0);
+    std::fclose(file);
+    return text;
+}
+
+TEST_F(ModuleEntryTest, PackedObjectsShowUpTo511Bytes) {
+    const std::string bytes(512, '\x5a');
+    std::string digits;
+    for (int count = 0; count < 511; ++count) {
+        digits += "5a";
+    }
+    swig_type_info *type = tiny::type(tiny::shape);
+    const PyRef longest(SwigPyPacked_New(bytes.data(), 511, type));
+    EXPECT_EQ(tiny::repr(longest.get()), "<Swig Packed at _" + digits + "_p_Shape>");
+    EXPECT_EQ(printed(longest.get()), "<Swig Packed at _" + digits + "_p_Shape>");
+    const PyRef longer(SwigPyPacked_New(bytes.data(), 512, type));
+    EXPECT_EQ(tiny::repr(longer.get()), "<Swig Packed _p_Shape>");
+    EXPECT_EQ(printed(longer.get()), "<Swig Packed _p_Shape>");
+    const PyRef text(PyObject_Str(longer.get()));
+    EXPECT_STREQ(PyString_AsString(text.get()), "_p_Shape");
+    EXPECT_EQ(printed(SWIG_Python_cvar()), "Swig global variables (limit, silent, level)\n");
+}
+
+TEST_F(ModuleEntryTest, PackedObjectsOrderBySizeThenBytes) {
+    const struct {
+        const char *left, *right;
+        std::size_t left_size, right_size;
+        int expected;
+    } cases[] = {
+        {"z", "aa", 1, 2, -1},  {"aa", "z", 2, 1, 1},      {"ab", "aa", 2, 2, 1},
+        {"aa", "ab", 2, 2, -1}, {"a\0b", "a\0c", 3, 3, 0}, {"", "", 0, 0, 0},
+    };
+    for (const auto &entry : cases) {
+        const PyRef left(SwigPyPacked_New(entry.left, entry.left_size, tiny::type(tiny::shape)));
+        const PyRef right(SwigPyPacked_New(entry.right, entry.right_size, tiny::type(tiny::shape)));
+        EXPECT_EQ(PyObject_Compare(left.get(), right.get()), entry.expected) << entry.left;
+    }
+}
+
+TEST_F(ModuleEntryTest, DocstringsOfCallbacksGetTheAddress) {
+    const swig_const_row rows[] = {
+        {SWIG_CONST_PACKED, "packed", 1, nullptr, nullptr},
+        {SWIG_CONST_POINTER, "null", 0, nullptr, &swig_type_slots[tiny::integer]},
+        {SWIG_CONST_POINTER, "call", 0, reinterpret_cast<void *>(0x0102030405060708),
+         &swig_type_slots[tiny::integer]},
+        {SWIG_CONST_POINTER, "callback", 0, reinterpret_cast<void *>(1),
+         &swig_type_slots[tiny::character]},
+        {SWIG_CONST_END, nullptr, 0, nullptr, nullptr},
+    };
+    const char *patched = "f(int) swig_ptr: _0807060504030201_p_int";
+    const struct {
+        const char *before, *after;
+    } cases[] = {
+        {"f(int) swig_ptr: call", patched},     {"f(int) swig_ptr: call and more", patched},
+        {"f(int) swig_ptr: callback", patched},  // the first row that is a prefix
+        {"swig_ptr: null", "swig_ptr: null"},   {"swig_ptr: packed", "swig_ptr: packed"},
+        {"swig_ptr: other", "swig_ptr: other"}, {"f(int) call", "f(int) call"},
+    };
+    for (const auto &entry : cases) {
+        PyMethodDef methods[] = {{"plain", nullptr, METH_VARARGS, nullptr},
+                                 {"f", nullptr, METH_VARARGS, entry.before},
+                                 {nullptr, nullptr, 0, nullptr}};
+        SWIG_Python_PatchDocstrings(methods, rows, swig_type_seeds, swig_type_slots);
+        EXPECT_STREQ(methods[1].ml_doc, entry.after);
+        EXPECT_EQ(methods[0].ml_doc, nullptr);
+        if (methods[1].ml_doc != entry.before) {
+            std::free(const_cast<char *>(methods[1].ml_doc));
+        }
+    }
+}
+
+TEST_F(ModuleEntryTest, SetConstantLeavesOneReference) {
+    const PyRef value(PyFloat_FromDouble(0.5));
+    SWIG_Python_SetConstant(tiny::dictionary(), "half", ombra::new_ref(value.get()).release());
+    EXPECT_EQ(Py_REFCNT(value.get()), 2);
+    SWIG_Python_SetConstant(tiny::dictionary(), "missing", nullptr);
+    EXPECT_EQ(PyDict_GetItemString(tiny::dictionary(), "missing"), nullptr);
+}
+
+}  // namespace
