@@ -1,0 +1,139 @@
+// Devices, and the order in which chips and layers start and stop.
+#include <functional>
+
+#include "chip_fixture.h"
+#include "sdk/bcm/init.h"
+#include "sdk/bcm/vlan.h"
+#include "sdk/diag/appl.h"
+#include "sdk/variables.h"
+#include "standin/chip/soc_control.h"
+
+namespace standin {
+namespace {
+
+struct Devices : ::testing::Test {
+    void SetUp() override { standin_reset(); }
+    void TearDown() override { standin_reset(); }
+};
+
+TEST_F(Devices, AddressIsTheIdentity) {
+    EXPECT_EQ(addOmbraDevice(0, 1, 0, 0), 0);
+    EXPECT_EQ(addOmbraFapDeviceUnmapped(0, 2, 0, 0, 1), 1);
+    EXPECT_EQ(addOmbraFeDeviceUnmapped(0, 1, 0, 0, 0), BCM_E_EXISTS);
+    EXPECT_EQ(getNumDevices(), 2);
+    EXPECT_NE(getDevId(0), getDevId(1));
+    EXPECT_EQ(getDevId(2), 0xffffffffu);
+
+    rewireOmbraDeviceNoRemap(0, 0, 2, 0, 0);  // taken, so nothing moves
+    EXPECT_EQ(addOmbraDevice(0, 1, 0, 0), BCM_E_EXISTS);
+    rewireOmbraDeviceRemap(0, 0, 9, 0, 0);
+    EXPECT_EQ(addOmbraDevice(0, 1, 0, 0), 2);
+}
+
+TEST_F(Devices, TableHoldsSixtySix) {
+    for (int i = 0; i < 66; ++i) {
+        ASSERT_EQ(addOmbraDevice(0, static_cast<std::uint8_t>(i), 0, 0), i);
+        ASSERT_NE(soc_control[i], nullptr);
+    }
+    EXPECT_EQ(addOmbraDevice(1, 0, 0, 0), BCM_E_FULL);
+    EXPECT_EQ(bcm_unit_max(), 65);
+    standin_reset();
+    EXPECT_EQ(soc_control[65], nullptr);
+}
+
+TEST_F(Devices, StandbyTellsWhatItWasTold) {
+    ASSERT_EQ(addOmbraDevice(0, 1, 0, 0), 0);
+    const std::uint32_t own = getDevId(0);
+    standbyDevIdIs(0, 7);
+    standbyRevIdIs(0, 8);
+    standbyNumDevicesIs(5);
+    standbyDevIdIs(-1, 7);  // no unit: nobody is harmed
+    standbyRevIdIs(66, 7);
+    EXPECT_EQ(getDevId(0), own);
+    EXPECT_EQ(getNumDevices(), 1);
+    standbySupIs(true);
+    EXPECT_EQ(getDevId(0), 7u);
+    EXPECT_EQ(getDevRev(0), 8u);
+    EXPECT_EQ(getNumDevices(), 5);
+}
+
+TEST_F(Devices, ControlRecordHasTheCopyNumbers) {
+    ASSERT_EQ(addOmbraDevice(0, 1, 0, 0), 0);
+    const auto *words = reinterpret_cast<const std::int32_t *>(soc_control[0]);
+    const std::size_t per_core[] = {0x1c0e0, 0x1c104, 0x1c10c, 0x1c120};
+    const std::size_t all_cores[] = {0x1c620, 0x1c628, 0x1c62c, 0x1c634};
+    for (int kind = 0; kind < 4; ++kind) {
+        const std::int32_t *cores = words + per_core[kind] / 4;
+        EXPECT_EQ(cores[1], cores[0] + 1);
+        EXPECT_EQ(words[all_cores[kind] / 4], cores[0] + 2);
+    }
+    EXPECT_EQ(words[(kMemoryCells + 4 * (kMemories - 1)) / 4], (kMemories - 1) % 8);
+}
+
+// Each step: a call, and what it has to answer at this point.
+struct Step {
+    const char *what;
+    std::function<int()> call;
+    int answer;
+};
+
+void run(const std::vector<Step> &steps) {
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        EXPECT_EQ(steps[i].call(), steps[i].answer) << "step " << i << ": " << steps[i].what;
+    }
+}
+
+TEST_F(Devices, EveryOrderOfStartHasItsStatus) {
+    appl_dcmn_init_param_t param{};
+    const auto vlan = [] { return bcm_vlan_create(0, 10); };
+    run({
+        {"no device", [] { return soc_init(0); }, BCM_E_UNIT},
+        {"no device", vlan, BCM_E_UNIT},
+        {"add", [] { return addOmbraFapDeviceUnmapped(0, 1, 0, 0, 0); }, 0},
+        {"not mapped", [] { return soc_init(0); }, BCM_E_INIT},
+        {"not started", vlan, BCM_E_INIT},
+        {"misc before reset", [] { return soc_misc_init(0); }, BCM_E_INIT},
+        {"deinit before init", [] { return soc_deinit(0); }, BCM_E_INIT},
+        {"map", [] { return mapOmbraDevice(0), 0; }, 0},
+        {"reset", [] { return soc_reset_init(0); }, BCM_E_NONE},
+        {"half started", vlan, BCM_E_INIT},
+        {"layer on half a chip", [] { return system_init(0); }, BCM_E_INIT},
+        {"misc", [] { return soc_misc_init(0); }, BCM_E_NONE},
+        {"ready", vlan, BCM_E_NONE},
+        {"system", [] { return system_init(0); }, BCM_E_NONE},
+        {"system twice", [] { return system_init(0); }, BCM_E_EXISTS},
+        {"application, null", [] { return appl_dcmn_init(0, nullptr); }, BCM_E_PARAM},
+        {"application", [&] { return appl_dcmn_init(0, &param); }, BCM_E_NONE},
+        {"queueing before api", [] { return appl_dpp_cosq_diag_init(0); }, BCM_E_INIT},
+        {"api", [] { return appl_dpp_bcm_diag_init_py(0, 1, 0, 0); }, BCM_E_NONE},
+        {"queueing", [] { return appl_dpp_cosq_diag_init(0); }, BCM_E_NONE},
+        {"reset below layers", [] { return soc_init(0); }, BCM_E_BUSY},
+        {"system below application", [] { return system_shutdown(0, 0); }, BCM_E_BUSY},
+        {"application down", [&] { return appl_dcmn_deinit(0, &param); }, BCM_E_NONE},
+        {"application down twice", [&] { return appl_dcmn_deinit(0, &param); }, BCM_E_INIT},
+        {"system down", [] { return system_shutdown(0, 0); }, BCM_E_NONE},
+        {"tables stand", vlan, BCM_E_EXISTS},
+        {"deinit", [] { return soc_deinit(0); }, BCM_E_NONE},
+        {"stopped", vlan, BCM_E_INIT},
+        {"start again", [] { return soc_init(0); }, BCM_E_NONE},
+        {"as on the first day", vlan, BCM_E_NONE},
+    });
+}
+
+TEST_F(Devices, PlatformKeepsWhatItIsTold) {
+    std::string name = "agent";
+    setOmbraAgentName(name.data());
+    name = "other";
+    EXPECT_STREQ(standin_agent_name(), "agent");
+    setOmbraAgentName(nullptr);
+    EXPECT_STREQ(standin_agent_name(), "");
+    ssoIs(true);
+    EXPECT_EQ(standin_platform_value("sso"), 1);
+    EXPECT_EQ(standin_platform_value("shutting_down"), 0);
+    EXPECT_EQ(standin_platform_value("nothing"), -1);
+    EXPECT_EQ(KorvelInit(nullptr, 1), BCM_E_PARAM);
+    EXPECT_EQ(KorvelInit(nullptr, 0), BCM_E_NONE);
+}
+
+}  // namespace
+}  // namespace standin

@@ -1,0 +1,270 @@
+// The MAC table: entries, walks that change it, bulk deletes, learning and ageing.
+#include <thread>
+#include <vector>
+
+#include "chip_fixture.h"
+#include "sdk/bcm/l2.h"
+#include "sdk/bcm/port.h"
+#include "standin/chip/l2_chapter.h"
+#include "standin/chip/l2_select.h"
+
+namespace standin {
+namespace {
+
+bcm_l2_addr_t entry(std::uint32_t mac, bcm_vlan_t vid, int port, std::uint32_t flags = 0) {
+    bcm_l2_addr_t made;
+    bcm_l2_addr_t_init(&made, Mac(mac).data(), vid);
+    made.port = port;
+    made.flags = flags;
+    return made;
+}
+
+int add(std::uint32_t mac, bcm_vlan_t vid, int port, std::uint32_t flags = 0) {
+    bcm_l2_addr_t made = entry(mac, vid, port, flags);
+    return bcm_l2_addr_add(0, &made);
+}
+
+bool has(std::uint32_t mac, bcm_vlan_t vid) {
+    bcm_l2_addr_t found;
+    return bcm_l2_addr_get(0, Mac(mac).data(), vid, &found) == BCM_E_NONE;
+}
+
+std::vector<int> walked() {
+    std::vector<int> macs;
+    const auto visit = [](int, bcm_l2_addr_t *info, void *list) {
+        static_cast<std::vector<int> *>(list)->push_back(info->mac[4] << 8 | info->mac[5]);
+        return 0;
+    };
+    EXPECT_EQ(bcm_l2_traverse(0, visit, &macs), BCM_E_NONE);
+    return macs;
+}
+
+TEST_F(Chip, EntriesReadBackInOneForm) {
+    struct {
+        int port;
+        std::uint32_t flags;
+        int status;
+        int stored_port;
+        std::uint32_t stored_flags;
+        int trunk;
+    } const cases[] = {
+        {5, kL2Static, BCM_E_NONE, 5, kL2Static, 0},
+        {local_gport(5), 0, BCM_E_NONE, 5, 0, 0},
+        {trunk_gport(9), kL2Static, BCM_E_NONE, 0, kL2Static | kL2Trunk, 9},
+        {0x10000000, 0, BCM_E_NONE, 0, kL2BlackHole, 0},
+        {5, kL2BlackHole | kL2Trunk, BCM_E_NONE, 5, kL2BlackHole | kL2Trunk, 0},
+        {65, 0, BCM_E_PORT, 0, 0, 0},
+        {-1, 0, BCM_E_PORT, 0, 0, 0},
+    };
+    std::uint32_t mac = 0;
+    for (const auto &one : cases) {
+        ++mac;
+        EXPECT_EQ(add(mac, 10, one.port, one.flags), one.status) << "case " << mac;
+        bcm_l2_addr_t found{};
+        const int status = bcm_l2_addr_get(0, Mac(mac).data(), 10, &found);
+        ASSERT_EQ(status, one.status == BCM_E_NONE ? BCM_E_NONE : BCM_E_NOT_FOUND);
+        EXPECT_EQ(found.port, one.stored_port) << "case " << mac;
+        EXPECT_EQ(found.flags, one.stored_flags) << "case " << mac;
+        EXPECT_EQ(found.tgid, one.trunk) << "case " << mac;
+    }
+    EXPECT_EQ(add(1, 0, 5), BCM_E_PARAM);
+    EXPECT_EQ(add(1, 4095, 5), BCM_E_PARAM);
+    EXPECT_EQ(bcm_l2_addr_add(0, nullptr), BCM_E_PARAM);
+    EXPECT_EQ(bcm_l2_addr_add(1, nullptr), BCM_E_UNIT);
+    EXPECT_EQ(bcm_l2_addr_delete(0, Mac(99).data(), 10), BCM_E_NOT_FOUND);
+    EXPECT_EQ(bcm_l2_addr_delete(0, nullptr, 10), BCM_E_PARAM);
+}
+
+TEST_F(Chip, WalkGoesInTheOrderOfInsertion) {
+    for (const std::uint32_t mac : {5u, 3u, 9u, 1u}) ASSERT_EQ(add(mac, 10, 1), BCM_E_NONE);
+    ASSERT_EQ(add(3, 10, 2), BCM_E_NONE);  // moves, and keeps its place
+    EXPECT_EQ(walked(), (std::vector<int>{5, 3, 9, 1}));
+    bcm_l2_addr_delete(0, Mac(3).data(), 10);
+    ASSERT_EQ(add(3, 10, 2), BCM_E_NONE);
+    EXPECT_EQ(walked(), (std::vector<int>{5, 9, 1, 3}));
+    EXPECT_EQ(bcm_l2_traverse(0, nullptr, nullptr), BCM_E_PARAM);
+    EXPECT_EQ(bcm_l2_traverse(1, nullptr, nullptr), BCM_E_UNIT);
+}
+
+TEST_F(Chip, WalkSurvivesWhatItsCallbackDoes) {
+    for (std::uint32_t mac = 0; mac < 1000; ++mac) ASSERT_EQ(add(mac, 10, 1), BCM_E_NONE);
+    int seen = 0;
+    const auto visit = [](int unit, bcm_l2_addr_t *info, void *count) {
+        ++*static_cast<int *>(count);
+        // Itself and the next one: half of the rows are never seen, and rows move on the way.
+        const int number = info->mac[4] << 8 | info->mac[5];
+        bcm_l2_addr_delete(unit, info->mac, info->vid);
+        bcm_l2_addr_delete(unit, Mac(static_cast<std::uint32_t>(number) + 1).data(), info->vid);
+        return 0;
+    };
+    EXPECT_EQ(bcm_l2_traverse(0, visit, &seen), BCM_E_NONE);
+    EXPECT_EQ(seen, 500);
+    EXPECT_TRUE(walked().empty());
+
+    add(1, 10, 1);
+    add(2, 10, 1);
+    const auto stop = [](int, bcm_l2_addr_t *, void *) { return int{BCM_E_FAIL}; };
+    EXPECT_EQ(bcm_l2_traverse(0, stop, nullptr), BCM_E_FAIL);
+}
+
+TEST_F(Chip, TableIsFullAtItsCapacity) {
+    for (std::uint32_t mac = 0; mac < kL2Capacity; ++mac) ASSERT_EQ(add(mac, 10, 1), BCM_E_NONE);
+    EXPECT_EQ(add(kL2Capacity, 10, 1), BCM_E_FULL);
+    EXPECT_EQ(add(7, 10, 2), BCM_E_NONE) << "one that is there can move";
+    EXPECT_EQ(bcm_l2_addr_delete(0, Mac(0).data(), 10), BCM_E_NONE);
+    EXPECT_EQ(add(kL2Capacity, 10, 1), BCM_E_NONE);
+    EXPECT_EQ(walked().size(), kL2Capacity);
+}
+
+TEST_F(Chip, BulkDeletesTakeWhatTheyName) {
+    struct Case {
+        const char *name;
+        std::function<int()> call;
+        std::vector<int> left;
+    };
+    // 1: port 1, vlan 10.  2: port 2, vlan 10.  3: port 1, vlan 20.  4: trunk 7, vlan 10.
+    // 5: as 1 but static.  6: port 1 of module 3.
+    const auto fill = [] {
+        bcm_l2_clear(0);
+        add(1, 10, 1);
+        add(2, 10, 2);
+        add(3, 20, 1);
+        add(4, 10, trunk_gport(7));
+        add(5, 10, 1, kL2Static);
+        bcm_l2_addr_t remote = entry(6, 10, 1);
+        remote.modid = 3;
+        bcm_l2_addr_add(0, &remote);
+    };
+    const Case cases[] = {
+        {"port", [] { return bcm_l2_addr_delete_by_port(0, 0, 1, 0); }, {2, 4, 5, 6}},
+        {"gport", [] { return bcm_l2_addr_delete_by_port(0, 0, local_gport(1), 0); }, {2, 4, 5, 6}},
+        {"static too", [] { return bcm_l2_addr_delete_by_port(0, 0, 1, kL2Static); }, {2, 4, 6}},
+        {"module", [] { return bcm_l2_addr_delete_by_port(0, 3, 1, 0); }, {1, 2, 3, 4, 5}},
+        {"vlan", [] { return bcm_l2_addr_delete_by_vlan(0, 10, 0); }, {3, 5}},
+        {"vlan port",
+         [] { return bcm_l2_addr_delete_by_vlan_port(0, 10, 0, 1, 0); },
+         {2, 3, 4, 5, 6}},
+        {"trunk", [] { return bcm_l2_addr_delete_by_trunk(0, 7, 0); }, {1, 2, 3, 5, 6}},
+        {"vlan trunk",
+         [] { return bcm_l2_addr_delete_by_vlan_trunk(0, 20, 7, 0); },
+         {1, 2, 3, 4, 5, 6}},
+        {"mac", [] { return bcm_l2_addr_delete_by_mac(0, Mac(3).data(), 0); }, {1, 2, 4, 5, 6}},
+        {"mac port",
+         [] { return bcm_l2_addr_delete_by_mac_port(0, Mac(3).data(), 0, 2, 0); },
+         {1, 2, 3, 4, 5, 6}},
+        {"null mac", [] { return bcm_l2_addr_delete_by_mac(0, nullptr, 0); }, {1, 2, 3, 4, 5, 6}},
+    };
+    for (const Case &one : cases) {
+        fill();
+        EXPECT_EQ(one.call(), BCM_E_NONE) << one.name;
+        EXPECT_EQ(walked(), one.left) << one.name;
+    }
+}
+
+TEST_F(Chip, ReplaceMovesWhatMatches) {
+    add(1, 10, 1);
+    add(2, 20, 1);
+    add(3, 10, 1, kL2Static);
+    bcm_l2_addr_t match = entry(0, 10, 1);
+    EXPECT_EQ(bcm_l2_replace(0, kMatchVlan | kMatchDestination, &match, 0, 8, -1), BCM_E_NONE);
+    bcm_l2_addr_t found;
+    const int expected[] = {8, 1, 1};
+    const bcm_vlan_t vids[] = {10, 20, 10};
+    for (std::uint32_t i = 0; i < 3; ++i) {
+        ASSERT_EQ(bcm_l2_addr_get(0, Mac(i + 1).data(), vids[i], &found), BCM_E_NONE);
+        EXPECT_EQ(found.port, expected[i]) << i;
+    }
+    EXPECT_EQ(bcm_l2_replace(0, 0, &match, 0, 0, 5), BCM_E_NONE);
+    ASSERT_EQ(bcm_l2_addr_get(0, Mac(2).data(), 20, &found), BCM_E_NONE);
+    EXPECT_EQ(found.flags & kL2Trunk, kL2Trunk);
+    EXPECT_EQ(found.tgid, 5);
+}
+
+TEST_F(Chip, LearningObeysPortFreezeStaticAndLimit) {
+    EXPECT_EQ(standin_l2_learn(0, Mac(1).data(), 10, 3), BCM_E_NONE);
+    EXPECT_EQ(add(2, 10, 3, kL2Static), BCM_E_NONE);
+    EXPECT_EQ(standin_l2_learn(0, Mac(2).data(), 10, 4), BCM_E_DISABLED);
+    bcm_port_learn_set(0, 4, 0);
+    EXPECT_EQ(standin_l2_learn(0, Mac(3).data(), 10, 4), BCM_E_DISABLED);
+    bcm_l2_addr_freeze(0);
+    EXPECT_EQ(standin_l2_learn(0, Mac(3).data(), 10, 3), BCM_E_DISABLED);
+    EXPECT_EQ(add(9, 10, 3), BCM_E_NONE) << "software may still add";
+    EXPECT_EQ(bcm_l2_addr_thaw(0), BCM_E_NONE);
+    EXPECT_EQ(bcm_l2_addr_thaw(0), BCM_E_PARAM);
+
+    bcm_l2_learn_limit_t limit{};
+    limit.flags = kLimitVlan;
+    limit.vlan = 10;
+    limit.limit = 3;
+    EXPECT_EQ(bcm_l2_learn_limit_set(0, &limit), BCM_E_NONE);
+    EXPECT_EQ(standin_l2_learn(0, Mac(4).data(), 10, 3), BCM_E_NONE);
+    EXPECT_EQ(standin_l2_learn(0, Mac(5).data(), 10, 3), BCM_E_RESOURCE);
+    EXPECT_EQ(standin_l2_learn(0, Mac(5).data(), 20, 3), BCM_E_NONE) << "another VLAN";
+    EXPECT_EQ(standin_l2_learn(0, Mac(4).data(), 10, 5), BCM_E_NONE) << "a move adds none";
+    limit.limit = 0;
+    EXPECT_EQ(bcm_l2_learn_limit_get(0, &limit), BCM_E_NONE);
+    EXPECT_EQ(limit.limit, 3);
+    limit.flags = kLimitVlan | kLimitPort;
+    EXPECT_EQ(bcm_l2_learn_limit_set(0, &limit), BCM_E_PARAM);
+}
+
+TEST_F(Chip, AgeingTakesWhatWasNotHeard) {
+    bcm_l2_age_timer_set(0, 300);
+    standin_l2_learn(0, Mac(1).data(), 10, 1);
+    standin_l2_learn(0, Mac(2).data(), 10, 1);
+    add(3, 10, 1, kL2Static);
+    standin_l2_age(0, 200);
+    standin_l2_learn(0, Mac(2).data(), 10, 1);  // heard again
+    standin_l2_age(0, 100);
+    EXPECT_FALSE(has(1, 10));
+    EXPECT_TRUE(has(2, 10));
+    EXPECT_TRUE(has(3, 10));
+    bcm_l2_age_timer_set(0, 0);
+    standin_l2_age(0, 100'000);
+    EXPECT_TRUE(has(2, 10)) << "0 means never";
+}
+
+TEST_F(Chip, NativeThreadsMayCallAtOnce) {
+    std::vector<std::thread> threads;
+    for (std::uint32_t part = 0; part < 4; ++part) {
+        threads.emplace_back([part] {
+            for (std::uint32_t i = 0; i < 500; ++i) {
+                add(part * 1000 + i, 10, 1);
+                if (i % 2 == 0) bcm_l2_addr_delete(0, Mac(part * 1000 + i).data(), 10);
+                if (i % 100 == 0) walked();
+            }
+        });
+    }
+    for (std::thread &thread : threads) thread.join();
+    EXPECT_EQ(walked().size(), 4u * 250);
+}
+
+struct Seen {
+    std::vector<std::pair<int, int>> events;  // last byte of the address, operation
+};
+
+void watch(int unit, bcm_l2_addr_t *info, int operation, void *user_data) {
+    static_cast<Seen *>(user_data)->events.emplace_back(info->mac[5], operation);
+    bcm_l2_addr_t again;  // a watcher may call, since no lock is held
+    bcm_l2_addr_get(unit, info->mac, info->vid, &again);
+}
+
+TEST_F(Chip, WatchersHearEveryChange) {
+    Seen seen;
+    EXPECT_EQ(bcm_l2_addr_register(0, watch, &seen), BCM_E_NONE);
+    EXPECT_EQ(bcm_l2_addr_register(0, watch, &seen), BCM_E_EXISTS);
+    EXPECT_EQ(bcm_l2_addr_register(0, nullptr, &seen), BCM_E_PARAM);
+    add(1, 10, 1);
+    standin_l2_learn(0, Mac(2).data(), 10, 1);
+    bcm_l2_addr_delete(0, Mac(1).data(), 10);
+    bcm_l2_age_timer_set(0, 10);
+    standin_l2_age(0, 10);
+    EXPECT_EQ(bcm_l2_addr_unregister(0, watch, &seen), BCM_E_NONE);
+    EXPECT_EQ(bcm_l2_addr_unregister(0, watch, &seen), BCM_E_NOT_FOUND);
+    add(3, 10, 1);
+    EXPECT_EQ(seen.events, (std::vector<std::pair<int, int>>{
+                               {1, kL2Added}, {2, kL2Learned}, {1, kL2Deleted}, {2, kL2AgedOut}}));
+}
+
+}  // namespace
+}  // namespace standin
