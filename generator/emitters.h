@@ -39,6 +39,11 @@ struct OpaqueValue {
 // All of them, by name.
 std::vector<OpaqueValue> opaque_values(const Model &model);
 
+// The reference for people, a page a header, and its index.
+std::string emit_reference(const Model &model, const std::string &header);
+std::string emit_reference_index(const Model &model);
+std::string reference_file(const std::string &header);
+
 // "rows_sdk_bcm_l2.cpp" for "platform/sdk/bcm/l2.h".
 std::string rows_file(const std::string &header);
 

@@ -26,8 +26,8 @@ bool has_columns(const Place &place, const Columns &columns, std::size_t least, 
         return true;
     }
     faults.add(place, "columns",
-               "the line has " + std::to_string(columns.size()) + " columns, " +
-                   std::to_string(least) + " are expected; separate them by tabs");
+               "the line has " + std::to_string(columns.size()) + " of its " +
+                   std::to_string(least) + " columns; separate them by tabs");
     return false;
 }
 
@@ -135,9 +135,10 @@ void read_variables(const std::string &file, const std::string &source, Model &m
 void read_departures(const std::string &file, const std::string &source, Model &model,
                      Faults &faults) {
     for_each_row(file, source, [&](const Place &place, const Columns &columns) {
-        if (has_columns(place, columns, 4, faults)) {
+        if (has_columns(place, columns, 3, faults)) {
+            const std::string reason = columns.size() > 3 ? columns[3] : "";
             model.departures.push_back(
-                {columns[0], columns[1], columns[2], columns[3], place, false});
+                {columns[0], columns[1], columns[2], reason, place, false});
         }
     });
 }

@@ -45,7 +45,7 @@ class Parser {
                 if (role_ != HeaderRole::types_only) {
                     faults_.add({file_, error.line}, "grammar", error.message);
                 }
-                at_ = std::max(at_, before);
+                at_ = before;
                 skip_statement();
             }
         }
@@ -90,14 +90,15 @@ class Parser {
         return take().text;
     }
 
-    // To behind the next `;` that is not inside braces.
+    // To behind the next `;` that is not inside braces, or behind a body in braces.
     void skip_statement() {
         int depth = 0;
         while (peek().type != Token::Type::end) {
             const std::string text = take().text;
             depth += text == "{" ? 1 : 0;
             depth -= text == "}" ? 1 : 0;
-            if (text == ";" && depth <= 0) {
+            const bool body_ends = text == "}" && !next_is(";") && peek(1).text != ";";
+            if (depth <= 0 && (text == ";" || body_ends)) {
                 return;
             }
         }

@@ -194,7 +194,7 @@ class Resolver {
         if (row.kind == Kind::by_value || row.kind == Kind::reference) {
             std::string target = without_const(row.type);
             if (row.kind == Kind::reference) {
-                target.erase(target.find(" &"));
+                target.erase(std::min(target.find(" &"), target.size()));
             }
             conversion.slot = conversion.result_slot = slot_of_pretty(target + " *", place);
         } else if (row.kind == Kind::function_pointer) {
@@ -266,7 +266,7 @@ class Resolver {
     }
 
     void lay_out(Struct &record) {
-        if (record.size != 0) {
+        if (laid_out_.contains(&record)) {
             return;
         }
         if (!laying_out_.insert(&record).second) {
@@ -288,6 +288,7 @@ class Resolver {
             end = std::max(end, field.offset + bytes);
         }
         record.size = (end + record.align - 1) / record.align * record.align;
+        laid_out_.insert(&record);
     }
 
     static bool is_hand_written(const Departure &departure) {
@@ -318,6 +319,13 @@ class Resolver {
 
     void resolve_variable(GlobalVariable &variable) {
         if (variable.mangled == "-") {
+            static const std::set<std::string> pointers = {"struct", "pointer-array", "function",
+                                                           "read-only-array"};
+            if (pointers.contains(variable.kind)) {
+                faults_.add(variable.place, "slot-missing",
+                            "'" + variable.name + "' crosses as a pointer object; give the mangled "
+                            "name of its type");
+            }
             return;
         }
         const auto found = mangled_.find(variable.mangled);
@@ -337,6 +345,7 @@ class Resolver {
     std::unordered_map<std::string, const Typedef *> typedefs_;
     std::unordered_map<std::string, Struct *> structs_;
     std::set<const Struct *> laying_out_;
+    std::set<const Struct *> laid_out_;
     std::set<std::string> replaced_;
     Names names_;
 };
@@ -380,7 +389,13 @@ void Resolver::set_visible(const Departure &departure, Function &function) {
     if (departure.details == "-") {
         return;
     }
-    const std::size_t arrow = departure.details.find("->");
+    const std::size_t arrow = departure.details.find("-> ");
+    if (arrow == std::string::npos) {
+        faults_.add(departure.place, "departure-details",
+                    "found '" + departure.details + "'; write '-', or what Python sees: "
+                    "'int unit, object any -> int'");
+        return;
+    }
     const std::string result = departure.details.substr(arrow + 3);
     function.visible_result = result == "void" ? "" : result;
     function.visible.clear();

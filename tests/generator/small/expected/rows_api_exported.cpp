@@ -1,0 +1,22 @@
+// Made from api/exported.h by generator/emit_rows.cpp. Do not edit.
+#include "classes/accessor.h"
+#include "convert/append_frame.h"
+#include "convert/frame.h"
+#include "generated/entries.h"
+#include "runtime/client_data.h"
+
+#include "api/exported.h"
+
+using namespace ombra;
+
+// tiny_test(pair, e) -> unsigned int
+static constexpr CallRow row_tiny_test{
+    "tiny_test",
+    "invalid null reference in method 'tiny_test', argument 1 of type 'tiny_pair_t &'\0"
+    "in method 'tiny_test', argument 2 of type 'tiny_color_e'",
+    {10, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
+PyObject *_wrap_tiny_test(PyObject *, PyObject *args) {
+    using Shape = Call<UInt32(Reference, Int32)>;
+    return Shape::run(row_tiny_test, Shape::native(&::tiny_test), args);
+}
+

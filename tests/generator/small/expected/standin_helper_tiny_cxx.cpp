@@ -1,0 +1,12 @@
+// Made from platform/helper/tiny_cxx.h by generator/emit_standin.cpp. Do not edit.
+#include "helper/tiny_cxx.h"
+
+#include "standin/generic/call.h"
+
+
+[[gnu::weak]] int Tiny::find(int unit, tiny_opaque_t) { return standin::unavailable("find", unit); }
+
+[[gnu::weak]] int Tiny::find(int unit) { return standin::unavailable("find", unit); }
+
+[[gnu::weak]] Tiny::String tiny_report(int) { return {}; }
+

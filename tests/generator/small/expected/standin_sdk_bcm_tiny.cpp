@@ -1,0 +1,79 @@
+// Made from platform/sdk/bcm/tiny.h by generator/emit_standin.cpp. Do not edit.
+#include "sdk/bcm/tiny.h"
+
+#include "standin/generic/call.h"
+
+static_assert(sizeof(tiny_port_t) == 4);
+static_assert(sizeof(int) == 4);
+
+extern "C" {
+
+[[gnu::weak]] int tiny_none() { return standin::unavailable("tiny_none"); }
+
+[[gnu::weak]] void tiny_scalars(int8, int16, tiny_color_t, uint8, uint16, uint32, uint64, bool) { return; }
+
+[[gnu::weak]] int tiny_unnamed(int, tiny_pair_t *) { return standin::unavailable("tiny_unnamed"); }
+
+[[gnu::weak]] int tiny_pointers(char const *, tiny_pair_t *, uint16 const *, void *, tiny_cb) { return standin::unavailable("tiny_pointers"); }
+
+[[gnu::weak]] int tiny_values(tiny_pair_t, tiny_opaque_t, tiny_mac_t, tiny_pbmp_t) { return standin::unavailable("tiny_values"); }
+
+[[gnu::weak]] int tiny_arrays(int unit, unsigned int[2], int const[8]) { return standin::unavailable("tiny_arrays", unit); }
+
+[[gnu::weak]] int tiny_wide(unsigned long) { return standin::unavailable("tiny_wide"); }
+
+[[gnu::weak]] uint64 tiny_long(tiny_address_t) { return {}; }
+
+[[gnu::weak]] char * tiny_text(int) { return {}; }
+
+[[gnu::weak]] bool tiny_truth(int) { return {}; }
+
+[[gnu::weak]] tiny_opaque_t tiny_value(int) { return {}; }
+
+[[gnu::weak]] tiny_pair_t * tiny_pointer(int) { return {}; }
+
+[[gnu::weak]] int tiny_speed_set(int unit, tiny_port_t port, int speed) {
+    using namespace standin;
+    static constexpr Binding bindings[] = {
+        {1, Role::select, false, 0, 0, 0, 4},
+        {2, Role::write, false, 0, 0, 4, 4}};
+    static constexpr Call call{"tiny_speed_set", "tiny_speed", nullptr, 0, 4, 8,
+                               Operation::store, {}, {}, {}, bindings, 2};
+    const void *const arguments[] = {&unit, &port, &speed};
+    return answer(call, unit, arguments);
+}
+
+[[gnu::weak]] int tiny_speed_get(int unit, tiny_port_t port, int * speed) {
+    using namespace standin;
+    static constexpr Binding bindings[] = {
+        {1, Role::select, false, 0, 0, 0, 4},
+        {2, Role::read, true, 0, 0, 4, 4}};
+    static constexpr Call call{"tiny_speed_get", "tiny_speed", nullptr, 0, 4, 8,
+                               Operation::read, {}, {}, {}, bindings, 2};
+    const void *const arguments[] = {&unit, &port, &speed};
+    return answer(call, unit, arguments);
+}
+
+[[gnu::weak]] int tiny_list_set(int unit, int count, int * list) {
+    using namespace standin;
+    static constexpr Binding bindings[] = {
+        {2, Role::list_in, true, 0, 0, 0, 4}};
+    static constexpr Call call{"tiny_list_set", "tiny_list", nullptr, 0, 0, 0,
+                               Operation::store, {1, 4}, {}, {}, bindings, 1};
+    const void *const arguments[] = {&unit, &count, &list};
+    return answer(call, unit, arguments);
+}
+
+[[gnu::weak]] int tiny_list_get(int unit, int max, int * list, int * count) {
+    using namespace standin;
+    static constexpr Binding bindings[] = {
+        {2, Role::list_out, true, 0, 0, 0, 4}};
+    static constexpr Call call{"tiny_list_get", "tiny_list", nullptr, 0, 0, 0,
+                               Operation::read, {}, {1, 4}, {3, 4}, bindings, 1};
+    const void *const arguments[] = {&unit, &max, &list, &count};
+    return answer(call, unit, arguments);
+}
+
+[[gnu::weak]] int tiny_create(int unit, int *) { return standin::unavailable("tiny_create", unit); }
+
+}  // extern "C"
