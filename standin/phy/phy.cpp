@@ -1,0 +1,35 @@
+#include "standin/phy/phy.h"
+
+#include "standin/regs/per_chip.h"
+
+namespace standin {
+
+void Phy::reset() {
+    Phy fresh;
+    fresh.address = address;
+    fresh.internal_address = internal_address;
+    fresh.on_reset = std::move(on_reset);
+    fresh.default_reset = default_reset;
+    fresh.on_medium = std::move(on_medium);
+    *this = std::move(fresh);
+}
+
+Phys::Phys() {
+    for (std::size_t port = 0; port < ports.size(); ++port) {
+        ports[port].address = static_cast<std::uint16_t>(port);
+        ports[port].internal_address = static_cast<std::uint16_t>(kInternalPhys + port);
+    }
+}
+
+Phys &phys_of(int unit, Switch &chip) {
+    static auto &all = *new PerChip<Phys>("phys of ports");
+    return all.of(unit, chip);
+}
+
+int translated(int unit, soc_port_t port) {
+    // Called without the lock: it is the caller's own function.
+    const auto translate = soc_phy_cb_xlate_port_func;
+    return translate == nullptr || translate(unit, &port) < 0 ? port : static_cast<int>(port);
+}
+
+}  // namespace standin

@@ -1,0 +1,120 @@
+// The PHY of each port, as its driver sees it. What the port itself has too, such as enable, speed,
+// duplex, negotiation, loopback and abilities, is kept there and only there.
+//
+// Port n has the internal PHY n, of one lane or, for a large port, four. It has an external PHY
+// too while an accessor is installed for its unit and ExternalPhyId n, of any kind.
+#pragma once
+#include <array>
+#include <cstdint>
+#include <map>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "native/values.h"
+#include "sdk/variables.h"
+#include "standin/chip/model.h"
+#include "standin/chip/switch.h"
+
+namespace standin {
+
+constexpr int kEveryLane = -1;
+constexpr int kMostLanes = 4;
+constexpr int kMediumCopper = 1;
+constexpr int kMediumFiber = 2;
+constexpr std::uint16_t kLastPhyAddress = 0x3ff;
+constexpr std::uint16_t kInternalPhys = 0x80;  // address of the internal PHY of port 0
+
+// One PHY of the chain of a port (0 internal, 1 external), one lane or all, and its side: 0 towards
+// the line, 1 towards the system. {} is what the plain calls mean.
+struct PhyPart {
+    int phy = 0;
+    int lane = kEveryLane;
+    int system_side = 0;
+
+    auto operator<=>(const PhyPart &) const = default;
+    bool is_plain() const { return *this == PhyPart{}; }
+};
+
+template <class Function>
+struct Callback {
+    Function call;
+    void *user;
+    bool operator==(const Callback &) const = default;
+};
+
+struct Phy {
+    bool attached = true;  // its driver is
+    int interface = 0;
+    int mdix = 0;
+    int medium = kMediumFiber;
+    int primary = -1;  // the port itself
+    int offset = 0;
+    int tx_enabled = 1;
+    int rx_enabled = 1;
+    std::uint32_t serdes_mask = 0;
+    std::uint16_t address = 0;
+    std::uint16_t internal_address = 0;
+    int event = -1;  // the last one told, with its data
+    std::uint32_t event_data = 0;
+    std::vector<std::uint8_t> firmware;
+    std::map<std::pair<PhyPart, int>, std::uint32_t> controls;         // by kind of control
+    std::map<PhyPart, int> loopback;                                   // but the plain one
+    std::map<PhyPart, int> autoneg;                                    // but the plain one
+    std::map<std::pair<int, std::uint32_t>, std::uint16_t> registers;  // lane, address
+    std::map<std::uint8_t, std::uint16_t> top_registers;  // of a primary port, by offset
+    std::map<std::uint32_t, std::uint32_t> diagnostics;
+    std::vector<Callback<_shr_port_phy_reset_cb_t>> on_reset;
+    bool default_reset = true;
+    std::vector<Callback<_shr_port_medium_status_cb_t>> on_medium;
+
+    // The driver's settings as they were on the first day; callbacks and addresses stay.
+    void reset();
+};
+
+struct Phys {
+    Phys();
+
+    std::array<Phy, kPorts> ports;
+    int dividend = 1;  // of the clock on the MDIO bus
+    int divisor = 128;
+};
+
+// A PHY, while the model's lock is held.
+struct PhyView {
+    int number;  // of its port
+    Port &port;
+    Phy &phy;
+    Phys &all;
+};
+
+// REQUIRES: the model's lock is held.
+Phys &phys_of(int unit, Switch &chip);
+
+// The port behind an argument, after soc_phy_cb_xlate_port_func, where that is set.
+int translated(int unit, soc_port_t port);
+
+constexpr int lanes_of(int port) { return is_large(port) ? kMostLanes : 1; }
+
+// on_switch with the PHY of a port. BCM_E_PORT: no such port.
+template <class Body>
+int on_any_phy(const char *function, int unit, soc_port_t port, Body &&body) {
+    const int translated_port = translated(unit, port);
+    return on_switch(function, unit, [&](Switch &chip) {
+        const int number = local_port(translated_port);
+        if (number < 0) return BCM_E_PORT;
+        Phys &all = phys_of(unit, chip);
+        PhyView view{number, *chip.ports.find(number), all.ports[static_cast<std::size_t>(number)],
+                     all};
+        return std::forward<Body>(body)(view);
+    });
+}
+
+// The same with its driver at work; BCM_E_INIT where that was detached.
+template <class Body>
+int on_phy(const char *function, int unit, soc_port_t port, Body &&body) {
+    return on_any_phy(function, unit, port,
+                      [&](PhyView &view) { return view.phy.attached ? body(view) : BCM_E_INIT; });
+}
+
+}  // namespace standin

@@ -1,0 +1,358 @@
+// Link, speed, medium and abilities. What the port has too is the port's.
+#include <algorithm>
+
+#include "sdk/soc/phy.h"
+#include "sdk/soc/phyctrl.h"
+#include "standin/diag/text/mode_text.h"
+#include "standin/phy/phy.h"
+
+using namespace standin;
+
+namespace {
+
+constexpr int kMost = 0x7fffffff;
+
+template <class T>
+int set_phy_field(const char *function, int unit, soc_port_t port, T Phy::*field, T value, T low,
+                  T high) {
+    return on_phy(function, unit, port, [&](PhyView &view) {
+        if (!within(value, low, high)) return BCM_E_PARAM;
+        view.phy.*field = value;
+        return BCM_E_NONE;
+    });
+}
+
+template <class T, class Out>
+int get_phy_field(const char *function, int unit, soc_port_t port, T Phy::*field, Out *value) {
+    return on_phy(function, unit, port,
+                  [&](const PhyView &view) { return give(value, view.phy.*field); });
+}
+
+int set_of_port(const char *function, int unit, soc_port_t port, int Port::*field, int value,
+                int high) {
+    return on_phy(function, unit, port, [&](PhyView &view) {
+        if (!within(value, 0, high)) return BCM_E_PARAM;
+        view.port.*field = value;
+        return BCM_E_NONE;
+    });
+}
+
+int get_of_port(const char *function, int unit, soc_port_t port, int Port::*field, int *value) {
+    return on_phy(function, unit, port,
+                  [&](const PhyView &view) { return give(value, view.port.*field); });
+}
+
+// -- abilities: bits of soc_port_mode_t, as mode_text.h lists them --------------------------------
+
+struct SpeedBit {
+    int speed;
+    unsigned bit;
+};
+constexpr SpeedBit kSpeeds[] = {{10, 1},      {100, 3},     {1'000, 5},    {2'500, 6},
+                                {5'000, 7},   {10'000, 9},  {20'000, 10},  {25'000, 11},
+                                {40'000, 12}, {50'000, 13}, {100'000, 14}, {200'000, 15}};
+// Pause in both directions, negotiation, loopback in MAC and PHY, error correction, fiber.
+constexpr std::uint32_t kAlways = 0x2f << 16 | 1 << 24;
+
+bool is_speed(int speed) {
+    return std::ranges::find(kSpeeds, speed, &SpeedBit::speed) != std::end(kSpeeds);
+}
+
+std::uint32_t supported(const Port &port) {
+    std::uint32_t mode = kAlways;
+    for (const SpeedBit &one : kSpeeds) {
+        if (one.speed <= port.speed_max) mode |= 1u << one.bit;
+    }
+    return mode;
+}
+
+// What the far end, which is one of our kind, can do: nothing if nobody is there.
+std::uint32_t remote(const Port &port) { return port.peer ? supported(port) : 0; }
+
+std::uint32_t mode_of(const soc_port_ability_t &ability) {
+    std::uint32_t mode = 0;
+    for (const std::uint32_t word : ability.words) mode |= word;
+    return mode;
+}
+
+int give_mode(const char *function, int unit, soc_port_t port, soc_port_mode_t *out,
+              std::uint32_t (*mode)(const Port &)) {
+    return on_phy(function, unit, port,
+                  [&](const PhyView &view) { return give(out, mode(view.port)); });
+}
+
+int give_ability(const char *function, int unit, soc_port_t port, soc_port_ability_t *out,
+                 std::uint32_t (*mode)(const Port &)) {
+    return on_phy(function, unit, port, [&](const PhyView &view) {
+        if (out == nullptr) return BCM_E_PARAM;
+        *out = soc_port_ability_t{};
+        diag::ability_words(mode(view.port), out->words);
+        return BCM_E_NONE;
+    });
+}
+
+// BCM_E_CONFIG for what the port can't do.
+int advertise(PhyView &view, std::uint32_t mode) {
+    if ((mode & ~supported(view.port)) != 0) return BCM_E_CONFIG;
+    view.port.advertised = {};
+    diag::ability_words(mode, view.port.advertised.words);
+    return BCM_E_NONE;
+}
+
+// Tells those who wait for the medium; without the lock.
+void tell_medium(const std::vector<Callback<_shr_port_medium_status_cb_t>> &callbacks, int unit,
+                 int port, int medium) {
+    for (const auto &one : callbacks) one.call(unit, port, medium, one.user);
+}
+
+}  // namespace
+
+extern "C" {
+
+// -- pairs ---------------------------------------------------------------------------------------
+
+#define PORT_PAIR(name, field, high)                                              \
+    int soc_phyctrl_##name##_set(int unit, soc_port_t port, int value) {          \
+        return set_of_port(__func__, unit, port, &Port::field, value, int{high}); \
+    }                                                                             \
+    int soc_phyctrl_##name##_get(int unit, soc_port_t port, int *value) {         \
+        return get_of_port(__func__, unit, port, &Port::field, value);            \
+    }
+PORT_PAIR(enable, enable, 1)
+PORT_PAIR(duplex, duplex, 1)
+PORT_PAIR(master, master, kMost)
+#undef PORT_PAIR
+
+#define PHY_PAIR(name, type, field)                                               \
+    int soc_phyctrl_##name##_set(int unit, soc_port_t port, type value) {         \
+        return set_phy_field(__func__, unit, port, &Phy::field, value, 0, kMost); \
+    }                                                                             \
+    int soc_phyctrl_##name##_get(int unit, soc_port_t port, type *value) {        \
+        return get_phy_field(__func__, unit, port, &Phy::field, value);           \
+    }
+PHY_PAIR(interface, soc_port_if_t, interface)
+PHY_PAIR(mdix, soc_port_mdix_t, mdix)
+PHY_PAIR(offset, int, offset)
+#undef PHY_PAIR
+
+// The pairs of a wire are swapped where that was asked for.
+int soc_phyctrl_mdix_status_get(int unit, soc_port_t port, soc_port_mdix_status_t *status) {
+    return on_phy(__func__, unit, port,
+                  [&](const PhyView &view) { return give(status, view.phy.mdix != 0 ? 1 : 0); });
+}
+
+// The port itself before another one was set.
+int soc_phyctrl_primary_set(int unit, soc_port_t port, soc_port_t primary) {
+    return on_phy(__func__, unit, port, [&](PhyView &view) {
+        if (local_port(primary) < 0) return BCM_E_PORT;
+        view.phy.primary = local_port(primary);
+        return BCM_E_NONE;
+    });
+}
+
+int soc_phyctrl_primary_get(int unit, soc_port_t port, soc_port_t *primary) {
+    return on_phy(__func__, unit, port, [&](const PhyView &view) {
+        return give(primary, view.phy.primary < 0 ? view.number : view.phy.primary);
+    });
+}
+
+int soc_phy_primary_and_offset_get(int unit, soc_port_t port, soc_port_t *primary_port,
+                                   int *offset) {
+    return on_phy(__func__, unit, port, [&](const PhyView &view) {
+        if (primary_port == nullptr || offset == nullptr) return BCM_E_PARAM;
+        *primary_port = view.phy.primary < 0 ? view.number : view.phy.primary;
+        return give(offset, view.phy.offset);
+    });
+}
+
+int soc_enable_txrx_set(int unit, soc_port_t port, int txEnable, int rxEnable) {
+    return on_phy(__func__, unit, port, [&](PhyView &view) {
+        if (!within(txEnable, 0, 1) || !within(rxEnable, 0, 1)) return BCM_E_PARAM;
+        view.phy.tx_enabled = txEnable;
+        view.phy.rx_enabled = rxEnable;
+        return BCM_E_NONE;
+    });
+}
+
+int soc_enable_txrx_get(int unit, soc_port_t port, int *txEnabled, int *rxEnabled) {
+    return on_phy(__func__, unit, port, [&](const PhyView &view) {
+        if (txEnabled == nullptr || rxEnabled == nullptr) return BCM_E_PARAM;
+        *txEnabled = view.phy.tx_enabled;
+        return give(rxEnabled, view.phy.rx_enabled);
+    });
+}
+
+int soc_serdes_mask_100G_set(int unit, soc_port_t port, uint32 mask) {
+    return set_phy_field(__func__, unit, port, &Phy::serdes_mask, mask, 0u, ~0u);
+}
+
+int soc_serdes_mask_100G_get(int unit, soc_port_t port, uint32 *mask) {
+    return get_phy_field(__func__, unit, port, &Phy::serdes_mask, mask);
+}
+
+// -- link ----------------------------------------------------------------------------------------
+
+// Up when the port is enabled, both directions are on, and somebody answers.
+static int link_of(const PhyView &view) {
+    return view.port.link() && view.phy.tx_enabled != 0 && view.phy.rx_enabled != 0;
+}
+
+int soc_phyctrl_link_get(int unit, soc_port_t port, int *link) {
+    return on_phy(__func__, unit, port,
+                  [&](const PhyView &view) { return give(link, link_of(view)); });
+}
+
+// The port is on and has no link.
+int soc_phyctrl_linkfault_get(int unit, soc_port_t port, int *fault) {
+    return on_phy(__func__, unit, port, [&](const PhyView &view) {
+        return give(fault, view.port.enable != 0 && link_of(view) == 0);
+    });
+}
+
+int soc_phyctrl_link_change(int unit, soc_port_t port, int *link) {
+    return on_phy(__func__, unit, port,
+                  [&](const PhyView &view) { return give(link, link_of(view)); });
+}
+
+// The driver has nothing to do when a link comes or goes.
+int soc_phyctrl_linkup_evt(int unit, soc_port_t port) {
+    return on_phy(__func__, unit, port, [](const PhyView &) { return BCM_E_NONE; });
+}
+
+int soc_phyctrl_linkdn_evt(int unit, soc_port_t port) {
+    return on_phy(__func__, unit, port, [](const PhyView &) { return BCM_E_NONE; });
+}
+
+// -- speed ---------------------------------------------------------------------------------------
+
+// BCM_E_CONFIG: no speed, or one that the port can't run at.
+int soc_phyctrl_speed_set(int unit, soc_port_t port, int speed) {
+    return on_phy(__func__, unit, port, [&](PhyView &view) {
+        if (!is_speed(speed) || speed > view.port.speed_max) return BCM_E_CONFIG;
+        view.port.speed = speed;
+        return BCM_E_NONE;
+    });
+}
+
+int soc_phyctrl_speed_get(int unit, soc_port_t port, int *speed) {
+    return get_of_port(__func__, unit, port, &Port::speed, speed);
+}
+
+// A port that ran faster slows down.
+int soc_phyctrl_set_speed_max(int unit, soc_port_t port, int speed_max) {
+    return on_phy(__func__, unit, port, [&](PhyView &view) {
+        if (!is_speed(speed_max)) return BCM_E_CONFIG;
+        view.port.speed_max = speed_max;
+        view.port.speed = std::min(view.port.speed, speed_max);
+        return BCM_E_NONE;
+    });
+}
+
+int soc_phyctrl_auto_negotiate_set(int unit, soc_port_t port, int an) {
+    return set_of_port(__func__, unit, port, &Port::autoneg, an, 1);
+}
+
+// Negotiation is done as soon as the link is up.
+int soc_phyctrl_auto_negotiate_get(int unit, soc_port_t port, int *an, int *an_done) {
+    return on_phy(__func__, unit, port, [&](const PhyView &view) {
+        if (an == nullptr || an_done == nullptr) return BCM_E_PARAM;
+        *an = view.port.autoneg;
+        return give(an_done, view.port.autoneg != 0 && link_of(view) != 0);
+    });
+}
+
+// -- medium --------------------------------------------------------------------------------------
+
+int soc_phyctrl_medium_get(int unit, soc_port_t port, soc_port_medium_t *medium) {
+    return get_phy_field(__func__, unit, port, &Phy::medium, medium);
+}
+
+// The record of a medium's settings is known by address only, so there is nothing to keep or give.
+int soc_phyctrl_medium_config_set(int unit, soc_port_t port, soc_port_medium_t,
+                                  soc_phy_config_t *cfg) {
+    return on_phy(__func__, unit, port,
+                  [&](const PhyView &) { return cfg == nullptr ? BCM_E_PARAM : BCM_E_UNAVAIL; });
+}
+
+int soc_phyctrl_medium_config_get(int unit, soc_port_t port, soc_port_medium_t,
+                                  soc_phy_config_t *cfg) {
+    return on_phy(__func__, unit, port,
+                  [&](const PhyView &) { return cfg == nullptr ? BCM_E_PARAM : BCM_E_UNAVAIL; });
+}
+
+int soc_phyctrl_cable_diag(int unit, soc_port_t port, soc_port_cable_diag_t *status) {
+    return on_phy(__func__, unit, port,
+                  [&](const PhyView &) { return status == nullptr ? BCM_E_PARAM : BCM_E_UNAVAIL; });
+}
+
+int soc_phy_medium_status_register(int unit, soc_port_t port, soc_port_medium_status_cb_t cb,
+                                   void *user_data) {
+    return on_phy(__func__, unit, port, [&](PhyView &view) {
+        if (cb == nullptr) return BCM_E_PARAM;
+        auto &all = view.phy.on_medium;
+        if (std::ranges::find(all, Callback{cb, user_data}) != all.end()) return BCM_E_EXISTS;
+        all.push_back({cb, user_data});
+        return BCM_E_NONE;
+    });
+}
+
+int soc_phy_medium_status_unregister(int unit, soc_port_t port, soc_port_medium_status_cb_t cb,
+                                     void *user_data) {
+    return on_phy(__func__, unit, port, [&](PhyView &view) {
+        return std::erase(view.phy.on_medium, Callback{cb, user_data}) != 0 ? BCM_E_NONE
+                                                                            : BCM_E_NOT_FOUND;
+    });
+}
+
+// Sets the medium, 1 copper or 2 fiber, and tells who registered.
+void soc_phy_medium_status_notify(int unit, soc_port_t port, soc_port_medium_t medium) {
+    std::vector<Callback<_shr_port_medium_status_cb_t>> callbacks;
+    const int status = on_phy(__func__, unit, port, [&](PhyView &view) {
+        if (!within(medium, kMediumCopper, kMediumFiber)) return BCM_E_PARAM;
+        view.phy.medium = medium;
+        callbacks = view.phy.on_medium;
+        port = view.number;
+        return BCM_E_NONE;
+    });
+    if (status == BCM_E_NONE) tell_medium(callbacks, unit, port, medium);
+}
+
+// -- abilities -----------------------------------------------------------------------------------
+
+int soc_phyctrl_ability_get(int unit, soc_port_t port, soc_port_mode_t *mode) {
+    return give_mode(__func__, unit, port, mode, supported);
+}
+
+int soc_phyctrl_adv_remote_get(int unit, soc_port_t port, soc_port_mode_t *mode) {
+    return give_mode(__func__, unit, port, mode, remote);
+}
+
+int soc_phyctrl_adv_local_get(int unit, soc_port_t port, soc_port_mode_t *mode) {
+    return give_mode(__func__, unit, port, mode,
+                     [](const Port &one) { return mode_of(one.advertised); });
+}
+
+int soc_phyctrl_adv_local_set(int unit, soc_port_t port, soc_port_mode_t mode) {
+    return on_phy(__func__, unit, port, [&](PhyView &view) { return advertise(view, mode); });
+}
+
+int soc_phyctrl_ability_local_get(int unit, soc_port_t port, soc_port_ability_t *ability) {
+    return give_ability(__func__, unit, port, ability, supported);
+}
+
+int soc_phyctrl_ability_remote_get(int unit, soc_port_t port, soc_port_ability_t *ability) {
+    return give_ability(__func__, unit, port, ability, remote);
+}
+
+int soc_phyctrl_ability_advert_get(int unit, soc_port_t port, soc_port_ability_t *ability) {
+    return give_ability(__func__, unit, port, ability,
+                        [](const Port &one) { return mode_of(one.advertised); });
+}
+
+int soc_phyctrl_ability_advert_set(int unit, soc_port_t port, soc_port_ability_t *ability) {
+    return on_phy(__func__, unit, port, [&](PhyView &view) {
+        return ability == nullptr ? BCM_E_PARAM : advertise(view, mode_of(*ability));
+    });
+}
+
+}  // extern "C"

@@ -1,0 +1,84 @@
+// Dumps of the memories of a unit.
+#include <string>
+
+#include "helper/shadow.h"
+#include "standin/diag/output.h"
+#include "standin/diag/text/scan.h"
+#include "standin/regs/dump_file.h"
+#include "standin/regs/words.h"
+
+using namespace standin;
+
+namespace {
+
+std::string hex(std::uint32_t value) { return diag::text_of("0x%08x", value); }
+
+std::string shadow_text(const UnitState &state, const MemoryLayout &layout, int array) {
+    if (!state.dynamic.contains({layout.id, array})) return "off";
+    return keeps_entry(state, layout, array, layout.entries - 1) ? "on" : "half";
+}
+
+std::string memory_text(const Unit &unit) {
+    const ShadowPolicy &policy = shadow_policy();
+    std::string text = diag::text_of("# unit %d: memories\n", unit.number);
+    text += diag::text_of("# PCI configuration shadow: %s\n", policy.pci_configured ? "on" : "off");
+    if (!policy.constraints_file.empty()) {
+        text += "# copy engine constraints: " + policy.constraints_file + '\n';
+    }
+    diag::Table table({"Memory", ">Number", "Block", ">Array", "Base", ">Entries", ">Bits",
+                       ">Copies", "Manager", "Shadow"});
+    for (const MemoryLayout &layout : all_memories()) {
+        for (int array = 0; array < layout.arrays; ++array) {
+            table.row({layout.name, std::to_string(layout.id), std::string(layout.block->name),
+                       std::to_string(array), hex(entry_address(layout, 0, array, 0)),
+                       std::to_string(layout.entries), std::to_string(layout.bits),
+                       std::to_string(layout.block->count),
+                       layout.kind == MemoryKind::kPlatform ? "platform" : "sdk",
+                       shadow_text(unit.state, layout, array)});
+        }
+    }
+    return text + table.text();
+}
+
+// The parity errors that the blocks of a memory have counted; nothing where none counts.
+std::string parity_errors(const Unit &unit, const Block &block) {
+    const std::string counter = std::string(block.name) + "_PARITY_ERR_CNT";
+    for (const RegisterLayout &layout : all_registers()) {
+        if (layout.name != counter) continue;
+        std::uint64_t errors = 0;
+        for (int instance = 0; instance < layout.instances(); ++instance) {
+            std::uint32_t value = 0;
+            if (hardware_read(unit, element_address(layout, instance, 0), value) < 0) return "-";
+            errors += value;
+        }
+        return std::to_string(errors);
+    }
+    return "-";
+}
+
+std::string parity_text(const Unit &unit) {
+    std::string text = diag::text_of("# unit %d: parity and ECC\n", unit.number);
+    diag::Table table({"Memory", "Block", "Protection", ">Check bits", ">Block errors"});
+    for (const MemoryLayout &layout : all_memories()) {
+        // An entry of one word has a parity bit, a wider one 7 bits of ECC for each word.
+        const bool ecc = layout.words() > 1;
+        table.row({layout.name, std::string(layout.block->name), ecc ? "ecc" : "parity",
+                   std::to_string(ecc ? 7 * layout.words() : 1),
+                   parity_errors(unit, *layout.block)});
+    }
+    return text + table.text();
+}
+
+}  // namespace
+
+extern "C" {
+
+int TesselApiPrintDeviceMemInfoToFile(int unit, char const *fname) {
+    return dump(__func__, unit, fname, memory_text);
+}
+
+int TesselApiPrintDeviceMemParityEccInfoToFile(int unit, char const *fname) {
+    return dump(__func__, unit, fname, parity_text);
+}
+
+}  // extern "C"
