@@ -35,10 +35,9 @@ PyObject *snapshot_row(const bcm_l2_addr_t &entry) {
     if (row == nullptr) {
         return nullptr;
     }
-    constexpr Py_ssize_t mac_length = 17;
     const bool is_static = (entry.flags & kStatic) != 0;
     PyObject *const items[] = {
-        PyString_FromStringAndSize(macaddrToString(entry.mac), mac_length),
+        PyString_FromStringAndSize(macaddrToString(entry.mac), kMacTextLength),
         PyInt_FromLong(entry.vid),
         PyInt_FromLong(static_cast<long>(global_port(entry))),
         PyString_FromString(is_static ? "static" : "dynamic"),

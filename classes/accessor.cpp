@@ -103,9 +103,15 @@ PyObject *get_value(const FieldRow &row, PyObject *args) {
     if (!read_self(row, args, self)) {
         return nullptr;
     }
-    typename Kind::Native value;
-    std::memcpy(&value, field_address(row, self), sizeof value);
-    return Kind::result(value, row.call);
+    if constexpr (std::is_class_v<typename Kind::Native>) {
+        // A port list is read where it lies.
+        return Kind::result(*static_cast<const typename Kind::Native *>(field_address(row, self)),
+                            row.call);
+    } else {
+        typename Kind::Native value;
+        std::memcpy(&value, field_address(row, self), sizeof value);
+        return Kind::result(value, row.call);
+    }
 }
 
 template <typename Kind>
@@ -117,7 +123,7 @@ PyObject *set_value(const FieldRow &row, PyObject *args) {
         return nullptr;
     }
     if (self != nullptr) {
-        const typename Kind::Native native = value.native();
+        const auto &native = value.native();
         std::memcpy(field_address(row, self), &native, sizeof native);
     }
     Py_RETURN_NONE;

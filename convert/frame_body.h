@@ -43,7 +43,7 @@ template <typename... Args, typename Body>
 
 template <typename Result, typename... Args>
 PyObject *Call<Result(Args...)>::run(const CallRow &row, Native native, PyObject *args) {
-    return call_with<Args...>(row, args, [&](typename Args::Native... values) -> PyObject * {
+    return call_with<Args...>(row, args, [&](const auto &...values) -> PyObject * {
         if constexpr (std::is_void_v<typename Result::Native>) {
             native(values...);
             Py_RETURN_NONE;
@@ -55,7 +55,7 @@ PyObject *Call<Result(Args...)>::run(const CallRow &row, Native native, PyObject
 
 template <typename Result, typename... Args>
 PyObject *AppendCall<Result(Args...)>::run(const CallRow &row, Native native, PyObject *args) {
-    return call_with<Args...>(row, args, [&](typename Args::Native... values) {
+    return call_with<Args...>(row, args, [&](const auto &...values) {
         int output = 0;
         PyObject *status = Result::result(native(values..., &output), row);
         return SWIG_Python_AppendOutput(status, PyInt_FromLong(output));

@@ -180,6 +180,10 @@ class Text {
     }
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
+        if (PyString_Check(object)) {
+            text_ = PyString_AS_STRING(object);  // what the reader gives for a marker of 0
+            return true;
+        }
         const int status = SWIG_AsCharPtrAndSize(object, &text_, nullptr, &alloc_);
         return status >= 0 || refuse(row, index, status);
     }
@@ -268,6 +272,8 @@ class Value {
    public:
     using Native = Blob<Size, Align>;
 
+    Value() {}  // not zeroed: a read fills it whole, or the call does not happen
+
     bool read(PyObject *object, const CallRow &row, unsigned index) {
         void *source = nullptr;
         const int status = SWIG_Python_ConvertPtrAndOwn(object, &source, slot(row, index), 0);
@@ -284,7 +290,7 @@ class Value {
         return true;
     }
 
-    Native native() const { return value_; }
+    const Native &native() const { return value_; }
 
     static PyObject *result(const Native &value, const CallRow &row) {
         return owned_copy(&value, Size, slot(row, kResultSlot));
@@ -308,7 +314,7 @@ class MacText {
     Native native() const { return const_cast<uint8 *>(bytes_); }
 
     static PyObject *result(const uint8 *value, const CallRow &) {
-        return PyString_FromString(macaddrToString(value));
+        return PyString_FromStringAndSize(macaddrToString(value), kMacTextLength);
     }
 
    private:
@@ -320,12 +326,14 @@ class PortList {
    public:
     using Native = bcm_pbmp_t;
 
+    PortList() {}  // not zeroed: a read does that
+
     bool read(PyObject *object, const CallRow &, unsigned) {
-        pyListToPbmp(object, &pbmp_);
-        return PyErr_Occurred() == nullptr;
+        pbmp_ = {};
+        return ombra::add_ports(object, pbmp_);
     }
 
-    Native native() const { return pbmp_; }
+    const Native &native() const { return pbmp_; }
 
     static PyObject *result(const Native &value, const CallRow &) { return pbmpToPyList(value); }
 

@@ -12,6 +12,8 @@
 // the content of `out` then means nothing.
 void pyStringToMacaddr(PyObject *object, uint8 out[6]);
 
+inline constexpr long kMacTextLength = 17;
+
 // The address in lower case, 17 characters, in one buffer of the module: the next call overwrites
 // it. REQUIRES: the interpreter lock is held until the caller has copied the text.
 const char *macaddrToString(const uint8 mac[6]);

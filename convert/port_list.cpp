@@ -3,6 +3,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <cstring>
 
 #include "convert/refuse.h"
 
@@ -12,55 +13,66 @@ constexpr unsigned kWords = 18;
 constexpr unsigned kWordBits = 32;
 constexpr unsigned long kBits = kWords * kWordBits;
 constexpr unsigned kReportedPorts = 571;
-constexpr std::uint32_t kLastWordMask = (1U << (kReportedPorts % kWordBits)) - 1;
 
-static_assert(sizeof(bcm_pbmp_t) == kWords * sizeof(std::uint32_t));
-static_assert(kReportedPorts / kWordBits == kWords - 1);
+// Two words at a time for reading, which a little-endian machine holds in bit order.
+constexpr unsigned kChunkBits = 64;
+constexpr unsigned kChunks = kBits / kChunkBits;
+using Chunks = std::array<std::uint64_t, kChunks>;
 
-std::uint32_t reported(const bcm_pbmp_t &pbmp, unsigned word) {
-    return word == kWords - 1 ? pbmp.pbits[word] & kLastWordMask : pbmp.pbits[word];
+static_assert(sizeof(bcm_pbmp_t) == sizeof(Chunks));
+static_assert(std::endian::native == std::endian::little);
+static_assert(kReportedPorts / kChunkBits == kChunks - 1);
+
+// The bitmap without the bits that are no ports.
+Chunks reported(const bcm_pbmp_t &pbmp) {
+    Chunks chunks;
+    std::memcpy(chunks.data(), &pbmp, sizeof chunks);
+    chunks.back() &= (std::uint64_t{1} << (kReportedPorts % kChunkBits)) - 1;
+    return chunks;
 }
 
 }  // namespace
 
-void pyListToPbmp(PyObject *object, bcm_pbmp_t *out) {
+bool ombra::add_ports(PyObject *object, bcm_pbmp_t &pbmp) {
     if (!PyList_Check(object)) {
-        ombra::refuse_with(PyExc_TypeError, "Expected a list");
-        return;
+        return refuse_with(PyExc_TypeError, "Expected a list");
     }
-    bcm_pbmp_t pbmp{};
     const Py_ssize_t count = PyList_GET_SIZE(object);
     for (Py_ssize_t i = 0; i < count; ++i) {
         PyObject *item = PyList_GET_ITEM(object, i);
         if (!PyInt_Check(item)) {
-            ombra::refuse_with(PyExc_TypeError, "Port list must contain integers");
-            return;
+            return refuse_with(PyExc_TypeError, "Port list must contain integers");
         }
         // Negative numbers become large ones here: one compare refuses both ends.
         const auto port = static_cast<unsigned long>(PyInt_AS_LONG(item));
         if (port >= kBits) {
-            ombra::refuse_with(PyExc_ValueError, "Port number out of range");
-            return;
+            return refuse_with(PyExc_ValueError, "Port number out of range");
         }
         pbmp.pbits[port / kWordBits] |= 1U << (port % kWordBits);
     }
-    *out = pbmp;
+    return true;
+}
+
+void pyListToPbmp(PyObject *object, bcm_pbmp_t *out) {
+    bcm_pbmp_t pbmp{};
+    if (ombra::add_ports(object, pbmp)) {
+        *out = pbmp;
+    }
 }
 
 PyObject *pbmpToPyList(const bcm_pbmp_t &pbmp) {
+    // Most words are empty, and counting bits is a call on the baseline machine.
+    const Chunks chunks = reported(pbmp);
     int count = 0;
-    for (unsigned word = 0; word < kWords; ++word) {
-        count += std::popcount(reported(pbmp, word));
+    for (const std::uint64_t chunk : chunks) {
+        count += chunk == 0 ? 0 : std::popcount(chunk);
     }
     PyObject *list = PyList_New(count);
-    if (list == nullptr) {
-        return nullptr;
-    }
     Py_ssize_t next = 0;
-    for (unsigned word = 0; word < kWords; ++word) {
-        for (std::uint32_t bits = reported(pbmp, word); bits != 0; bits &= bits - 1) {
-            const auto bit = static_cast<unsigned>(std::countr_zero(bits));
-            PyObject *port = PyLong_FromUnsignedLong(word * kWordBits + bit);
+    for (unsigned i = 0; list != nullptr && i < kChunks; ++i) {
+        for (std::uint64_t bits = chunks[i]; bits != 0; bits &= bits - 1) {
+            PyObject *port = PyLong_FromUnsignedLong(
+                i * kChunkBits + static_cast<unsigned>(std::countr_zero(bits)));
             if (port == nullptr) {
                 Py_DECREF(list);
                 return nullptr;

@@ -13,6 +13,14 @@
 // for a port that has no bit (below 0, 576 and above).
 void pyListToPbmp(PyObject *object, bcm_pbmp_t *out);
 
+namespace ombra {
+
+// The same without the copy: sets the ports of the list in `pbmp`, which on failure (false, an
+// exception is pending) holds some of them.
+bool add_ports(PyObject *object, bcm_pbmp_t &pbmp);
+
+}  // namespace ombra
+
 // A new ascending list of `long` port numbers, or null with an exception. Ports 0 to 570 are
 // reported; the last five bits of the array are not ports.
 PyObject *pbmpToPyList(const bcm_pbmp_t &pbmp);
