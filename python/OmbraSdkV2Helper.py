@@ -1,0 +1,153 @@
+"""The chip SDK in Python.
+
+Everything of the module _OmbraSdkV2Helper is here under its own name: the
+functions of the SDK and of the platform, the constants, the variables in
+`cvar`. On top of it:
+
+* classes for the SDK's structures, with their fields as attributes:
+  bcm_l2_addr_t(mac='00:11:22:33:44:55', vid=5);
+* values that the SDK knows by name alone, made from plain numbers:
+  soc_port_t(3), U32(1), UnitId(0), bcm_rx_reasons_t([1, 0, 0, 0, 0, 0]);
+* native variables and arrays for parameters that are pointers:
+  box('int'), box('char *'), Array('bcm_trunk_member_t', 8);
+* native callbacks that call Python: one for each callback type, under its
+  name, with cookie(), release() and bind(); and traverse(), which needs none
+  of them;
+* check(), which turns a refusal of the SDK into an exception, SdkError.
+
+The plain functions take and return what they always did: a status is a number.
+
+    >>> from OmbraSdkV2Helper import *
+    >>> link = box('int')
+    >>> check(bcm_port_link_status_get(0, 1, link))
+    0
+    >>> link.value
+    1
+"""
+
+import sys as _sys
+
+import _OmbraSdkV2Classes as _tables
+import _OmbraSdkV2Companion as _companion
+import _OmbraSdkV2Helper as _native
+import _OmbraSdkV2Proxy as _proxy
+from _OmbraSdkV2Companion import Array, bind, cookie, release, view
+from _OmbraSdkV2Proxy import Struct, Value, box
+
+# What the statuses mean, by the name behind BCM_E_ or SOC_E_.
+_MEANINGS = {
+    'INTERNAL': 'the SDK found itself in a state that must not be',
+    'MEMORY': 'out of memory',
+    'UNIT': 'there is no such unit',
+    'PARAM': 'a parameter is out of its range',
+    'EMPTY': 'the table is empty',
+    'FULL': 'the table is full',
+    'NOT_FOUND': 'there is no such entry',
+    'EXISTS': 'the entry exists already',
+    'TIMEOUT': 'the operation took too long',
+    'BUSY': 'the object is in use',
+    'FAIL': 'the operation failed',
+    'DISABLED': 'the feature is switched off',
+    'BADID': 'the identifier is not valid',
+    'RESOURCE': 'no resources are left',
+    'CONFIG': 'the configuration does not allow it',
+    'UNAVAIL': 'this chip cannot do that',
+    'INIT': 'the chapter or the unit has not been initialised',
+    'PORT': 'there is no such port',
+    'LIMIT': 'a limit is reached',
+}
+
+
+class SdkError(Exception):
+    """A status with which the SDK refused. `status` is the number, `name` the
+    constant, `meaning` what it says."""
+
+    def __init__(self, status):
+        self.status = status
+        self.name, self.meaning = _describe(status)
+        Exception.__init__(self, '%s (%d): %s'
+                           % (self.name, status, self.meaning))
+
+
+def _describe(status):
+    for family in ('BCM_E_', 'SOC_E_'):
+        for word, meaning in _MEANINGS.iteritems():
+            if vars(_native).get(family + word) == status:
+                return family + word, meaning
+    return 'status', 'unknown to the SDK'
+
+
+def check(result):
+    """Raises SdkError for a result that is a negative status, or begins with
+    one. Returns what is left: the number itself; of a list or tuple the value
+    behind the status, or the values as a tuple.
+
+        group = check(bcm_field_group_create(unit, qset, priority))
+    """
+    if not isinstance(result, (list, tuple)):
+        status, rest = result, result
+    else:
+        status, rest = result[0], tuple(result[1:])
+        if len(rest) == 1:
+            rest = rest[0]
+    if status < 0:
+        raise SdkError(status)
+    return rest
+
+
+def traverse(function, *args):
+    """Calls a function that calls back for each entry, with a Python callable
+    in the place of its callback and without the cookie:
+
+        traverse(bcm_l2_traverse, unit, visit)      # visit(unit, info)
+
+    A callable that returns a negative number ends the walk; the result is the
+    function's status. An exception ends it as well and is raised here. What
+    the callable is given is gone when it returns: keep a copy().
+    """
+    name, place, cookie_place = _tables.CALLBACKS[function.__name__]
+    visit = args[place]
+    raised = []
+
+    def guarded(*entry):
+        try:
+            return visit(*entry)
+        except BaseException:
+            raised.append(_sys.exc_info())
+            return _native.BCM_E_FAIL
+
+    key = cookie(guarded)
+    args = list(args)
+    args[place] = getattr(_companion, name)
+    args.insert(cookie_place, key)
+    try:
+        result = function(*args)
+    finally:
+        release(key)
+    if raised:
+        raise raised[0][0], raised[0][1], raised[0][2]
+    return result
+
+
+def _fill(namespace):
+    """Puts the names of the module, the callbacks and the classes here."""
+    own = dict(namespace)
+    namespace.update(vars(_native))
+    namespace.update((name, function)
+                     for name, function in vars(_companion).iteritems()
+                     if 'swig_ptr: ' in (getattr(function, '__doc__', '') or ''))
+    rows = vars(_native)
+    names = frozenset(name for name, _ in _tables.CLASSES)
+    for name, table in _tables.CLASSES:
+        namespace[name] = _proxy.struct_class(name, table, rows, names)
+    for name, element in _tables.BOXES:
+        namespace[name] = _proxy.box_class(name, namespace.get(element), rows)
+    for name, type_name, others in _tables.VALUES:
+        made = _proxy.value_class(name, type_name)
+        namespace.update((one, made) for one in (name,) + others)
+    for name, type_name in _tables.HOLDERS:
+        namespace[name] = _proxy.holder_class(name, type_name)
+    namespace.update(own)
+
+
+_fill(globals())

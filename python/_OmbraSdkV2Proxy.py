@@ -1,0 +1,308 @@
+"""The classes behind OmbraSdkV2Helper: structures, values, boxes, arrays.
+
+Each stands on rows of the module: a structure's fields are properties over its
+X_f_get and X_f_set rows, and the pointer object in an instance's `this` is
+what the module sees when the instance is passed.
+
+Who frees what: an instance that was constructed here owns its native memory,
+and it dies with the instance. One that the SDK handed out does not. What is
+read out of a structure or an array without a copy (a nested structure, an
+array field, an element) keeps its parent alive for as long as it lives.
+"""
+
+from operator import index
+
+import _OmbraSdkV2Companion as companion
+
+
+class Proxy(object):
+    """Holds a pointer object in `this`. Equal when the address is the same."""
+
+    def __setattr__(self, name, value):
+        if not hasattr(type(self), name):
+            raise AttributeError('%s has no field %r'
+                                 % (type(self).__name__, name))
+        object.__setattr__(self, name, value)
+
+    def __eq__(self, other):
+        if not isinstance(other, Proxy):
+            return NotImplemented
+        return int(self.this) == int(other.this)
+
+    def __ne__(self, other):
+        equal = self.__eq__(other)
+        return equal if equal is NotImplemented else not equal
+
+    def __hash__(self):
+        return hash(int(self.this))
+
+
+class Struct(Proxy):
+    """A structure of the SDK. A new one is zero, but for the fields given."""
+
+    _fields = ()
+
+    def __init__(self, **fields):
+        self.__dict__['this'] = self._new()
+        for name, value in fields.iteritems():
+            setattr(self, name, value)
+
+    def fields(self):
+        """Pairs of field name and value, in layout order."""
+        return [(name, getattr(self, name)) for name in self._fields]
+
+    def equals(self, other):
+        """Whether `other` is of the same class and every field is equal."""
+        return type(self) is type(other) and all(
+            _same(getattr(self, name), getattr(other, name))
+            for name in self._fields)
+
+    def copy(self):
+        """A new structure with the same fields. Pointers are copied as
+        pointers: what they point to is shared."""
+        twin = type(self)()
+        for name in self._fields:
+            setattr(twin, name, getattr(self, name))
+        return twin
+
+    def __repr__(self):
+        # Fields that are zero are left out: most of a structure is.
+        if int(self.this) == 0:
+            return '<%s that is gone>' % type(self).__name__
+        shown = ['%s=%r' % pair for pair in self.fields()
+                 if not _is_zero(pair[1])]
+        return '%s(%s)' % (type(self).__name__, ', '.join(shown))
+
+
+class Box(Proxy):
+    """One native number that the SDK can write through a pointer."""
+
+    def __init__(self, value=0):
+        self.__dict__['this'] = self._new()
+        self.value = value
+
+    def cast(self):
+        """A plain pointer to the number, for parameters that do not take the
+        box itself. It keeps nothing alive: the box must outlive it."""
+        return self._cast(self)
+
+    def __int__(self):
+        return int(self.value)
+
+    def __repr__(self):
+        return '%s(%r)' % (type(self).__name__, self.value)
+
+
+class StructBox(Box):
+    """One native structure behind a pointer; `value` is a copy of it."""
+
+    def __init__(self, value=None):
+        Box.__init__(self, self._element() if value is None else value)
+
+
+class Value(Proxy):
+    """A value that the SDK knows by name alone: a number, words, a port list
+    or a text, in `value`. Two values of a class are equal when these are."""
+
+    def __init__(self, value=None):
+        self.__dict__['this'] = companion.new_value(self._type, value)
+        # A value that is a pointer needs what it points to.
+        self.__dict__['_kept'] = value
+
+    @property
+    def value(self):
+        """What the value stands for."""
+        return companion.get_value(self)
+
+    @value.setter
+    def value(self, value):
+        companion.set_value(self, value)
+        self.__dict__['_kept'] = value
+
+    def __int__(self):
+        return int(self.value)
+
+    def __eq__(self, other):
+        if type(self) is not type(other):
+            return NotImplemented
+        return _same(self.value, other.value)
+
+    __hash__ = None
+
+    def __repr__(self):
+        return '%s(%r)' % (type(self).__name__, self.value)
+
+
+class Holder(Proxy):
+    """A counted pointer of the platform: keeps a native object alive."""
+
+    def __init__(self):
+        raise TypeError('%s objects come from the SDK' % type(self).__name__)
+
+    @property
+    def pointer(self):
+        """A plain pointer to the object, or None. The holder must outlive
+        it."""
+        return companion.held_pointer(self)
+
+    def __nonzero__(self):
+        return self.pointer is not None
+
+    def __repr__(self):
+        return '<%s to %r>' % (type(self).__name__, self.pointer)
+
+
+def box(type_name, value=None):
+    """A native variable for a parameter `type_name *`, read and written by
+    its `value`: box('int'), box('bcm_color_t', bcmColorRed), box('char *').
+    """
+    variable = companion.Array(type_name, 1)
+    if value is not None:
+        variable.value = value
+    return variable
+
+
+def _same(left, right):
+    """Equality of two field values."""
+    if isinstance(left, Struct):
+        return left.equals(right)
+    if isinstance(left, companion.Array):
+        return len(left) == len(right) and all(
+            _same(*pair) for pair in zip(left, right))
+    return left == right
+
+
+def _is_zero(value):
+    if isinstance(value, Struct):
+        return all(_is_zero(part) for _, part in value.fields())
+    if isinstance(value, companion.Array):
+        return all(_is_zero(part) for part in value)
+    if isinstance(value, Value):
+        return _is_zero(value.value)
+    return not value or value == '00:00:00:00:00:00'
+
+
+def _keep(child, parent):
+    """Makes an alias keep what it lies in."""
+    child.__dict__['_owner'] = parent
+    return child
+
+
+def _nested_field(get, put, doc):
+    return property(lambda self: _keep(get(self), self), put, doc=doc)
+
+
+def _port_list_field(get, put, doc):
+    # The rows give long numbers out and take int ones in.
+    def write(self, ports):
+        put(self, [int(index(port)) for port in ports])
+
+    return property(lambda self: [int(port) for port in get(self)], write,
+                    doc=doc)
+
+
+def _array_field(get, put, element, count, doc):
+    def read(self):
+        return companion.view(element, get(self), count, self)
+
+    def write(self, value):
+        if not isinstance(value, companion.Array):
+            value = companion.Array(element, value)
+        if len(value) != count:
+            raise ValueError('the field takes %d elements, not %d'
+                             % (count, len(value)))
+        put(self, value)
+
+    return property(read, write, doc=doc)
+
+
+def _pointer_field(get, put, name, doc):
+    # The structure takes over a structure that is stored in it. An array goes
+    # on owning its memory, so it is kept.
+    def write(self, value):
+        put(self, value)
+        self.__dict__['_kept_' + name] = value
+
+    return property(get, write, doc=doc)
+
+
+def _field(name, declared, get, put, classes):
+    """The property of a field, by the form of its declared type."""
+    if declared in classes:
+        return _nested_field(get, put, declared)
+    if declared == 'bcm_pbmp_t':
+        return _port_list_field(get, put, declared)
+    if declared[-1] == ']':
+        element, _, bounds = declared.partition(' [')
+        counts = [int(bound) for bound in bounds[:-1].split('][')]
+        if len(counts) == 2:
+            element = '%s [%d]' % (element, counts[1])
+        return _array_field(get, put, element, counts[0], declared)
+    if declared[-1] == '*':
+        return _pointer_field(get, put, name, declared)
+    return property(get, put, doc=declared)
+
+
+def struct_class(name, table, rows, classes):
+    """The class of a structure, registered with the module. `table` has a
+    line "name: type" for each field."""
+    members = {
+        '__doc__': 'Structure of the SDK. Fields and their types:\n\n'
+                   + table,
+        '__module__': 'OmbraSdkV2Helper',
+        '__swig_destroy__': rows['delete_' + name],
+        '_new': rows['new_' + name],
+    }
+    names = []
+    for line in table.splitlines():
+        field, _, declared = line.partition(': ')
+        row = name + '_' + field
+        members[field] = _field(field, declared, rows[row + '_get'],
+                                rows[row + '_set'], classes)
+        names.append(field)
+    members['_fields'] = tuple(names)
+    made = type(name, (Struct,), members)
+    rows[name + '_swigregister'](made)
+    return made
+
+
+def box_class(name, element, rows):
+    """The class of a box, registered with the module. `element` is the class
+    of a structure, or None for a number."""
+    members = {
+        '__doc__': 'A native variable for a parameter that is a pointer.',
+        '__module__': 'OmbraSdkV2Helper',
+        '__swig_destroy__': rows['delete_' + name],
+        '_new': rows['new_' + name],
+        '_cast': rows[name + '_cast'],
+        '_element': element,
+        'frompointer': staticmethod(rows[name + '_frompointer']),
+        'value': property(rows[name + '_value'], rows[name + '_assign'],
+                          doc='the element behind the pointer'),
+    }
+    made = type(name, (StructBox if element else Box,), members)
+    rows[name + '_swigregister'](made)
+    return made
+
+
+def value_class(name, type_name):
+    """The class of an opaque value, registered with the module's type."""
+    made = type(name, (Value,), {
+        '__doc__': 'The value type %s.' % type_name,
+        '__module__': 'OmbraSdkV2Helper',
+        '__swig_destroy__': companion.delete_value,
+        '_type': type_name,
+    })
+    companion.register_class(type_name, made)
+    return made
+
+
+def holder_class(name, type_name):
+    """The class of a counted pointer, registered with the module's type."""
+    made = type(name, (Holder,), {
+        '__doc__': 'Keeps the object behind a %s alive.' % type_name,
+        '__module__': 'OmbraSdkV2Helper',
+        '__swig_destroy__': companion.delete_holder,
+    })
+    companion.register_class(type_name, made)
+    return made
