@@ -10,6 +10,8 @@ function(ombra_interpreter target include_dir library)
     target_include_directories(${target} SYSTEM INTERFACE ${include_dir})
     add_library(${target}_embed INTERFACE)
     target_link_libraries(${target}_embed INTERFACE ${target} ${library})
+    # Also where only the toolkit below the program calls it.
+    target_link_options(${target}_embed INTERFACE -Wl,--no-as-needed)
 endfunction()
 
 ombra_interpreter(python27 ${PYTHON27_INCLUDE_DIR} "${PYTHON27_LIBRARY}")
