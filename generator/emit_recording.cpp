@@ -31,9 +31,7 @@ bool ends_with(const std::string &text, const std::string &end) {
            text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
-std::string parameter_name(std::size_t index) {
-    return "a" + std::to_string(index + 1);
-}
+std::string parameter_name(std::size_t index) { return "a" + std::to_string(index + 1); }
 
 // "int a1, unsigned char a2[16]", with the native types and names of our own.
 std::string parameters_of(const Function &function) {

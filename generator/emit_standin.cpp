@@ -110,8 +110,7 @@ std::string columns_of(const Plan &plan) {
     return text + "};\n";
 }
 
-std::string number_argument(const Shapes &shapes, const Function &function,
-                            std::size_t parameter) {
+std::string number_argument(const Shapes &shapes, const Function &function, std::size_t parameter) {
     if (parameter == 0) {
         return "{}";
     }
@@ -123,9 +122,9 @@ std::string number_argument(const Shapes &shapes, const Function &function,
 std::string return_of(const Function &function, const Plan &plan) {
     std::string call = "answer(call, " + unit_of(function) + ", arguments)";
     if (plan.callback != 0) {
-        const std::string context =
-            plan.context == 0 ? "nullptr"
-                              : name_of(function.parameters[plan.context], plan.context);
+        const std::string context = plan.context == 0
+                                        ? "nullptr"
+                                        : name_of(function.parameters[plan.context], plan.context);
         call = "walk(call, columns, " + unit_of(function) + ", arguments, " +
                name_of(function.parameters[plan.callback], plan.callback) + ", " + context + ")";
     }
@@ -157,13 +156,13 @@ std::string answer_text(const Shapes &shapes, const Function &function, const Pl
 std::string init_text(const Function &function, const Plan &plan) {
     const bool bound = !plan.bindings.empty();
     const Variable &record = function.parameters[plan.callback];
-    return fill(kInit, {{"native", function.native},
-                        {"parameters", parameters_of(function, all_of(function))},
-                        {"bindings", bindings_of(plan)},
-                        {"arguments", addresses_of(function)},
-                        {"record", name_of(record, plan.callback)},
-                        {"bound", bound ? "bindings, " + number(plan.bindings.size())
-                                        : "nullptr, 0"}});
+    return fill(kInit,
+                {{"native", function.native},
+                 {"parameters", parameters_of(function, all_of(function))},
+                 {"bindings", bindings_of(plan)},
+                 {"arguments", addresses_of(function)},
+                 {"record", name_of(record, plan.callback)},
+                 {"bound", bound ? "bindings, " + number(plan.bindings.size()) : "nullptr, 0"}});
 }
 
 // A function without a rule: BCM_E_UNAVAIL where the result is a status, else nothing.
@@ -207,6 +206,17 @@ std::string proofs_of(const Shapes &shapes, const Function &function, const Plan
     return text;
 }
 
+// The plans of a model, which do not change once it is resolved; all headers share them.
+const std::vector<Plan> &plans_of(const Model &model) {
+    static const Model *planned = nullptr;
+    static std::vector<Plan> plans;
+    if (planned != &model) {
+        plans = plan_standin(model);
+        planned = &model;
+    }
+    return plans;
+}
+
 }  // namespace
 
 std::string standin_file(const std::string &header) {
@@ -215,7 +225,7 @@ std::string standin_file(const std::string &header) {
 
 std::string emit_standin(const Model &model, const std::string &header) {
     const Shapes shapes(model);
-    const std::vector<Plan> plans = plan_standin(model);
+    const std::vector<Plan> &plans = plans_of(model);
     std::string functions;
     std::string proofs;
     std::set<std::string> proved;
@@ -240,7 +250,7 @@ std::string emit_standin(const Model &model, const std::string &header) {
 }
 
 std::string emit_standin_layers(const Model &model) {
-    const std::vector<Plan> plans = plan_standin(model);
+    const std::vector<Plan> &plans = plans_of(model);
     std::string text;
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
         if (!model.functions[i].module_native) {

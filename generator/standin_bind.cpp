@@ -326,8 +326,7 @@ bool Part::bind(Member &member, Plan &plan) {
 // A family that takes and never gives, save by its set form, is none.
 void Part::drop_if_mute() {
     const bool speaks = std::any_of(members_.begin(), members_.end(), [](const Member &member) {
-        return !member.plan->operation.empty() &&
-               (!comes_in(member.verb) || member.verb == "set");
+        return !member.plan->operation.empty() && (!comes_in(member.verb) || member.verb == "set");
     });
     for (auto &member : members_) {
         *member.plan = speaks ? *member.plan : Plan{};

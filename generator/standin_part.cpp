@@ -11,8 +11,8 @@ using Form = Shape::Form;
 
 // Arrays by whose elements the rows are known; of each pair of arrays the first holds the keys.
 constexpr std::array<const char *, 5> kKeyedArrays = {
-    "bcm_cosq_port_mapping_multi", "bcm_fabric_link_thresholds",
-    "bcm_fabric_link_thresholds_pipe", "bcm_fabric_multicast_multi", "bcm_field_class_map"};
+    "bcm_cosq_port_mapping_multi", "bcm_fabric_link_thresholds", "bcm_fabric_link_thresholds_pipe",
+    "bcm_fabric_multicast_multi", "bcm_field_class_map"};
 
 // Columns that two members of a family name differently: family, the name, the other name.
 constexpr std::array<std::array<const char *, 3>, 6> kSameColumn = {{
@@ -207,10 +207,9 @@ void Part::find_forms() {
         const bool out = goes_out(member.verb);
         const bool limited = form.max != 0 && form.filled != 0;
         if (out && limited) {  // what others take as one value is no array, unless all is
-            const std::size_t single = static_cast<std::size_t>(
-                std::count_if(form.arrays.begin(), form.arrays.end(), [&](std::size_t i) {
-                    return taken_as(member.shapes[i].name, Form::value);
-                }));
+            const std::size_t single = static_cast<std::size_t>(std::count_if(
+                form.arrays.begin(), form.arrays.end(),
+                [&](std::size_t i) { return taken_as(member.shapes[i].name, Form::value); }));
             std::erase_if(form.arrays, [&](std::size_t i) {
                 return (single < form.arrays.size() &&
                         taken_as(member.shapes[i].name, Form::value)) ||
@@ -266,7 +265,8 @@ void Part::keys_of_removal(const Member &member) {
             for (std::size_t j = 1; j < get->shapes.size(); ++j) {  // the get form's own keys
                 const Shape &other = get->shapes[j];
                 if (other.form == Form::value || other.array) {
-                    add_key({other.name, other.type, other.size, other.number, nullptr, true, true});
+                    add_key(
+                        {other.name, other.type, other.size, other.number, nullptr, true, true});
                 }
             }
             continue;
@@ -409,10 +409,9 @@ void Part::order_keys(const std::vector<PlanColumn> &first) {
                    ? 0
                    : 1;
     };
-    std::stable_sort(columns_.begin(), columns_.end(),
-                     [&](const PlanColumn &one, const PlanColumn &other) {
-                         return rank(one) < rank(other);
-                     });
+    std::stable_sort(
+        columns_.begin(), columns_.end(),
+        [&](const PlanColumn &one, const PlanColumn &other) { return rank(one) < rank(other); });
     const auto owned = static_cast<std::size_t>(
         std::count_if(columns_.begin(), columns_.end(),
                       [&](const PlanColumn &column) { return rank(column) == 0; }));
@@ -443,7 +442,8 @@ PlanColumn *Part::column_for(const Member &member, const Shape &shape) {
         }
     }
     for (auto &column : columns_) {
-        if (shape.record == nullptr || column.record != shape.record || named(member, column.name) != nullptr) {
+        if (shape.record == nullptr || column.record != shape.record ||
+            named(member, column.name) != nullptr) {
             continue;
         }
         if (found != nullptr) {

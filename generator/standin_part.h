@@ -13,7 +13,7 @@ namespace generator {
 
 // Where a form of a member takes or gives an array with a number of elements.
 struct ListForm {
-    std::size_t count = 0;   // parameters, 0 for none
+    std::size_t count = 0;  // parameters, 0 for none
     std::size_t max = 0;
     std::size_t filled = 0;
     std::vector<std::size_t> arrays;
@@ -22,7 +22,7 @@ struct ListForm {
 };
 
 class Part {
-   public:
+  public:
     Part(const Shapes &shapes, std::string name, std::vector<Member> members);
 
     // The rows belong to those of another part, whose key theirs begins with.
@@ -37,7 +37,7 @@ class Part {
     const std::vector<Member> &members() const { return members_; }
     const std::vector<PlanColumn> &columns() const { return columns_; }
 
-   private:
+  private:
     const Member *first(const std::string &verb, bool list) const;
     bool has(const std::string &verb) const;
     const ListForm &form(const Member &member) const { return forms_.at(member.function); }
@@ -60,8 +60,7 @@ class Part {
 
     std::string same_column(const std::string &name) const;
     PlanColumn *column_for(const Member &member, const Shape &shape);
-    PlanColumn *column_for_element(const Shape &shape,
-                                   const std::set<const PlanColumn *> &bound);
+    PlanColumn *column_for_element(const Shape &shape, const std::set<const PlanColumn *> &bound);
     const PlanColumn *column_of(const Member &member, std::size_t parameter,
                                 const std::set<const PlanColumn *> &bound);
     const Variable *field_for(const Member &member, const Shape &shape,

@@ -55,13 +55,12 @@ const std::map<std::string, std::string> kFamilies = {
 };
 
 // Families whose forms mean more than their declarations say.
-const std::set<std::string> kUnfit = {
-    "bcm_cosq_gport_statistic_multi", "bcm_fabric_calendar_multi", "bcm_field_qset_id_multi",
-    "bcm_port_management_packet_config"};
+const std::set<std::string> kUnfit = {"bcm_cosq_gport_statistic_multi", "bcm_fabric_calendar_multi",
+                                      "bcm_field_qset_id_multi",
+                                      "bcm_port_management_packet_config"};
 
 // Chapters whose set forms have no ending.
-constexpr std::array<const char *, 2> kQualify = {"bcm_field_qualify_",
-                                                  "bcm_switch_hash_qualify_"};
+constexpr std::array<const char *, 2> kQualify = {"bcm_field_qualify_", "bcm_switch_hash_qualify_"};
 
 bool ends_with(const std::string &text, const std::string &end) {
     return text.size() >= end.size() &&
@@ -86,9 +85,8 @@ std::pair<std::string, std::string> family_of(const Function &function) {
         const auto other = kFamilies.find(stem);
         return {(other == kFamilies.end() ? stem : other->second) + row.table, row.verb};
     }
-    const bool qualifies = std::any_of(kQualify.begin(), kQualify.end(), [&](const char *one) {
-        return name.rfind(one, 0) == 0;
-    });
+    const bool qualifies = std::any_of(kQualify.begin(), kQualify.end(),
+                                       [&](const char *one) { return name.rfind(one, 0) == 0; });
     return {name, qualifies ? "set" : ""};
 }
 
@@ -143,15 +141,14 @@ std::string layer_of(const std::vector<Member> &members, const std::string &fami
 
 // Whether the member asks by more than the key of the objects.
 bool asks_by_more(const Member &member, const Part &objects) {
-    return std::any_of(
-        member.shapes.begin() + 1, member.shapes.end(), [&](const Shape &shape) {
-            const bool key = std::any_of(
-                objects.columns().begin(), objects.columns().end(),
-                [&](const PlanColumn &column) { return column.key && column.name == shape.name; });
-            const Shape::Form form = shape.form;
-            return member.verb == "get" && form == Shape::Form::value && !key &&
-                   shape.name != "flags" && shape.name.find("max") == std::string::npos;
-        });
+    return std::any_of(member.shapes.begin() + 1, member.shapes.end(), [&](const Shape &shape) {
+        const bool key = std::any_of(
+            objects.columns().begin(), objects.columns().end(),
+            [&](const PlanColumn &column) { return column.key && column.name == shape.name; });
+        const Shape::Form form = shape.form;
+        return member.verb == "get" && form == Shape::Form::value && !key &&
+               shape.name != "flags" && shape.name.find("max") == std::string::npos;
+    });
 }
 
 // Whether a get form gives something that no create form takes.
@@ -207,9 +204,8 @@ void plan_family(const Shapes &shapes, const std::string &family, std::vector<Me
                           });
         if (more || (both && tells_of_rows(objects))) {
             const auto accessors = std::stable_partition(
-                objects.begin(), objects.end(), [](const Member &member) {
-                    return member.verb != "set" && member.verb != "get";
-                });
+                objects.begin(), objects.end(),
+                [](const Member &member) { return member.verb != "set" && member.verb != "get"; });
             rows.insert(rows.end(), accessors, objects.end());
             objects.erase(accessors, objects.end());
         }

@@ -25,14 +25,14 @@ struct PlanBinding {
 };
 
 struct PlanColumn {
-    std::string name;    // "port"
-    std::string type;    // "bcm_port_t"
+    std::string name;  // "port"
+    std::string type;  // "bcm_port_t"
     std::size_t size = 0;
     bool number = false;
     const Struct *record = nullptr;
     bool key = false;
-    bool given = false;  // of a key: the caller chooses it, it is no id that the SDK gives out
-    bool list = false;   // an array that the row keeps whole; `size` is an element's
+    bool given = false;   // of a key: the caller chooses it, it is no id that the SDK gives out
+    bool list = false;    // an array that the row keeps whole; `size` is an element's
     std::size_t row = 0;  // offset in the row, or the number of the list
 };
 

@@ -6,8 +6,9 @@ namespace generator {
 namespace {
 
 const std::unordered_map<std::string, std::size_t> kNumbers = {
-    {"char", 1},           {"signed char", 1}, {"unsigned char", 1}, {"bool", 1}, {"short", 2},
-    {"unsigned short", 2}, {"int", 4},         {"unsigned int", 4},  {"long", 8}, {"unsigned long", 8}};
+    {"char", 1},  {"signed char", 1},    {"unsigned char", 1}, {"bool", 1},
+    {"short", 2}, {"unsigned short", 2}, {"int", 4},           {"unsigned int", 4},
+    {"long", 8},  {"unsigned long", 8}};
 
 bool ends_with(const std::string &text, const std::string &end) {
     return text.size() >= end.size() &&
@@ -91,7 +92,10 @@ Shape Shapes::of(const Variable &parameter) const {
         shape.form = Shape::Form::context;
         return shape;
     }
-    if (parameter.conversion.kind == Kind::function_pointer) {
+    const bool opaque_callback = parameter.conversion.kind == Kind::by_value &&
+                                 parameter.conversion.size == sizeof(void *) &&
+                                 type.find("_cb") != std::string::npos;
+    if (parameter.conversion.kind == Kind::function_pointer || opaque_callback) {
         shape.form = Shape::Form::callback;
         shape.size = sizeof(void *);
         return shape;

@@ -20,17 +20,17 @@ struct Shape {
         opaque     // the address of something unknown
     };
     Form form = Form::opaque;
-    std::string name;        // "port"
-    std::string type;        // "bcm_port_t"; of what the address points at, for memory
-    std::size_t size = 0;    // of the value, or of one element behind the address
-    bool array = false;      // declared with bounds, by itself or by its type
-    bool constant = false;   // what the address points at is not written
-    bool number = false;     // an integer, by itself or behind the address
+    std::string name;                // "port"
+    std::string type;                // "bcm_port_t"; of what the address points at, for memory
+    std::size_t size = 0;            // of the value, or of one element behind the address
+    bool array = false;              // declared with bounds, by itself or by its type
+    bool constant = false;           // what the address points at is not written
+    bool number = false;             // an integer, by itself or behind the address
     const Struct *record = nullptr;  // the struct, by itself or behind the address
 };
 
 class Shapes {
-   public:
+  public:
     explicit Shapes(const Model &model);
 
     Shape of(const Variable &parameter) const;
@@ -40,7 +40,7 @@ class Shapes {
                           const std::string &type) const;
     std::size_t field_size(const Variable &field) const;
 
-   private:
+  private:
     struct Layout {
         std::size_t size = 0;  // 0: unknown
         bool array = false;

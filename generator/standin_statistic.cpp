@@ -11,9 +11,9 @@ using Form = Shape::Form;
 
 struct StatisticForm {
     const char *ending;
-    const char *table;      // of the family
+    const char *table;  // of the family
     const char *operation;
-    std::size_t behind;     // parameters behind the key
+    std::size_t behind;  // parameters behind the key
 };
 
 // `key..., stat, val`; `key..., nstat, stat_arr, value_arr`; `key..., stat, num_entries,
@@ -68,7 +68,8 @@ bool fits(const Member &member, const StatisticForm &form) {
     };
     const bool in = std::string(form.operation) == "store";
     switch (form.behind) {
-        case 1: return is_number(behind(0), Form::value);
+        case 1:
+            return is_number(behind(0), Form::value);
         case 2:
             return behind(0).form == Form::value &&
                    is_number(behind(1), in ? Form::value : Form::memory);
@@ -78,7 +79,8 @@ bool fits(const Member &member, const StatisticForm &form) {
         case 4:
             return behind(0).form == Form::value && is_number(behind(1), Form::value) &&
                    is_number(behind(2), Form::memory) && behind(3).record != nullptr;
-        default: return true;
+        default:
+            return true;
     }
 }
 
@@ -106,9 +108,8 @@ bool append_keys(const Shapes &shapes, Plan &plan, const Member &member, std::si
             return false;
         }
         for (const auto &column : key_columns(shapes, shape)) {
-            const Variable *field = column.record != nullptr
-                                        ? nullptr
-                                        : shapes.field(*shape.record, column.name, "");
+            const Variable *field =
+                column.record != nullptr ? nullptr : shapes.field(*shape.record, column.name, "");
             PlanBinding binding{i, "select", true};
             binding.at = field == nullptr ? 0 : field->offset;
             binding.row = plan.row;
@@ -152,11 +153,12 @@ bool plan_statistic(const Shapes &shapes, Member &member) {
     }
     plan.key = plan.row;
     if (form->behind != 0) {
-        append(plan, member, member.shapes.size() - 1, attached && form->behind == 1 ? "write" : out,
-               form->behind >= 3);
+        append(plan, member, member.shapes.size() - 1,
+               attached && form->behind == 1 ? "write" : out, form->behind >= 3);
     }
-    const std::size_t value =
-        form->behind == 4 ? member.shapes.back().size : attached ? 4 : kCounterBytes;
+    const std::size_t value = form->behind == 4 ? member.shapes.back().size
+                              : attached        ? 4
+                                                : kCounterBytes;
     plan.row = plan.key + value;
     *member.plan = plan;
     return true;

@@ -31,8 +31,7 @@ int check_owner(GenericTables &tables, const Call &call, const std::string &byte
     if (call.owner == nullptr) return BCM_E_NONE;
     const auto owner = tables.find(std::string_view(call.owner));
     const std::string_view key = std::string_view(bytes).substr(0, call.owner_key);
-    return owner != tables.end() && owner->second.rows.contains(key) ? BCM_E_NONE
-                                                                     : BCM_E_NOT_FOUND;
+    return owner != tables.end() && owner->second.rows.contains(key) ? BCM_E_NONE : BCM_E_NOT_FOUND;
 }
 
 // Takes a row out with all that belongs to it.
@@ -73,9 +72,8 @@ GenericRow new_row(const Invocation &invocation, int element) {
 bool give_id(const Invocation &invocation, GenericTable &table, const Binding &id) {
     const Call &call = invocation.call();
     const std::uint64_t bits = id.size * 8;
-    const std::uint64_t last =
-        bits >= 32 ? std::uint64_t{std::numeric_limits<std::int32_t>::max()}
-                   : (std::uint64_t{1} << bits) - 1;
+    const std::uint64_t last = bits >= 32 ? std::uint64_t{std::numeric_limits<std::int32_t>::max()}
+                                          : (std::uint64_t{1} << bits) - 1;
     std::string bytes = new_row(invocation, 0).bytes;
     for (std::uint64_t tried = 0; tried <= table.rows.size(); ++tried) {
         table.last_id = table.last_id >= last ? 1 : table.last_id + 1;
@@ -185,17 +183,28 @@ int perform(const Invocation &invocation, GenericTables &tables) {
     if (call.operation == Operation::forget) return forget(tables, call);
     GenericTable &table = table_of(tables, call);
     switch (call.operation) {
-        case Operation::store: return insert(invocation, tables, table, true);
-        case Operation::update: return update(invocation, table);
-        case Operation::create: return create(invocation, tables, table);
-        case Operation::add: return add(invocation, tables, table);
-        case Operation::replace: return replace(invocation, tables, table);
-        case Operation::read: return read(invocation, table, false);
-        case Operation::find: return read(invocation, table, true);
-        case Operation::list: return list(invocation, table);
-        case Operation::remove: return remove(invocation, tables, table, true);
-        case Operation::remove_all: return remove(invocation, tables, table, false);
-        case Operation::forget: break;
+        case Operation::store:
+            return insert(invocation, tables, table, true);
+        case Operation::update:
+            return update(invocation, table);
+        case Operation::create:
+            return create(invocation, tables, table);
+        case Operation::add:
+            return add(invocation, tables, table);
+        case Operation::replace:
+            return replace(invocation, tables, table);
+        case Operation::read:
+            return read(invocation, table, false);
+        case Operation::find:
+            return read(invocation, table, true);
+        case Operation::list:
+            return list(invocation, table);
+        case Operation::remove:
+            return remove(invocation, tables, table, true);
+        case Operation::remove_all:
+            return remove(invocation, tables, table, false);
+        case Operation::forget:
+            break;
     }
     return BCM_E_INTERNAL;
 }

@@ -44,10 +44,10 @@ enum class Role : std::uint8_t {
 struct Binding {
     std::uint8_t argument;  // index into the arguments, 0 being the unit
     Role role;
-    bool memory;            // the argument is the address of the bytes
-    std::uint32_t at;       // offset of the bytes behind that address
-    std::uint32_t stride;   // size of an element where the address is that of an array, else 0
-    std::uint32_t row;      // offset in the row, or the number of the list
+    bool memory;           // the argument is the address of the bytes
+    std::uint32_t at;      // offset of the bytes behind that address
+    std::uint32_t stride;  // size of an element where the address is that of an array, else 0
+    std::uint32_t row;     // offset in the row, or the number of the list
     std::uint32_t size;
 };
 

@@ -10,7 +10,7 @@
 namespace standin {
 
 class Invocation {
-   public:
+  public:
     Invocation(const Call &call, const void *const *arguments)
         : call_(call), arguments_(arguments) {}
 
@@ -46,7 +46,7 @@ class Invocation {
         for (std::size_t i = 0; i < call_.binding_count; ++i) visit(call_.bindings[i]);
     }
 
-   private:
+  private:
     int number(const Number &number, int otherwise) const;
     bool is_null(const Binding &binding) const;
 

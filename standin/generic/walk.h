@@ -21,7 +21,7 @@ int collect_rows(const Call &call, int unit, const void *const *arguments, bool 
 // a number, an address the next column that is none and is large enough. Where there is no such
 // column, the number is 0 and the memory is zeros.
 class CallbackArguments {
-   public:
+  public:
     CallbackArguments(const std::string &row, const Column *columns, std::size_t count, void *user)
         : row_(row), columns_(columns), count_(count), used_(count), user_(user) {}
 
@@ -40,7 +40,7 @@ class CallbackArguments {
         }
     }
 
-   private:
+  private:
     const Column *take(bool number, std::size_t size);
     void *memory(std::size_t size);  // ours, until this object dies
 

@@ -15,6 +15,9 @@ void standin_mdio_clear(void);
 // How many accessors are installed.
 int standin_mdio_count(void);
 
+// The version of an external PHY as told for the time on standby, -1 if nothing was told.
+int standin_phy_version(int unit, int phy);
+
 // Allocations of the toolkit that are alive: objects of all its classes.
 int standin_live_objects(void);
 }

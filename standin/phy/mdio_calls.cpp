@@ -75,7 +75,6 @@ int standin_live_objects(void) {
     return static_cast<int>(Lumo::AllocTrackTypeInfo::totals().objects);
 }
 
-// -1 if nothing was told.
 int standin_phy_version(int unit, int phy) {
     if (!within(phy, 0, int{kLastPhyAddress})) return -1;
     const auto version =

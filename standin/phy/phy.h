@@ -34,7 +34,14 @@ struct PhyPart {
 
     auto operator<=>(const PhyPart &) const = default;
     bool is_plain() const { return *this == PhyPart{}; }
+    // The same PHY and side, all lanes.
+    PhyPart whole() const { return {phy, kEveryLane, system_side}; }
 };
+
+// Whether `part` is one of the lanes of `whole`, or `whole` itself.
+inline bool belongs(const PhyPart &part, const PhyPart &whole) {
+    return whole.lane == kEveryLane && part.whole() == whole;
+}
 
 template <class Function>
 struct Callback {

@@ -21,16 +21,6 @@ bool is_part(const PhyPart &part, int port) {
            within(part.lane, kEveryLane, lanes_of(port) - 1);
 }
 
-// The whole that a part belongs to: its PHY and side, all lanes.
-PhyPart whole_of(PhyPart part) {
-    part.lane = kEveryLane;
-    return part;
-}
-
-bool belongs(const PhyPart &part, const PhyPart &whole) {
-    return whole.lane == kEveryLane && whole_of(part) == whole;
-}
-
 // on_phy with a part of the PHY that there is, else BCM_E_PARAM.
 template <class Body>
 int on_part(const char *function, int unit, soc_port_t port, const PhyPart &part, Body &&body) {
@@ -58,7 +48,7 @@ int get_control(const char *function, int unit, soc_port_t port, const PhyPart &
         if (!is_control(type)) return BCM_E_PARAM;
         const auto &all = view.phy.controls;
         auto found = all.find({part, type});
-        if (found == all.end()) found = all.find({whole_of(part), type});
+        if (found == all.end()) found = all.find({part.whole(), type});
         return give(value, found == all.end() ? 0 : found->second);
     });
 }
@@ -77,17 +67,20 @@ int set_switch(const char *function, int unit, soc_port_t port, const PhyPart &p
 }
 
 // `otherwise` where neither the part nor its whole was told.
-int get_switch(const PhyView &view, const PhyPart &part, const Settings &all, int otherwise) {
+int get_switch(const PhyPart &part, const Settings &all, int otherwise) {
     auto found = all.find(part);
-    if (found == all.end()) found = all.find(whole_of(part));
-    if (found != all.end()) return found->second;
-    return whole_of(part).is_plain() || view.phy.attached ? otherwise : 0;
+    if (found == all.end()) found = all.find(part.whole());
+    return found != all.end() ? found->second : otherwise;
 }
 
 int set_loopback(const char *function, int unit, soc_port_t port, int enable) {
     return on_phy(function, unit, port, [&](PhyView &view) {
         if (!within(enable, 0, 1)) return BCM_E_PARAM;
-        view.port.loopback = enable != 0 ? BCM_PORT_LOOPBACK_PHY : BCM_PORT_LOOPBACK_NONE;
+        if (enable != 0) {
+            view.port.loopback = BCM_PORT_LOOPBACK_PHY;
+        } else if (view.port.loopback == BCM_PORT_LOOPBACK_PHY) {  // not one of the MAC's
+            view.port.loopback = BCM_PORT_LOOPBACK_NONE;
+        }
         std::erase_if(view.phy.loopback,
                       [](const auto &one) { return belongs(one.first, PhyPart{}); });
         return BCM_E_NONE;
@@ -174,7 +167,7 @@ int soc_phyctrl_redirect_auto_negotiate_get(int unit, soc_port_t port, int phyn,
     if (part.is_plain()) return soc_phyctrl_auto_negotiate_get(unit, port, an, an_done);
     return on_part(__func__, unit, port, part, [&](const PhyView &view) {
         if (an == nullptr || an_done == nullptr) return BCM_E_PARAM;
-        *an = get_switch(view, part, view.phy.autoneg, view.port.autoneg);
+        *an = get_switch(part, view.phy.autoneg, view.port.autoneg);
         return give(an_done, *an != 0 && view.port.link() != 0);
     });
 }
@@ -192,7 +185,7 @@ int soc_phyctrl_redirect_loopback_get(int unit, soc_port_t port, int phyn, int p
     if (part.is_plain()) return soc_phyctrl_loopback_get(unit, port, enable);
     return on_part(__func__, unit, port, part, [&](const PhyView &view) {
         const int usual = view.port.loopback == BCM_PORT_LOOPBACK_PHY;
-        return give(enable, get_switch(view, part, view.phy.loopback, usual));
+        return give(enable, get_switch(part, view.phy.loopback, usual));
     });
 }
 

@@ -249,7 +249,13 @@ int soc_phyctrl_set_speed_max(int unit, soc_port_t port, int speed_max) {
 }
 
 int soc_phyctrl_auto_negotiate_set(int unit, soc_port_t port, int an) {
-    return set_of_port(__func__, unit, port, &Port::autoneg, an, 1);
+    return on_phy(__func__, unit, port, [&](PhyView &view) {
+        if (!within(an, 0, 1)) return BCM_E_PARAM;
+        view.port.autoneg = an;
+        std::erase_if(view.phy.autoneg,
+                      [](const auto &one) { return belongs(one.first, PhyPart{}); });
+        return BCM_E_NONE;
+    });
 }
 
 // Negotiation is done as soon as the link is up.

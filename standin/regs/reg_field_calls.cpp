@@ -2,7 +2,8 @@
 //
 // A field that the register doesn't have reads as 0, is left alone when set, and is BCM_E_NOT_FOUND
 // where there is a status. Setting a value in hand drops the bits that do not fit; a modify call
-// refuses them with BCM_E_PARAM and changes nothing. Neither needs a unit that is started, since
+// refuses them with BCM_E_PARAM and changes nothing. A modify call is a read and a write: threads
+// that change one register agree between themselves. Neither needs a unit that is started, since
 // the layout is that of the chip.
 #include <algorithm>
 #include <array>

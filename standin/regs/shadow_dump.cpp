@@ -4,6 +4,7 @@
 #include "helper/shadow.h"
 #include "standin/diag/output.h"
 #include "standin/diag/text/scan.h"
+#include "standin/regs/bits.h"
 #include "standin/regs/dump_file.h"
 #include "standin/regs/words.h"
 
@@ -44,12 +45,13 @@ std::string memory_text(const Unit &unit) {
 std::string parity_errors(const Unit &unit, const Block &block) {
     const std::string counter = std::string(block.name) + "_PARITY_ERR_CNT";
     for (const RegisterLayout &layout : all_registers()) {
-        if (layout.name != counter) continue;
+        const FieldPlace *const count = layout.field(VALUEf);
+        if (layout.name != counter || count == nullptr) continue;
         std::uint64_t errors = 0;
         for (int instance = 0; instance < layout.instances(); ++instance) {
             std::uint32_t value = 0;
             if (hardware_read(unit, element_address(layout, instance, 0), value) < 0) return "-";
-            errors += value;
+            errors += get_bits({&value, 1}, count->first, count->bits);
         }
         return std::to_string(errors);
     }

@@ -56,7 +56,7 @@ class ReferenceTest(ConformanceTest):
             after[i] = sys.getrefcount(item)
         if before != after:
             self.fault('%s, %s: the counts %r became %r'
-                       % (row.name, path, before, after))
+                       % (row.name, path, list(before), list(after)))
 
     def total(self, row, arguments, path):
         """The total of all references over some calls, after a first one."""

@@ -112,17 +112,20 @@ void call_back(std::initializer_list<Given> arguments) {
 
 void throw_exception() {
     switch (answers().exception) {
-        case RECORDING_NONE: return;
-        case RECORDING_STANDARD: throw std::runtime_error("recorded");
+        case RECORDING_NONE:
+            return;
+        case RECORDING_STANDARD:
+            throw std::runtime_error("recorded");
         case RECORDING_RANGE:
             Lumo::throwRangeException("ExternalPhyId::value < 0 or > 0x03ff not allowed");
-        case RECORDING_OTHER: throw 42;
+        case RECORDING_OTHER:
+            throw 42;
     }
 }
 
 // An accessor that answers nothing.
 class SilentAccess : public MdioHamImpl::HamImpl {
-   public:
+  public:
     SilentAccess()
         : HamImpl(Lumo::Name(Lumo::String("recorded")), Hardware::Mdio::BusId(0),
                   Hardware::Mdio::PortAddr(0)) {}
@@ -191,8 +194,8 @@ Hardware::HardwareShadow::Ptr answer<Hardware::HardwareShadow::Ptr>(std::uint64_
 
 template <>
 Hardware::ChipMemory::Ptr answer<Hardware::ChipMemory::Ptr>(std::uint64_t bits) {
-    return hand_out<Hardware::ChipMemory::Ptr>(
-        bits, [] { return new Hardware::ChipMemory({}, true); });
+    return hand_out<Hardware::ChipMemory::Ptr>(bits,
+                                               [] { return new Hardware::ChipMemory({}, true); });
 }
 
 template <>
@@ -204,9 +207,7 @@ MdioHamImpl::HamImpl::Ptr answer<MdioHamImpl::HamImpl::Ptr>(std::uint64_t bits) 
 
 using recorder::answers;
 
-const struct recording *recording_last() {
-    return &recorder::last;
-}
+const struct recording *recording_last() { return &recorder::last; }
 
 void recording_reset() {
     recorder::last = {};
@@ -214,9 +215,7 @@ void recording_reset() {
     recorder::held() = nullptr;
 }
 
-void recording_set_result(std::uint64_t bits) {
-    answers().bits = bits;
-}
+void recording_set_result(std::uint64_t bits) { answers().bits = bits; }
 
 void recording_set_result_of(const char *name, std::uint64_t bits) {
     answers().bits_of[name] = bits;
@@ -240,9 +239,7 @@ void recording_call_back(unsigned index, const void *entries, std::size_t stride
     answers().callback = {index, static_cast<const unsigned char *>(entries), stride, count};
 }
 
-void recording_throw(recording_exception what) {
-    answers().exception = what;
-}
+void recording_throw(recording_exception what) { answers().exception = what; }
 
 std::uint64_t recording_object_references() {
     return recorder::held() ? recorder::held()->references() : 0;

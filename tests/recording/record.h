@@ -80,8 +80,8 @@ Hardware::ChipMemory::Ptr answer<Hardware::ChipMemory::Ptr>(std::uint64_t bits);
 template <>
 MdioHamImpl::HamImpl::Ptr answer<MdioHamImpl::HamImpl::Ptr>(std::uint64_t bits);
 
-// Bytes of the declared result of a function, 0 for none. Compiles only if the function that defines
-// it has the same parameters.
+// Bytes of the declared result of a function, 0 for none. Compiles only if the function that
+// defines it has the same parameters.
 template <typename Declared, typename... Parameters>
 consteval std::size_t result_size(Declared (*)(Parameters...), std::uint64_t (*)(Parameters...)) {
     if constexpr (std::is_void_v<Declared>) {
@@ -105,14 +105,14 @@ consteval std::size_t result_size(Declared (*)(Parameters...), std::uint64_t (*)
     }
 
 // A C function that returns a structure.
-#define RECORDED_BLOCK(name, type, parameters, ...)                                    \
-    extern "C" type name parameters {                                                  \
-        recorder::record(#name, 0, {__VA_ARGS__});                                     \
-        return recorder::block<type>();                                                \
+#define RECORDED_BLOCK(name, type, parameters, ...) \
+    extern "C" type name parameters {               \
+        recorder::record(#name, 0, {__VA_ARGS__});  \
+        return recorder::block<type>();             \
     }
 
 // A C++ function, which has its symbol from its prototype.
-#define RECORDED_CXX(name, type, parameters, ...)                                      \
-    type name parameters {                                                             \
-        return recorder::answer<type>(recorder::record(#name, 8, {__VA_ARGS__}));      \
+#define RECORDED_CXX(name, type, parameters, ...)                                 \
+    type name parameters {                                                        \
+        return recorder::answer<type>(recorder::record(#name, 8, {__VA_ARGS__})); \
     }

@@ -26,7 +26,7 @@ enum recording_what {
 
 struct recording_argument {
     uint32_t what;
-    uint32_t size;               // bytes of the native value
+    uint32_t size;  // bytes of the native value
     uint64_t value;
     const unsigned char *bytes;  // the native value as it arrived; null behind a null address
 };

@@ -57,11 +57,11 @@ int soc_ppd_lag_member_add(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member,
     using recorder::given;
     return static_cast<int>(
         recorder::record("soc_ppd_lag_member_add", sizeof(int),
-                          {given(unit), given(lag_ndx), given(*member), given(success)}));
+                         {given(unit), given(lag_ndx), given(*member), given(success)}));
 }
 
 int soc_ppd_lag_member_remove(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member) {
     using recorder::given;
     return static_cast<int>(recorder::record("soc_ppd_lag_member_remove", sizeof(int),
-                                              {given(unit), given(lag_ndx), given(*member)}));
+                                             {given(unit), given(lag_ndx), given(*member)}));
 }

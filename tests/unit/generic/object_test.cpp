@@ -179,7 +179,8 @@ int visit_action(int unit, bcm_fabric_action_t action, bcm_fabric_action_info_t 
 }
 
 TEST_F(Object, TraversalShowsEachOnceInTheirOrder) {
-    const std::vector<std::pair<int, uint32>> made = {{make(30), 30}, {make(20), 20}, {make(10), 10}};
+    const std::vector<std::pair<int, uint32>> made = {
+        {make(30), 30}, {make(20), 20}, {make(10), 10}};
     Walk walk;
     EXPECT_EQ(bcm_fabric_action_traverse(0, visit_action, &walk), BCM_E_NONE);
     EXPECT_EQ(walk.seen, made);

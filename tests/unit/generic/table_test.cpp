@@ -6,9 +6,9 @@
 
 #include "generic_fixture.h"
 #include "sdk/bcm/cosq.h"
+#include "sdk/bcm/custom.h"
 #include "sdk/bcm/niv.h"
 #include "sdk/bcm/oam.h"
-#include "sdk/bcm/custom.h"
 #include "sdk/bcm/stk.h"
 #include "sdk/bcm/switch.h"
 #include "sdk/bcm/vlan.h"
