@@ -2,6 +2,7 @@
 
 #include "api/hand_rows.h"
 #include "convert/mac_text.h"
+#include "runtime/py_ref.h"
 #include "sdk/bcm/l2.h"
 
 namespace {
@@ -73,15 +74,12 @@ int l2_traverse_cb(int, bcm_l2_addr_t *info, void *user_data) {
 namespace ombra::rows {
 
 PyObject *getHwMacTable(int unit) {
-    PyObject *list = PyList_New(0);
+    ombra::PyRef list(PyList_New(0));  // goes again should the walk throw
     if (list == nullptr) {
         return nullptr;
     }
-    bcm_l2_traverse(unit, ::l2_traverse_cb, list);
-    if (PyErr_Occurred() != nullptr) {
-        Py_CLEAR(list);
-    }
-    return list;
+    bcm_l2_traverse(unit, ::l2_traverse_cb, list.get());
+    return PyErr_Occurred() == nullptr ? list.release() : nullptr;
 }
 
 PyObject *getGPortType(unsigned long gport) {

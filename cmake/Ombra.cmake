@@ -27,7 +27,7 @@ endif()
 function(ombra_warnings target)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Werror
-        -Wno-restrict -Wno-maybe-uninitialized)
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-maybe-uninitialized>)
 endfunction()
 
 # An object library of the module, for each interpreter of this tree: `name`, and `name_d` for the
