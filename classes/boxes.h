@@ -20,7 +20,10 @@ namespace ombra {
 template <typename Kind>
 PyObject *new_box(const CallRow &row, PyObject *args) {
     return call_with<>(row, args, [&]() -> PyObject * {
-        void *element = ::operator new(sizeof(typename Kind::Native));
+        void *element = ::operator new(sizeof(typename Kind::Native), std::nothrow);
+        if (element == nullptr) {
+            return PyErr_NoMemory();
+        }
         PyObject *object = SWIG_Python_NewPointerObj(element, slot(row, kResultSlot),
                                                      FLAG_OWN | FLAG_NOPROXY);
         if (object == nullptr) {
@@ -77,7 +80,12 @@ PyObject *new_array(const CallRow &row, PyObject *args) {
             delete[] array;
             return PyErr_NoMemory();
         }
-        return SWIG_Python_NewPointerObj(array, slot(row, kResultSlot), 0);
+        PyObject *object = SWIG_Python_NewPointerObj(array, slot(row, kResultSlot), 0);
+        if (object == nullptr) {
+            forget_array(array);
+            delete[] array;
+        }
+        return object;
     });
 }
 

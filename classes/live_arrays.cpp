@@ -8,9 +8,10 @@ namespace {
 
 using Lengths = std::unordered_map<const void *, std::size_t>;
 
-// Never destroyed: rows can run until the interpreter is gone.
+// Never destroyed: rows can run until the interpreter is gone. Made in place: no row may throw here.
 Lengths &lengths() {
-    static auto *const table = new Lengths;
+    alignas(Lengths) static unsigned char storage[sizeof(Lengths)];
+    static auto *const table = new (storage) Lengths;
     return *table;
 }
 

@@ -58,6 +58,9 @@ PyObject *AppendCall<Result(Args...)>::run(const CallRow &row, Native native, Py
     return call_with<Args...>(row, args, [&](const auto &...values) {
         int output = 0;
         PyObject *status = Result::result(native(values..., &output), row);
+        if (status == nullptr) {
+            return status;  // the output alone would hide the exception
+        }
         return SWIG_Python_AppendOutput(status, PyInt_FromLong(output));
     });
 }

@@ -1,6 +1,7 @@
 #include "convert/readers.h"
 
 #include <cstring>
+#include <new>
 
 #include "runtime/pointer_conversion.h"
 #include "runtime/type_table.h"
@@ -58,8 +59,12 @@ int text_of_string(PyObject *object, char **text, std::size_t *size, int *alloc)
     const std::size_t bytes = static_cast<std::size_t>(length) + 1;
     if (text != nullptr) {
         if (alloc != nullptr && *alloc == STATUS_NEWOBJ) {
-            *text = new char[bytes];
-            std::memcpy(*text, storage, bytes);
+            char *const copy = new (std::nothrow) char[bytes];
+            if (copy == nullptr) {
+                return STATUS_MEMORY;
+            }
+            std::memcpy(copy, storage, bytes);
+            *text = copy;
         } else {
             *text = storage;
             if (alloc != nullptr) {

@@ -63,5 +63,5 @@ int SWIG_AsVal_bool(PyObject *object, bool *out);
 // `size` counts the terminator (0 for a null pointer). `alloc` goes in as a wish and comes out as
 // a fact: with STATUS_NEWOBJ the text of a `str` is copied with new[], and the caller owns the
 // copy; with any other value, or for anything but a `str`, `text` borrows the object's storage
-// and `alloc` becomes 0.
+// and `alloc` becomes 0. STATUS_MEMORY, with nothing made, when there is no memory for a copy.
 int SWIG_AsCharPtrAndSize(PyObject *object, char **text, std::size_t *size, int *alloc);

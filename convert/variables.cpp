@@ -25,8 +25,12 @@ int copy_text(PyObject *object, char **copy) {
     if (alloc == STATUS_NEWOBJ) {
         *copy = text;
     } else if (size != 0) {
-        *copy = new char[size];
-        std::memcpy(*copy, text, size);
+        char *const owned = new (std::nothrow) char[size];
+        if (owned == nullptr) {
+            return STATUS_MEMORY;
+        }
+        std::memcpy(owned, text, size);
+        *copy = owned;
     } else {
         *copy = nullptr;
     }

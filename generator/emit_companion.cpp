@@ -59,7 +59,8 @@ inline constexpr unsigned pointee_slot<@class@> = @slot@;
 const std::string kCallback = R"(    callback_of<@index@, @native@>("@name@"),
 )";
 
-const std::string kRow = R"(    {SWIG_CONST_POINTER, "@name@_address", 0, callbacks[@index@].address,
+const std::string kRow =
+    R"(    {SWIG_CONST_POINTER, "@name@_address", 0, callbacks[@index@].address,
      &swig_type_slots[@slot@]},
 )";
 
@@ -103,7 +104,7 @@ int slot_of_pretty(const Model &model, const std::string &name) {
 
 // Every native type that storage is made for, by its declared name, with the slot of its pointer.
 class Elements {
-   public:
+  public:
     explicit Elements(const Model &model) {
         for (const auto &record : model.structs) {
             structures_.insert(record.slot);
@@ -130,7 +131,7 @@ class Elements {
 
     bool is_structure(int slot) const { return structures_.contains(slot); }
 
-   private:
+  private:
     void add(const std::string &name, int slot) {
         // What is counted or abstract is made by the platform alone.
         if (name != "void" && name.find("::Ptr") == std::string::npos &&
@@ -215,13 +216,13 @@ std::string emit_companion_elements(const Model &model) {
     std::string text;
     for (const auto &[name, slot] : elements.all()) {
         const bool pointer = ends_with(name, "*");
-        text += fill(kElement,
-                     {{"form", elements.is_structure(slot) ? "structure_of" : "element_of"},
-                      {"native", native_of(name)},
-                      {"name", name},
-                      {"slot", std::to_string(slot)},
-                      {"inner", std::to_string(slot_of_pretty(
-                                    model, pointer ? without_const(name) : name))}});
+        text +=
+            fill(kElement, {{"form", elements.is_structure(slot) ? "structure_of" : "element_of"},
+                            {"native", native_of(name)},
+                            {"name", name},
+                            {"slot", std::to_string(slot)},
+                            {"inner", std::to_string(slot_of_pretty(
+                                          model, pointer ? without_const(name) : name))}});
     }
     return fill(kElements, {{"banner", banner("all declarations", "emit_companion.cpp")},
                             {"headers", includes(model)},

@@ -80,9 +80,7 @@ std::string box_lines(const Model &model) {
     return text;
 }
 
-bool is_counted_pointer(const std::string &type) {
-    return type.find("::Ptr") != std::string::npos;
-}
+bool is_counted_pointer(const std::string &type) { return type.find("::Ptr") != std::string::npos; }
 
 // "Hardware::TesselApi::UnitId" -> "UnitId", "Hardware::ChipMemory::Ptr" -> "ChipMemoryPtr".
 std::string class_name(std::string type) {

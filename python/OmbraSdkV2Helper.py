@@ -26,6 +26,7 @@ The plain functions take and return what they always did: a status is a number.
 """
 
 import sys as _sys
+from operator import index as _index
 
 import _OmbraSdkV2Classes as _tables
 import _OmbraSdkV2Companion as _companion
@@ -79,8 +80,9 @@ def _describe(status):
 
 def check(result):
     """Raises SdkError for a result that is a negative status, or begins with
-    one. Returns what is left: the number itself; of a list or tuple the value
-    behind the status, or the values as a tuple.
+    one. Returns what is left: the number itself, or the None of a function
+    without a status; of a list or tuple the value behind the status, or the
+    values as a tuple.
 
         group = check(bcm_field_group_create(unit, qset, priority))
     """
@@ -90,7 +92,7 @@ def check(result):
         status, rest = result[0], tuple(result[1:])
         if len(rest) == 1:
             rest = rest[0]
-    if status < 0:
+    if status is not None and status < 0:
         raise SdkError(status)
     return rest
 
@@ -105,13 +107,17 @@ def traverse(function, *args):
     function's status. An exception ends it as well and is raised here. What
     the callable is given is gone when it returns: keep a copy().
     """
+    if function.__name__ not in _tables.CALLBACKS:
+        raise TypeError('%s does not call back with a cookie'
+                        % function.__name__)
     name, place, cookie_place = _tables.CALLBACKS[function.__name__]
     visit = args[place]
     raised = []
 
     def guarded(*entry):
         try:
-            return visit(*entry)
+            answer = visit(*entry)
+            return None if answer is None else _index(answer)
         except BaseException:
             raised.append(_sys.exc_info())
             return _native.BCM_E_FAIL
@@ -133,9 +139,9 @@ def _fill(namespace):
     """Puts the names of the module, the callbacks and the classes here."""
     own = dict(namespace)
     namespace.update(vars(_native))
-    namespace.update((name, function)
-                     for name, function in vars(_companion).iteritems()
-                     if 'swig_ptr: ' in (getattr(function, '__doc__', '') or ''))
+    for name, function in vars(_companion).iteritems():
+        if 'swig_ptr: ' in (function.__doc__ or ''):
+            namespace[name] = function
     rows = vars(_native)
     names = frozenset(name for name, _ in _tables.CLASSES)
     for name, table in _tables.CLASSES:

@@ -47,7 +47,7 @@ class Struct(Proxy):
         for name, value in fields.iteritems():
             setattr(self, name, value)
 
-    def fields(self):
+    def items(self):
         """Pairs of field name and value, in layout order."""
         return [(name, getattr(self, name)) for name in self._fields]
 
@@ -69,7 +69,7 @@ class Struct(Proxy):
         # Fields that are zero are left out: most of a structure is.
         if int(self.this) == 0:
             return '<%s that is gone>' % type(self).__name__
-        shown = ['%s=%r' % pair for pair in self.fields()
+        shown = ['%s=%r' % pair for pair in self.items()
                  if not _is_zero(pair[1])]
         return '%s(%s)' % (type(self).__name__, ', '.join(shown))
 
@@ -174,7 +174,7 @@ def _same(left, right):
 
 def _is_zero(value):
     if isinstance(value, Struct):
-        return all(_is_zero(part) for _, part in value.fields())
+        return all(_is_zero(part) for _, part in value.items())
     if isinstance(value, companion.Array):
         return all(_is_zero(part) for part in value)
     if isinstance(value, Value):

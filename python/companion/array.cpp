@@ -16,7 +16,7 @@ struct Array {
     const Element *element;
     unsigned char *data;
     Py_ssize_t length;
-    PyObject *owner;    // of a view; null: `data` is this object's own
+    PyObject *owner;  // of a view; null: `data` is this object's own
     bool is_view;
     PyObject *pointer;  // `this`
     PyObject *kept;     // dictionary: index of a pointer -> the object that it was made from
@@ -158,9 +158,8 @@ int store_item(Array *self, Py_ssize_t index, PyObject *value) {
         self->kept = PyDict_New();
     }
     const ombra::PyRef key(PyInt_FromSsize_t(index));
-    return self->kept != nullptr && key != nullptr
-               ? PyDict_SetItem(self->kept, key.get(), value)
-               : -1;
+    return self->kept != nullptr && key != nullptr ? PyDict_SetItem(self->kept, key.get(), value)
+                                                   : -1;
 }
 
 int array_set_item(PyObject *object, Py_ssize_t index, PyObject *value) {
@@ -285,9 +284,8 @@ PyObject *get_type(PyObject *object, void *) {
 
 PyObject *get_bytes(PyObject *object, PyObject *) {
     const Array *self = as_array(object);
-    return PyString_FromStringAndSize(
-        reinterpret_cast<const char *>(self->data),
-        self->length * static_cast<Py_ssize_t>(self->element->size));
+    return PyString_FromStringAndSize(reinterpret_cast<const char *>(self->data),
+                                      self->length * static_cast<Py_ssize_t>(self->element->size));
 }
 
 PyObject *get_text(PyObject *object, PyObject *) {

@@ -1,7 +1,7 @@
 #include "python/companion/callbacks.h"
 
 #include <cstring>
-#include <string_view>
+#include <new>
 #include <unordered_map>
 
 #include "convert/mac_text.h"
@@ -71,7 +71,8 @@ PyObject *pointer_object(const Argument &argument) {
 
 PyObject *to_python(const Argument &argument) {
     switch (argument.form) {
-        case Argument::Form::number: return PyInt_FromLong(static_cast<long>(argument.bits));
+        case Argument::Form::number:
+            return PyInt_FromLong(static_cast<long>(argument.bits));
         case Argument::Form::text:
             return ombra::text_result(static_cast<const char *>(argument.pointer));
         case Argument::Form::mac:
@@ -80,7 +81,8 @@ PyObject *to_python(const Argument &argument) {
         case Argument::Form::address:
             return SWIG_Python_NewPointerObj(const_cast<void *>(argument.pointer),
                                              swig_type_slots[argument.slot], FLAG_NOPROXY);
-        default: return pointer_object(argument);
+        default:
+            return pointer_object(argument);
     }
 }
 
@@ -137,8 +139,8 @@ int call_python(const Callback &callback, const Argument *arguments, std::size_t
     }
     int answer = callback.answers.failure;
     const ombra::PyRef tuple = make_tuple(arguments, count, cookie);
-    const ombra::PyRef result(
-        tuple != nullptr ? PyObject_Call(callable.get(), tuple.get(), nullptr) : nullptr);
+    const ombra::PyRef result(tuple != nullptr ? PyObject_Call(callable.get(), tuple.get(), nullptr)
+                                               : nullptr);
     if (result == nullptr || !read_answer(callback, result.get(), answer)) {
         PyErr_WriteUnraisable(callable.get());
     }
@@ -146,6 +148,18 @@ int call_python(const Callback &callback, const Argument *arguments, std::size_t
         empty_objects(tuple.get());
     }
     return answer;
+}
+
+// Enters a callable into a table. False with MemoryError.
+template <typename Table, typename Key>
+bool enter(Table &table, Key key, PyObject *callable) {
+    try {
+        table.emplace(key, ombra::new_ref(callable));
+        return true;
+    } catch (const std::bad_alloc &) {
+        PyErr_NoMemory();
+        return false;
+    }
 }
 
 // A callback by the built-in that stands for it, the class of its values, or its name.
@@ -202,8 +216,8 @@ PyObject *new_cookie(PyObject *, PyObject *callable) {
     const std::uint64_t number = next_cookie();
     PyObject *object = SWIG_Python_NewPointerObj(reinterpret_cast<void *>(number),
                                                  swig_type_slots[slots::_p_void], FLAG_NOPROXY);
-    if (object != nullptr) {
-        cookies().emplace(number, ombra::new_ref(callable));
+    if (object != nullptr && !enter(cookies(), number, callable)) {
+        Py_CLEAR(object);
     }
     return object;
 }
@@ -230,8 +244,8 @@ PyObject *bind(PyObject *, PyObject *args) {
         return nullptr;
     }
     auto node = bindings().extract(callback);
-    if (callable != Py_None) {
-        bindings().emplace(callback, ombra::new_ref(callable));
+    if (callable != Py_None && !enter(bindings(), callback, callable)) {
+        return nullptr;
     }
     return node.empty() ? ombra::new_ref(Py_None).release() : node.mapped().release();
 }

@@ -13,8 +13,9 @@
 // there is no callable. After the interpreter has ended every callback answers with a failure.
 //
 // A structure that comes as an argument is the SDK's and lives until the callable returns. The
-// object that stands for it is then emptied: a copy() is what may be kept. The packets that a
-// bcm_rx_cb_f gets are left alone, since the handler may keep them.
+// object that stands for it is then emptied: a copy() is what may be kept, and neither the object
+// nor what was read out of it in place. The packets that a bcm_rx_cb_f gets are left alone, since
+// the handler may keep them.
 #pragma once
 
 #include <Python.h>
@@ -62,7 +63,9 @@ const Callback *find_callback(const char *name);
 // The built-in that is called from Python: TypeError.
 PyObject *refuse_call(PyObject *, PyObject *);
 
-// The functions of the module, METH_O but for bind(callback, callable).
+// The functions of the module, METH_O but for bind(callback, callable). A cookie is a number that
+// is used once and no address: a stale one finds nothing. It keeps its callable until it is
+// released, whoever holds or drops its object, since the SDK may still have it.
 PyObject *new_cookie(PyObject *, PyObject *callable);
 PyObject *release_cookie(PyObject *, PyObject *cookie);
 PyObject *bind(PyObject *, PyObject *args);

@@ -115,6 +115,9 @@ PyObject *delete_value(PyObject *, PyObject *args) {
     if (place == nullptr) {
         return nullptr;
     }
+    if (Py_TYPE(object) == array_type()) {
+        return PyErr_Format(PyExc_TypeError, "an Array frees its memory by itself");
+    }
     SWIG_Python_GetSwigThis(object)->own = 0;
     ::operator delete(place);
     Py_RETURN_NONE;
@@ -158,8 +161,7 @@ PyObject *held_pointer(PyObject *, PyObject *object) {
     const char *name = SWIG_Python_GetSwigThis(object)->type->name;
     std::vector<char> target(name, name + std::strlen(name) - (sizeof "__Ptr" - 1));
     target.push_back('\0');
-    swig_type_info *type =
-        SWIG_MangledTypeQueryModule(&swig_module, &swig_module, target.data());
+    swig_type_info *type = SWIG_MangledTypeQueryModule(&swig_module, &swig_module, target.data());
     return SWIG_Python_NewPointerObj(holder->get(),
                                      type != nullptr ? type : SWIG_Python_TypeQuery("_p_void"), 0);
 }
@@ -227,7 +229,8 @@ constexpr PyMethodDef own_methods[] = {
     {"delete_holder", delete_holder, METH_VARARGS, "delete_holder(object): drops the reference"},
     {"held_pointer", held_pointer, METH_O, "held_pointer(holder): a plain pointer, or None"},
     {"view", view, METH_VARARGS,
-     "view(type, pointer, count=1, owner=pointer) -> Array over native memory, which reaches as far "
+     "view(type, pointer, count=1, owner=pointer) -> Array over native memory, which reaches as "
+     "far "
      "as the caller says. Keeps `owner`."},
     {"register_class", register_class, METH_VARARGS, "register_class(type, class)"},
     {"native_types", native_types, METH_NOARGS, "native_types(): the names that Array takes"},
@@ -244,7 +247,8 @@ constexpr PyMethodDef own_methods[] = {
 
 // The module's own functions, and behind them a built-in for each callback.
 std::vector<PyMethodDef> &all_methods() {
-    static auto &all = *new std::vector<PyMethodDef>(std::begin(own_methods), std::end(own_methods));
+    static auto &all =
+        *new std::vector<PyMethodDef>(std::begin(own_methods), std::end(own_methods));
     return all;
 }
 

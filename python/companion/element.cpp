@@ -196,8 +196,8 @@ PyObject *load_structure(const Element &element, void *place, PyObject *owner) {
 
 const Element *find_element(const char *name) {
     const Element *end = elements + element_count;
-    const Element *found = std::lower_bound(
-        elements, end, name, [](const Element &element, const char *wanted) {
+    const Element *found =
+        std::lower_bound(elements, end, name, [](const Element &element, const char *wanted) {
             return std::strcmp(element.name, wanted) < 0;
         });
     if (found == end || std::strcmp(found->name, name) != 0) {
@@ -222,33 +222,41 @@ const Element *element_behind(const swig_type_info *type) {
     return found != by_type.end() ? found->second : nullptr;
 }
 
-const Element *element_behind(unsigned slot) {
-    return element_behind(swig_type_slots[slot]);
-}
+const Element *element_behind(unsigned slot) { return element_behind(swig_type_slots[slot]); }
 
 PyObject *load(const Element &element, void *place, PyObject *owner) {
     switch (element.form) {
-        case Form::number: return load_number(element, place);
+        case Form::number:
+            return load_number(element, place);
         case Form::mac:
             return PyString_FromString(macaddrToString(static_cast<const uint8 *>(place)));
-        case Form::port_list: return load_ports(place);
+        case Form::port_list:
+            return load_ports(place);
         case Form::array:
             return new_view(*element_behind(element.inner), place, element.count, owner);
-        case Form::structure: return load_structure(element, place, owner);
-        default: return load_pointer(element, place);
+        case Form::structure:
+            return load_structure(element, place, owner);
+        default:
+            return load_pointer(element, place);
     }
 }
 
 bool store(const Element &element, void *place, PyObject *value) {
     switch (element.form) {
-        case Form::number: return store_number(element, place, value);
-        case Form::text: return store_text(element, place, value);
-        case Form::structure: return store_structure(element, place, value);
+        case Form::number:
+            return store_number(element, place, value);
+        case Form::text:
+            return store_text(element, place, value);
+        case Form::structure:
+            return store_structure(element, place, value);
         case Form::array:
             return store_items(*element_behind(element.inner), place, element.count, value);
-        case Form::mac: return store_mac(place, value);
-        case Form::port_list: return store_ports(place, value);
-        default: return store_pointer(element, place, value);
+        case Form::mac:
+            return store_mac(place, value);
+        case Form::port_list:
+            return store_ports(place, value);
+        default:
+            return store_pointer(element, place, value);
     }
 }
 

@@ -32,14 +32,14 @@ enum class Form : std::uint8_t {
 };
 
 struct Element {
-    const char *name;               // "bcm_color_t"
-    std::uint16_t slot;             // of the pointer to it
-    std::uint16_t inner;            // slot: of a pointer's own type; of the pointer to an array's item
-    std::uint32_t size;             // bytes
-    std::uint32_t count;            // items of an array
+    const char *name;     // "bcm_color_t"
+    std::uint16_t slot;   // of the pointer to it
+    std::uint16_t inner;  // slot: of a pointer's own type; of the pointer to an array's item
+    std::uint32_t size;   // bytes
+    std::uint32_t count;  // items of an array
     Form form;
-    bool is_signed;                 // numbers
-    void (*check)(std::uint64_t);   // throws for a number that the type itself refuses, or null
+    bool is_signed;                // numbers
+    void (*check)(std::uint64_t);  // throws for a number that the type itself refuses, or null
 };
 
 // Generated, in strcmp order of the names.

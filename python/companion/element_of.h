@@ -72,9 +72,13 @@ constexpr void set_pointer(Element &element) {
 // Numbers, texts, pointers, arrays, and blocks of words.
 template <typename Type>
 constexpr Element element_of(const char *name, unsigned slot, unsigned inner) {
-    Element element{name,         static_cast<std::uint16_t>(slot), static_cast<std::uint16_t>(inner),
-                    0,            1,
-                    Form::number, std::is_signed_v<Type> || std::is_enum_v<Type>,
+    Element element{name,
+                    static_cast<std::uint16_t>(slot),
+                    static_cast<std::uint16_t>(inner),
+                    0,
+                    1,
+                    Form::number,
+                    std::is_signed_v<Type> || std::is_enum_v<Type>,
                     nullptr};
     if constexpr (requires { sizeof(Type); }) {
         element.size = sizeof(Type);
@@ -98,7 +102,7 @@ constexpr Element element_of(const char *name, unsigned slot, unsigned inner) {
 // A structure with a class of its own.
 template <typename Type>
 constexpr Element structure_of(const char *name, unsigned slot, unsigned) {
-    return {name, static_cast<std::uint16_t>(slot), 0, sizeof(Type), 1, Form::structure, false,
+    return {name,   static_cast<std::uint16_t>(slot), 0, sizeof(Type), 1, Form::structure, false,
             nullptr};
 }
 

@@ -33,13 +33,20 @@ int bcm_port_phy_modify(int unit, bcm_port_t port, uint32 flags, uint32 phy_reg_
                    phy_mask);
 }
 
+// `phy_reg_addr` is the device.
+int bcm_port_phy_multi_get(int unit, bcm_port_t port, uint32 flags, uint32 phy_reg_addr,
+                           uint32 phy_reg_offset, int data_max, uint8 *data, int *data_count) {
+    return pass_on(__func__, soc_phyctrl_port_phy_multi_get, unit, port, flags, phy_reg_addr,
+                   phy_reg_offset, data_max, data, data_count);
+}
+
 int bcm_port_phy_drv_name_get(int unit, bcm_port_t port, char *name, int len) {
     return pass_on(__func__, soc_phyctrl_drv_name_get, unit, port, name, len);
 }
 
 int bcm_port_phy_firmware_set(int unit, bcm_port_t port, uint32 flags, int offset, uint8 *data,
-                              int length) {
-    return pass_on(__func__, soc_phyctrl_firmware_set, unit, port, flags, offset, data, length);
+                              int len) {
+    return pass_on(__func__, soc_phyctrl_firmware_set, unit, port, flags, offset, data, len);
 }
 
 int bcm_port_phy_reset(int unit, bcm_port_t port) {

@@ -50,6 +50,9 @@ struct Callback {
     bool operator==(const Callback &) const = default;
 };
 
+using ResetCallback = Callback<_shr_port_phy_reset_cb_t>;
+using MediumCallback = Callback<_shr_port_medium_status_cb_t>;
+
 struct Phy {
     bool attached = true;  // its driver is
     int interface = 0;
@@ -71,9 +74,9 @@ struct Phy {
     std::map<std::pair<int, std::uint32_t>, std::uint16_t> registers;  // lane, address
     std::map<std::uint8_t, std::uint16_t> top_registers;  // of a primary port, by offset
     std::map<std::uint32_t, std::uint32_t> diagnostics;
-    std::vector<Callback<_shr_port_phy_reset_cb_t>> on_reset;
+    std::vector<ResetCallback> on_reset;
     bool default_reset = true;
-    std::vector<Callback<_shr_port_medium_status_cb_t>> on_medium;
+    std::vector<MediumCallback> on_medium;
 
     // The driver's settings as they were on the first day; callbacks and addresses stay.
     void reset();

@@ -129,7 +129,7 @@ int soc_phyctrl_reset(int unit, soc_port_t port, void *) {
 // Callbacks run without the lock, in the order of their registration; a negative answer ends them
 // and is the status.
 int soc_phy_reset(int unit, soc_port_t port) {
-    std::vector<Callback<_shr_port_phy_reset_cb_t>> callbacks;
+    std::vector<ResetCallback> callbacks;
     const int status = on_phy(__func__, unit, port, [&](PhyView &view) {
         if (view.phy.default_reset) view.phy.reset();
         callbacks = view.phy.on_reset;
@@ -150,7 +150,7 @@ int soc_phy_reset_register(int unit, soc_port_t port, soc_port_phy_reset_cb_t ca
     return on_phy(__func__, unit, port, [&](PhyView &view) {
         if (callback == nullptr) return BCM_E_PARAM;
         auto &all = view.phy.on_reset;
-        if (std::ranges::find(all, Callback{callback, user_data}) != all.end()) {
+        if (std::ranges::find(all, ResetCallback{callback, user_data}) != all.end()) {
             return BCM_E_EXISTS;
         }
         all.push_back({callback, user_data});
@@ -164,7 +164,7 @@ int soc_phy_reset_unregister(int unit, soc_port_t port, soc_port_phy_reset_cb_t 
                              void *user_data) {
     return on_phy(__func__, unit, port, [&](PhyView &view) {
         auto &all = view.phy.on_reset;
-        if (std::erase(all, Callback{callback, user_data}) == 0) return BCM_E_NOT_FOUND;
+        if (std::erase(all, ResetCallback{callback, user_data}) == 0) return BCM_E_NOT_FOUND;
         if (all.empty()) view.phy.default_reset = true;
         return BCM_E_NONE;
     });

@@ -100,8 +100,7 @@ int advertise(PhyView &view, std::uint32_t mode) {
 }
 
 // Tells those who wait for the medium; without the lock.
-void tell_medium(const std::vector<Callback<_shr_port_medium_status_cb_t>> &callbacks, int unit,
-                 int port, int medium) {
+void tell_medium(const std::vector<MediumCallback> &callbacks, int unit, int port, int medium) {
     for (const auto &one : callbacks) one.call(unit, port, medium, one.user);
 }
 
@@ -296,7 +295,7 @@ int soc_phy_medium_status_register(int unit, soc_port_t port, soc_port_medium_st
     return on_phy(__func__, unit, port, [&](PhyView &view) {
         if (cb == nullptr) return BCM_E_PARAM;
         auto &all = view.phy.on_medium;
-        if (std::ranges::find(all, Callback{cb, user_data}) != all.end()) return BCM_E_EXISTS;
+        if (std::ranges::find(all, MediumCallback{cb, user_data}) != all.end()) return BCM_E_EXISTS;
         all.push_back({cb, user_data});
         return BCM_E_NONE;
     });
@@ -305,14 +304,14 @@ int soc_phy_medium_status_register(int unit, soc_port_t port, soc_port_medium_st
 int soc_phy_medium_status_unregister(int unit, soc_port_t port, soc_port_medium_status_cb_t cb,
                                      void *user_data) {
     return on_phy(__func__, unit, port, [&](PhyView &view) {
-        return std::erase(view.phy.on_medium, Callback{cb, user_data}) != 0 ? BCM_E_NONE
-                                                                            : BCM_E_NOT_FOUND;
+        return std::erase(view.phy.on_medium, MediumCallback{cb, user_data}) != 0 ? BCM_E_NONE
+                                                                                  : BCM_E_NOT_FOUND;
     });
 }
 
 // Sets the medium, 1 copper or 2 fiber, and tells who registered.
 void soc_phy_medium_status_notify(int unit, soc_port_t port, soc_port_medium_t medium) {
-    std::vector<Callback<_shr_port_medium_status_cb_t>> callbacks;
+    std::vector<MediumCallback> callbacks;
     const int status = on_phy(__func__, unit, port, [&](PhyView &view) {
         if (!within(medium, kMediumCopper, kMediumFiber)) return BCM_E_PARAM;
         view.phy.medium = medium;

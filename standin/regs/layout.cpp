@@ -165,8 +165,8 @@ std::uint32_t Layout::mask(unsigned word) const {
     return first >= bits ? 0 : static_cast<std::uint32_t>(low_mask(bits - first));
 }
 
-const FieldPlace *Layout::field(int wanted) const {
-    const auto found = std::ranges::find(fields, wanted, &FieldPlace::id);
+const FieldPlace *Layout::field(int field_id) const {
+    const auto found = std::ranges::find(fields, field_id, &FieldPlace::id);
     return found == fields.end() ? nullptr : &*found;
 }
 

@@ -114,7 +114,7 @@ struct Layout {
     // The bits of word `word` that are there.
     std::uint32_t mask(unsigned word) const;
     // Null for a field that it doesn't have.
-    const FieldPlace *field(int id) const;
+    const FieldPlace *field(int field_id) const;
 };
 
 struct RegisterLayout : Layout {

@@ -1,13 +1,13 @@
 // Fields of registers and of table entries: of a value in hand, and of the register itself.
 //
 // A field that the register doesn't have reads as 0, is left alone when set, and is BCM_E_NOT_FOUND
-// where there is a status. Setting a value in hand drops the bits that do not fit; a modify call
-// refuses them with BCM_E_PARAM and changes nothing. A modify call is a read and a write: threads
-// that change one register agree between themselves. Neither needs a unit that is started, since
-// the layout is that of the chip.
+// where there is a status. Setting a value in hand drops the bits that do not fit, and needs no
+// unit that is started, since the layout is that of the chip.
+//
+// A modify call refuses bits that do not fit with BCM_E_PARAM and changes nothing. It is a read and
+// a write: threads that change one register agree between themselves.
 #include <algorithm>
 #include <array>
-#include <optional>
 
 #include "sdk/soc/mem.h"
 #include "sdk/soc/reg.h"
@@ -251,10 +251,13 @@ int soc_reg_field32_modify(int unit, soc_reg_t reg, soc_port_t port, soc_field_t
 int soc_reg_fields32_modify(int unit, soc_reg_t reg, soc_port_t port, int field_count,
                             soc_field_t *fields, uint32 *values) {
     if (const int status = unit_reachable(unit, Need::kReset); status < 0) return status;
-    if (field_count < 0 || (field_count > 0 && (fields == nullptr || values == nullptr))) {
+    constexpr int most = 32 * static_cast<int>(kMostWords);  // no register has more
+    if (!within(field_count, 0, most) ||
+        (field_count > 0 && (fields == nullptr || values == nullptr))) {
         return BCM_E_PARAM;
     }
     std::vector<Change> changes;
+    changes.reserve(static_cast<std::size_t>(field_count));
     for (int i = 0; i < field_count; ++i) changes.push_back({fields[i], values[i]});
     return modify(__func__, unit, reg, port, 0, changes);
 }

@@ -3,8 +3,9 @@ by the proxy and its companion, and says what came of it.
 
 usage: every_function.py MODEL.json
 
-Prints a line "NAME: what is wrong" for each function that could not be called
-or whose result has another form than declared, and in the end the totals.
+Its report ends the output: a line "NAME: what is wrong" for each function that
+could not be called or whose result has another form than declared, and how
+many were called. With OMBRA_TRACE set each name is told before its call.
 """
 
 import json
@@ -21,6 +22,9 @@ TEXT_ROOM = 4096
 
 NUMBERS = ('signed-8', 'signed-16', 'signed-32', 'unsigned-8', 'unsigned-16',
            'unsigned-32', 'unsigned-long', 'unsigned-64', 'address-32')
+
+# Words in the names of functions that end what a unit does.
+ENDING = ('detach', 'deinit', 'shutdown', 'unmap')
 
 # Rows of boxes and arrays that are no plain functions.
 STRUCTURAL = ('new_', 'delete_')
@@ -141,7 +145,7 @@ def fault(row, keep):
     finally:
         keep.extend(made)
     kind = row.get('result', {'kind': 'nothing'})['kind']
-    if row['hand_written'] if 'hand_written' in row else '':
+    if row.get('hand_written'):
         return None  # of a form of its own
     if row.get('appended'):
         right = isinstance(result, list) and len(result) == 2
@@ -158,6 +162,7 @@ def start():
 
 def revive():
     """Undoes what a call did to the unit: some are there to end it."""
+    sdk.mapOmbraDevice(0)
     if sdk.soc_init(0) == 0:
         sdk.soc_misc_init(0)
         sdk.bcm_init(0)
@@ -175,18 +180,20 @@ def main(model):
     # What the SDK was given it may keep, so everything lives to the end.
     keep = []
     called = set()
+    wrong = []
     for row in rows:
         if os.environ.get('OMBRA_TRACE'):
             os.write(2, row['name'] + '\n')
-        wrong = fault(row, keep)
+        found = fault(row, keep)
         called.add(row['name'])
-        if wrong:
-            print '%s: %s' % (row['name'], wrong)
-        if 'detach' in row['name'] or 'deinit' in row['name'] or \
-                'shutdown' in row['name']:
+        if found:
+            wrong.append('%s: %s' % (row['name'], found))
+        if any(word in row['name'] for word in ENDING):
             revive()
     shutil.rmtree(folder)
-    print 'called %d functions' % len(called)
+    # What the SDK itself printed stands above.
+    print '\nreport:\n' + '\n'.join(
+        wrong + ['called %d functions' % len(called)])
 
 
 if __name__ == '__main__':

@@ -182,13 +182,13 @@ class NamesTest(unittest.TestCase):
 
     def test_dir_and_help_read_well(self):
         names = dir(sdk.bcm_ip_addr_t)
-        self.assertLessEqual({'protocol', 'addr', 'copy', 'equals', 'fields'},
+        self.assertLessEqual({'protocol', 'addr', 'copy', 'equals', 'items'},
                              set(names))
         self.assertIn('protocol: int\naddr: bcm_ipv4_ipv6_addr_t',
                       sdk.bcm_ip_addr_t.__doc__)
         self.assertEqual(sdk.bcm_ip_addr_t.__module__, 'OmbraSdkV2Helper')
         self.assertEqual(
-            [name for name, _ in sdk.bcm_ip_addr_t(protocol=4).fields()],
+            [name for name, _ in sdk.bcm_ip_addr_t(protocol=4).items()],
             ['protocol', 'addr'])
 
 

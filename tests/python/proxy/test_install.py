@@ -1,0 +1,67 @@
+"""What is installed: enough to import, and nothing that points back here."""
+
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+BUILD = os.environ['OMBRA_BUILD']
+CMAKE = os.environ.get('OMBRA_CMAKE')
+
+
+@unittest.skipUnless(CMAKE, 'a debug tree installs nothing')
+class InstallTest(unittest.TestCase):
+
+    def setUp(self):
+        self.stage = tempfile.mkdtemp()
+        self.addCleanup(shutil.rmtree, self.stage)
+
+    def install(self, *options):
+        """Installs below the stage; returns what is there, by name."""
+        command = (CMAKE, '--install', BUILD, '--prefix', '/usr/local')
+        subprocess.check_output(command + options,
+                                env=dict(os.environ, DESTDIR=self.stage))
+        found = {}
+        for folder, _, names in os.walk(self.stage):
+            for name in names:
+                found[name] = os.path.join(folder, name)
+        return found
+
+    def test_the_whole_imports_from_where_it_is(self):
+        found = self.install()
+        environment = {
+            'PYTHONPATH': os.path.dirname(found['OmbraSdkV2Helper.py']),
+            'LD_LIBRARY_PATH': os.path.dirname(found['liblumo.so.0'])}
+        output = subprocess.check_output(
+            [sys.executable, '-c', 'import OmbraSdkV2Helper as sdk;'
+             'print sdk.__file__, sdk.addOmbraDevice(0, 1, 0, 0)'],
+            cwd='/', env=environment)
+        # Compiled already, under the place where it is going to be.
+        self.assertEqual(output.split(),
+                         [found['OmbraSdkV2Helper.pyc'], '0'])
+        with open(found['OmbraSdkV2Helper.pyc'], 'rb') as compiled:
+            self.assertNotIn(self.stage, compiled.read())
+
+    def test_no_library_has_a_search_path(self):
+        found = self.install()
+        libraries = [path for path in found.values() if '.so' in path]
+        self.assertEqual(len(libraries), 6)
+        for path in libraries:
+            output = subprocess.check_output(['readelf', '-d', path])
+            self.assertNotIn('RUNPATH', output)
+            self.assertNotIn('RPATH', output)
+
+    def test_a_switch_can_take_the_module_alone(self):
+        found = self.install('--component', 'module')
+        self.assertFalse([name for name in found if name.startswith('lib')])
+        self.assertEqual(
+            sorted(name for name in found if not name.endswith('.pyc')),
+            ['OmbraSdkV2Helper.py', '_OmbraSdkV2Classes.py',
+             '_OmbraSdkV2Companion.so', '_OmbraSdkV2Helper.so',
+             '_OmbraSdkV2Proxy.py'])
+
+
+if __name__ == '__main__':
+    unittest.main()

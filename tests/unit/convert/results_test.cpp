@@ -1,0 +1,98 @@
+// Results that are more than one call of the interpreter.
+
+#include "convert/results.h"
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include "runtime/pointer_object.h"
+#include "tests/unit/runtime/tiny_module.h"
+
+namespace {
+
+using ombra::PyRef;
+using ResultsTest = tiny::Test;
+
+TEST_F(ResultsTest, Texts) {
+    const PyRef none(ombra::text_result(nullptr));
+    EXPECT_EQ(none.get(), Py_None);
+    for (const char *text : {"", "text", "\xff\xfe"}) {
+        const PyRef result(ombra::text_result(text));
+        ASSERT_TRUE(PyString_Check(result.get()));
+        EXPECT_STREQ(PyString_AS_STRING(result.get()), text);
+        EXPECT_NE(PyString_AS_STRING(result.get()), text);
+    }
+}
+
+// A text of `length` characters in little memory: one block of 'x', mapped over and over.
+class LongText {
+  public:
+    explicit LongText(std::size_t length) : size_((length / kBlock + 1) * kBlock) {
+        const int file = memfd_create("text", 0);
+        const std::string block(kBlock, 'x');
+        ready_ = file >= 0 && write(file, block.data(), kBlock) == static_cast<ssize_t>(kBlock);
+        void *memory = mmap(nullptr, size_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        ready_ = ready_ && memory != MAP_FAILED;
+        text_ = static_cast<char *>(memory);
+        // Private: the terminator is written into a copy of one page.
+        for (std::size_t at = 0; ready_ && at < size_; at += kBlock) {
+            ready_ = mmap(text_ + at, kBlock, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_FIXED, file,
+                          0) != MAP_FAILED;
+        }
+        if (ready_) {
+            text_[length] = '\0';
+        }
+        close(file);
+    }
+    ~LongText() { munmap(text_, size_); }
+    LongText(const LongText &) = delete;
+    LongText &operator=(const LongText &) = delete;
+
+    // Null if the machine could not map it.
+    const char *text() const { return ready_ ? text_ : nullptr; }
+
+  private:
+    static constexpr std::size_t kBlock = std::size_t{1} << 21U;
+    std::size_t size_;
+    bool ready_ = false;
+    char *text_ = nullptr;
+};
+
+// From 2^31 bytes on a text is no `str` but a pointer object to the native characters.
+TEST_F(ResultsTest, TextOfTwoGigabytes) {
+    const LongText text(std::size_t{1} << 31U);
+    if (text.text() == nullptr) {
+        GTEST_SKIP() << "no address space for a text of two gigabytes";
+    }
+    const PyRef result(ombra::text_result(text.text()));
+    ASSERT_NE(result, nullptr);
+    ASSERT_TRUE(SwigPyObject_Test(result.get()));
+    const auto *object = ombra::as_pointer_object(result.get());
+    EXPECT_EQ(object->ptr, text.text());
+    EXPECT_EQ(object->type, tiny::type(tiny::character));
+    EXPECT_EQ(object->own, 0);
+}
+
+TEST_F(ResultsTest, CopiesAreOwnedAndApart) {
+    const int value = 77;
+    const PyRef result(ombra::owned_copy(&value, sizeof value, tiny::type(tiny::unnamed)));
+    ASSERT_TRUE(SwigPyObject_Test(result.get()));
+    auto *object = ombra::as_pointer_object(result.get());
+    EXPECT_NE(object->ptr, &value);
+    EXPECT_EQ(*static_cast<int *>(object->ptr), 77);
+    EXPECT_EQ(object->own, 1);
+    object->own = 0;
+    ::operator delete(object->ptr);
+}
+
+TEST_F(ResultsTest, AnAllocationOfNoKnownType) {
+    void *memory = ::operator new(4);
+    const PyRef result(ombra::own_pointer(memory, nullptr));
+    auto *object = ombra::as_pointer_object(result.get());
+    EXPECT_EQ(object->ptr, memory);
+    EXPECT_EQ(object->type, nullptr);
+    object->own = 0;
+    ::operator delete(memory);
+}
+
+}  // namespace
