@@ -14,13 +14,9 @@ constexpr int kQualifiers = bcmFieldQualifyCount + 277;
 constexpr int kActions = bcmFieldActionCount;
 constexpr int kWordBits = 32;
 
-bool inside(int id, int count) {
-    return id >= 0 && id < count;
-}
+bool inside(int id, int count) { return id >= 0 && id < count; }
 
-SHR_BITDCL bit_of(int id) {
-    return SHR_BITDCL{1} << (id % kWordBits);
-}
+SHR_BITDCL bit_of(int id) { return SHR_BITDCL{1} << (id % kWordBits); }
 
 // A system port as a global port number.
 constexpr int kSystemPortType = 27;
@@ -70,9 +66,7 @@ SOC_PPC_LAG_MEMBER lag_member(uint32 sys_port, uint32 member_id) {
 
 }  // namespace
 
-void bcm_field_qset_init(bcm_field_qset_t &qset) {
-    qset = {};
-}
+void bcm_field_qset_init(bcm_field_qset_t &qset) { qset = {}; }
 
 void bcm_field_qset_add(bcm_field_qset_t &qset, bcm_field_qualify_e e) {
     if (inside(e, kQualifiers)) {
@@ -90,9 +84,7 @@ unsigned int bcm_field_qset_test(bcm_field_qset_t &qset, bcm_field_qualify_e e) 
     return inside(e, kQualifiers) ? qset.w[e / kWordBits] & bit_of(e) : 0;
 }
 
-void bcm_field_aset_init(bcm_field_aset_t &aset) {
-    aset = {};
-}
+void bcm_field_aset_init(bcm_field_aset_t &aset) { aset = {}; }
 
 void bcm_field_aset_add(bcm_field_aset_t &aset, bcm_field_action_e e) {
     if (inside(e, kActions)) {

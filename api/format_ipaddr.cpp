@@ -14,7 +14,7 @@ namespace {
 // At most 15 characters and the terminator, the rest of the array zero. Whatever is wrong with the
 // argument, it is a TypeError.
 class AddressText {
-   public:
+  public:
     using Native = char *;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -33,7 +33,7 @@ class AddressText {
 
     Native native() const { return const_cast<char *>(buffer_.data()); }
 
-   private:
+  private:
     std::array<char, IPADDR_STR_LEN> buffer_{};
 };
 

@@ -15,9 +15,9 @@
 namespace ombra::rows {
 
 // Results of fixed shape: the status first, then the values, whatever the status says.
-PyObject *bcm_port_pause_get(int unit, bcm_port_t port);           // (status, bool, bool)
-PyObject *bcm_port_untagged_vlan_get(int unit, bcm_port_t port);   // (status, vid)
-PyObject *bcm_vlan_port_get(int unit, bcm_vlan_t vid);             // (status, list, list), or Nones
+PyObject *bcm_port_pause_get(int unit, bcm_port_t port);          // (status, bool, bool)
+PyObject *bcm_port_untagged_vlan_get(int unit, bcm_port_t port);  // (status, vid)
+PyObject *bcm_vlan_port_get(int unit, bcm_vlan_t vid);            // (status, list, list), or Nones
 
 // Results that are shorter after a failed call: (status,) alone.
 PyObject *bcm_stg_stp_get(int unit, bcm_stg_t stg, bcm_port_t port);  // (0, "forwarding")

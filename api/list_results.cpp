@@ -16,7 +16,7 @@ namespace {
 // Memory for a structure that the native function fills, released unless Python takes it over.
 template <typename Struct>
 class Filled {
-   public:
+  public:
     Filled() : memory_(::operator new(sizeof(Struct), std::nothrow)) {}
     Filled(const Filled &) = delete;
     Filled &operator=(const Filled &) = delete;
@@ -32,14 +32,14 @@ class Filled {
         return SWIG_Python_AppendOutput(PyInt_FromLong(status), object);
     }
 
-   private:
+  private:
     void *memory_;
 };
 
 // A VLAN id that the interpreter's own conversion reads: anything that `int()` takes, cut to 16
 // bits without a range error, and the interpreter's own exception for the rest.
 class CutVlan {
-   public:
+  public:
     using Native = bcm_vlan_t;
 
     bool read(PyObject *object, const CallRow &, unsigned) {
@@ -50,14 +50,14 @@ class CutVlan {
 
     Native native() const { return value_; }
 
-   private:
+  private:
     bcm_vlan_t value_ = 0;
 };
 
 // The trunk id of bcm_trunk_create goes in and out: the address in a pointer object, or a number
 // that is kept here.
 class InOutTrunk {
-   public:
+  public:
     using Native = InOutTrunk *;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -82,7 +82,7 @@ class InOutTrunk {
                      : SWIG_Python_NewPointerObj(address_, swig_type_slots[slots::_p_int], 0);
     }
 
-   private:
+  private:
     void *address_ = nullptr;
     Int32 number_;
     bcm_trunk_t value_ = 0;

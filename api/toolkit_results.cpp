@@ -14,13 +14,9 @@
 
 namespace ombra::rows {
 
-PyObject *getTrace() {
-    return text_result(::getTrace());
-}
+PyObject *getTrace() { return text_result(::getTrace()); }
 
-PyObject *sdc(int unit, char *command) {
-    return text_result(::sdc(unit, command));
-}
+PyObject *sdc(int unit, char *command) { return text_result(::sdc(unit, command)); }
 
 PyObject *getHwShadow(int unit) {
     return counted_result(::getHwShadow(unit),

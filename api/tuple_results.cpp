@@ -33,9 +33,7 @@ PyObject *tuple_of(Items... items) {
     return tuple;
 }
 
-PyObject *none() {
-    Py_RETURN_NONE;
-}
+PyObject *none() { Py_RETURN_NONE; }
 
 // The word of a spanning tree state. Listening has no constant of the binding's table of words,
 // and a state that the SDK does not know is still a whole tuple.
@@ -130,9 +128,7 @@ PyObject *bcm_stg_stp_get(int unit, bcm_stg_t stg, bcm_port_t port) {
     return tuple_of(PyInt_FromLong(status), PyString_FromString(state_word(state)));
 }
 
-PyObject *bcm_stg_list(int unit) {
-    return bcm_stg_list_wrapper(unit);
-}
+PyObject *bcm_stg_list(int unit) { return bcm_stg_list_wrapper(unit); }
 
 PyObject *bcm_stg_vlan_list(int unit, bcm_stg_t stg) {
     return bcm_stg_vlan_list_wrapper(unit, stg);

@@ -8,12 +8,12 @@
 #include <cstring>
 
 #include "bench/floor.h"
+#include "helper/device.h"
 #include "sdk/bcm/field.h"
 #include "sdk/bcm/l2.h"
 #include "sdk/bcm/port.h"
 #include "sdk/bcm/vlan.h"
 #include "sdk/soc/init.h"
-#include "helper/device.h"
 
 FloorTypes floor_types;
 
@@ -134,8 +134,7 @@ PyObject *floor_value(PyObject *, PyObject *args) {
     }
     bcm_field_qset_t value;
     std::memcpy(&value, qset, sizeof value);
-    if (!floor_int(o[2], &pri,
-                   "in method 'bcm_field_group_create_id', argument 3 of type 'int'") ||
+    if (!floor_int(o[2], &pri, "in method 'bcm_field_group_create_id', argument 3 of type 'int'") ||
         !floor_unsigned(o[3], &group,
                         "in method 'bcm_field_group_create_id', argument 4 of type "
                         "'bcm_field_group_t'")) {
@@ -167,8 +166,8 @@ PyObject *floor_ports(PyObject *, PyObject *args) {
     unsigned vid = 0;
     bcm_pbmp_t ports;
     bcm_pbmp_t untagged;
-    if (!PyArg_UnpackTuple(args, const_cast<char *>("bcm_vlan_port_add"), 4, 4, &o[0], &o[1],
-                           &o[2], &o[3]) ||
+    if (!PyArg_UnpackTuple(args, const_cast<char *>("bcm_vlan_port_add"), 4, 4, &o[0], &o[1], &o[2],
+                           &o[3]) ||
         !floor_int(o[0], &unit, "in method 'bcm_vlan_port_add', argument 1 of type 'int'") ||
         !floor_unsigned(o[1], &vid,
                         "in method 'bcm_vlan_port_add', argument 2 of type 'bcm_vlan_t'") ||

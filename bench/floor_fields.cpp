@@ -112,9 +112,9 @@ PyObject *floor_ports_list(const bcm_pbmp_t *ports) {
 }
 
 PyObject *floor_port_get(PyObject *, PyObject *args) {
-    const bcm_l2_addr_t *self = getter_self(
-        args, "bcm_l2_addr_t_port_get",
-        "in method 'bcm_l2_addr_t_port_get', argument 1 of type 'bcm_l2_addr_s *'");
+    const bcm_l2_addr_t *self =
+        getter_self(args, "bcm_l2_addr_t_port_get",
+                    "in method 'bcm_l2_addr_t_port_get', argument 1 of type 'bcm_l2_addr_s *'");
     return self == nullptr ? nullptr : PyInt_FromLong(self->port);
 }
 
@@ -163,8 +163,7 @@ PyObject *floor_ports_set(PyObject *, PyObject *args) {
     bcm_pbmp_t ports;
     bcm_l2_addr_t *self = setter_self(
         args, "bcm_l2_addr_t_block_bitmap_set",
-        "in method 'bcm_l2_addr_t_block_bitmap_set', argument 1 of type 'bcm_l2_addr_s *'",
-        &value);
+        "in method 'bcm_l2_addr_t_block_bitmap_set', argument 1 of type 'bcm_l2_addr_s *'", &value);
     if (self == nullptr || !floor_read_ports(value, &ports)) {
         return nullptr;
     }

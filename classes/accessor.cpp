@@ -129,7 +129,7 @@ PyObject *set_value(const FieldRow &row, PyObject *args) {
     Py_RETURN_NONE;
 }
 
-#define OMBRA_FIELD_KIND(Kind)                                       \
+#define OMBRA_FIELD_KIND(Kind)                                        \
     template PyObject *get_value<Kind>(const FieldRow &, PyObject *); \
     template PyObject *set_value<Kind>(const FieldRow &, PyObject *)
 
@@ -199,8 +199,8 @@ PyObject *get_pointer(const FieldRow &row, PyObject *args) {
     if (!read_self(row, args, self)) {
         return nullptr;
     }
-    return SWIG_Python_NewPointerObj(load<void *>(field_address(row, self)),
-                                     slot(row.call, kField), 0);
+    return SWIG_Python_NewPointerObj(load<void *>(field_address(row, self)), slot(row.call, kField),
+                                     0);
 }
 
 PyObject *set_pointer(const FieldRow &row, PyObject *args) {
@@ -250,9 +250,7 @@ PyObject *get_text(const FieldRow &row, PyObject *args) {
     return text_result(load<const char *>(field_address(row, self)));
 }
 
-PyObject *set_text(const FieldRow &row, PyObject *args) {
-    return set_text_field(row, args, true);
-}
+PyObject *set_text(const FieldRow &row, PyObject *args) { return set_text_field(row, args, true); }
 
 PyObject *set_constant_text(const FieldRow &row, PyObject *args) {
     return set_text_field(row, args, false);
@@ -281,8 +279,7 @@ PyObject *delete_struct(const CallRow &row, PyObject *args) {
         return nullptr;
     }
     void *memory = nullptr;
-    const int status =
-        SWIG_Python_ConvertPtrAndOwn(object, &memory, slot(row, kSelf), FLAG_DISOWN);
+    const int status = SWIG_Python_ConvertPtrAndOwn(object, &memory, slot(row, kSelf), FLAG_DISOWN);
     if (status < 0) {
         refuse(row, kSelf, status);
         return nullptr;

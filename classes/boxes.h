@@ -24,8 +24,8 @@ PyObject *new_box(const CallRow &row, PyObject *args) {
         if (element == nullptr) {
             return PyErr_NoMemory();
         }
-        PyObject *object = SWIG_Python_NewPointerObj(element, slot(row, kResultSlot),
-                                                     FLAG_OWN | FLAG_NOPROXY);
+        PyObject *object =
+            SWIG_Python_NewPointerObj(element, slot(row, kResultSlot), FLAG_OWN | FLAG_NOPROXY);
         if (object == nullptr) {
             ::operator delete(element);
         }
@@ -35,15 +35,15 @@ PyObject *new_box(const CallRow &row, PyObject *args) {
 
 template <typename Kind>
 PyObject *assign_box(const CallRow &row, PyObject *args) {
-    return call_with<Pointer, Kind>(
-        row, args, [&](void *self, typename Kind::Native value) -> PyObject * {
-            if (self == nullptr) {
-                refuse_null(row, 0);
-                return nullptr;
-            }
-            std::memcpy(self, &value, sizeof value);
-            Py_RETURN_NONE;
-        });
+    return call_with<Pointer, Kind>(row, args,
+                                    [&](void *self, typename Kind::Native value) -> PyObject * {
+                                        if (self == nullptr) {
+                                            refuse_null(row, 0);
+                                            return nullptr;
+                                        }
+                                        std::memcpy(self, &value, sizeof value);
+                                        Py_RETURN_NONE;
+                                    });
 }
 
 template <typename Kind>

@@ -8,7 +8,8 @@ namespace {
 
 using Lengths = std::unordered_map<const void *, std::size_t>;
 
-// Never destroyed: rows can run until the interpreter is gone. Made in place: no row may throw here.
+// Never destroyed: rows can run until the interpreter is gone. Made in place: no row may throw
+// here.
 Lengths &lengths() {
     alignas(Lengths) static unsigned char storage[sizeof(Lengths)];
     static auto *const table = new (storage) Lengths;
@@ -26,9 +27,7 @@ bool note_array(const void *array, std::size_t count) {
     }
 }
 
-bool forget_array(const void *array) {
-    return lengths().erase(array) != 0;
-}
+bool forget_array(const void *array) { return lengths().erase(array) != 0; }
 
 bool is_live_array(const void *address) {
     return !lengths().empty() && lengths().contains(address);

@@ -30,7 +30,7 @@ struct AppendCall<Result(Args...)> {
 
     static PyObject *run(const CallRow &row, Native native, PyObject *args);
 
-   private:
+  private:
     template <typename... P, std::size_t... I>
     static constexpr bool fits_output(std::index_sequence<I...>) {
         using Declared = std::tuple<P...>;

@@ -21,7 +21,7 @@ namespace ombra {
 // cancelled goes on unwinding.
 template <typename... Args, typename Body>
 [[gnu::always_inline]] inline PyObject *call_with(const CallRow &row, PyObject *args, Body body) {
-    return [&]<std::size_t... I>(std::index_sequence<I...>) -> PyObject * {
+    return [&]<std::size_t... I>(std::index_sequence<I...>)->PyObject * {
         constexpr auto count = static_cast<Py_ssize_t>(sizeof...(Args));
         [[maybe_unused]] PyObject *items[sizeof...(Args) + 1] = {};
         if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...)) {
@@ -38,7 +38,8 @@ template <typename... Args, typename Body>
         } catch (...) {
             return native_exception();
         }
-    }(std::index_sequence_for<Args...>());
+    }
+    (std::index_sequence_for<Args...>());
 }
 
 template <typename Result, typename... Args>

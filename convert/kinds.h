@@ -34,7 +34,7 @@ inline swig_type_info *slot(const CallRow &row, unsigned index) {
 // Signed numbers of 8, 16 and 32 bits. The range test is one biased, unsigned compare.
 template <typename Number>
 class SignedKind {
-   public:
+  public:
     using Native = Number;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -53,14 +53,14 @@ class SignedKind {
 
     static PyObject *result(Native value, const CallRow &) { return PyInt_FromLong(value); }
 
-   private:
+  private:
     long value_;
 };
 
 // Unsigned numbers of 8, 16 and 32 bits.
 template <typename Number>
 class UnsignedKind {
-   public:
+  public:
     using Native = Number;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -84,7 +84,7 @@ class UnsignedKind {
         }
     }
 
-   private:
+  private:
     unsigned long value_;
 };
 
@@ -97,7 +97,7 @@ using UInt32 = UnsignedKind<unsigned int>;
 
 // `unsigned long`: the reader's own range.
 class ULong {
-   public:
+  public:
     using Native = unsigned long;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -107,13 +107,13 @@ class ULong {
 
     Native native() const { return value_; }
 
-   private:
+  private:
     unsigned long value_;
 };
 
 // 64 bits unsigned. A result is an `int` as long as it fits one, else a `long`.
 class UInt64 {
-   public:
+  public:
     using Native = uint64;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -129,13 +129,13 @@ class UInt64 {
                    : PyInt_FromLong(static_cast<long>(value));
     }
 
-   protected:
+  protected:
     unsigned long long value_;
 };
 
 // A 32-bit address that is read like a 64-bit number: the upper half is dropped without an error.
 class Address32 : public UInt64 {
-   public:
+  public:
     using Native = unsigned int;
 
     Native native() const { return static_cast<Native>(value_); }
@@ -145,7 +145,7 @@ class Address32 : public UInt64 {
 
 // Exactly True or False.
 class StrictBool {
-   public:
+  public:
     using Native = bool;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -160,14 +160,14 @@ class StrictBool {
 
     static PyObject *result(Native value, const CallRow &) { return PyBool_FromLong(value); }
 
-   private:
+  private:
     bool value_;
 };
 
 // Text: the Python string's own storage, valid for the call. A copy, should the reader have made
 // one, is released with the frame.
 class Text {
-   public:
+  public:
     using Native = char *;
 
     Text() = default;
@@ -192,7 +192,7 @@ class Text {
 
     static PyObject *result(const char *value, const CallRow &) { return text_result(value); }
 
-   private:
+  private:
     char *text_ = nullptr;
     int alloc_ = 0;
 };
@@ -200,7 +200,7 @@ class Text {
 // A pointer of the argument's type slot; slot kAnyPointer takes a pointer of any type. None is the
 // null pointer. Inline arrays as arguments are the same: the address of the first element.
 class Pointer {
-   public:
+  public:
     using Native = void *;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -214,14 +214,14 @@ class Pointer {
         return SWIG_Python_NewPointerObj(const_cast<void *>(value), slot(row, kResultSlot), 0);
     }
 
-   private:
+  private:
     void *value_ = nullptr;
 };
 
 // A native function: None, a pointer object of the callback's type, or a built-in function whose
 // docstring names one.
 class FunctionPointer {
-   public:
+  public:
     using Native = void *;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -235,13 +235,13 @@ class FunctionPointer {
         return Pointer::result(value, row);
     }
 
-   private:
+  private:
     void *value_ = nullptr;
 };
 
 // The address behind a C++ reference: a pointer object that must not be null.
 class Reference {
-   public:
+  public:
     using Native = void *;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -254,7 +254,7 @@ class Reference {
 
     Native native() const { return value_; }
 
-   private:
+  private:
     void *value_ = nullptr;
 };
 
@@ -269,7 +269,7 @@ struct alignas(Align) Blob {
 // its pointer object.
 template <std::size_t Size, std::size_t Align>
 class Value {
-   public:
+  public:
     using Native = Blob<Size, Align>;
 
     Value() {}  // not zeroed: a read fills it whole, or the call does not happen
@@ -296,13 +296,13 @@ class Value {
         return owned_copy(&value, Size, slot(row, kResultSlot));
     }
 
-   private:
+  private:
     Native value_;
 };
 
 // A MAC text. The native function gets a local of the frame; what it writes there is dropped.
 class MacText {
-   public:
+  public:
     using Native = uint8 *;
 
     bool read(PyObject *object, const CallRow &, unsigned) {
@@ -317,13 +317,13 @@ class MacText {
         return PyString_FromStringAndSize(macaddrToString(value), kMacTextLength);
     }
 
-   private:
+  private:
     uint8 bytes_[6];
 };
 
 // A port list, passed as 18 words by value.
 class PortList {
-   public:
+  public:
     using Native = bcm_pbmp_t;
 
     PortList() {}  // not zeroed: a read does that
@@ -337,13 +337,13 @@ class PortList {
 
     static PyObject *result(const Native &value, const CallRow &) { return pbmpToPyList(value); }
 
-   private:
+  private:
     bcm_pbmp_t pbmp_;
 };
 
 // Any object, unlooked at: a borrowed reference in, a new one (or null) out.
 class Object {
-   public:
+  public:
     using Native = PyObject *;
 
     bool read(PyObject *object, const CallRow &, unsigned) {
@@ -355,7 +355,7 @@ class Object {
 
     static PyObject *result(Native value, const CallRow &) { return value; }
 
-   private:
+  private:
     PyObject *value_ = nullptr;
 };
 

@@ -62,8 +62,7 @@ void pyStringToMacaddr(PyObject *object, uint8 out[6]) {
         return;
     }
     if (!read_plain(text, out) && !read_scanned(text, out)) {
-        ombra::refuse_with(PyExc_ValueError,
-                           "Expected a string of the form 'AA:BB:CC:DD:EE:FF'");
+        ombra::refuse_with(PyExc_ValueError, "Expected a string of the form 'AA:BB:CC:DD:EE:FF'");
     }
 }
 

@@ -71,8 +71,8 @@ PyObject *pbmpToPyList(const bcm_pbmp_t &pbmp) {
     Py_ssize_t next = 0;
     for (unsigned i = 0; list != nullptr && i < kChunks; ++i) {
         for (std::uint64_t bits = chunks[i]; bits != 0; bits &= bits - 1) {
-            PyObject *port = PyLong_FromUnsignedLong(
-                i * kChunkBits + static_cast<unsigned>(std::countr_zero(bits)));
+            PyObject *port = PyLong_FromUnsignedLong(i * kChunkBits +
+                                                     static_cast<unsigned>(std::countr_zero(bits)));
             if (port == nullptr) {
                 Py_DECREF(list);
                 return nullptr;

@@ -14,8 +14,8 @@ namespace ombra {
 PyObject *text_result(const char *text);
 
 // An object for a native allocation that Python owns from now on: a pointer object, or an instance
-// of the type's proxy class. `memory` is from the single-object allocator; on failure it is released
-// here, or has died with its pointer object, and null is returned with an exception.
+// of the type's proxy class. `memory` is from the single-object allocator; on failure it is
+// released here, or has died with its pointer object, and null is returned with an exception.
 PyObject *own_pointer(void *memory, swig_type_info *type);
 
 // A heap copy of `size` bytes at `value` in a new pointer object that owns it. Null with

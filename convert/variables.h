@@ -65,7 +65,7 @@ struct TextVariable {
         if (status < 0) {
             return refuse_variable(status, Message.text);
         }
-        delete[] *Variable;
+        delete[] * Variable;
         *Variable = copy;
         return 0;
     }
@@ -74,14 +74,11 @@ struct TextVariable {
 // A structure, or an array of pointers: Python reads and writes it in place, and assigns it whole.
 template <auto *Variable, unsigned Slot, Literal NullMessage>
 struct BlockVariable {
-    static PyObject *get() {
-        return SWIG_Python_NewPointerObj(Variable, swig_type_slots[Slot], 0);
-    }
+    static PyObject *get() { return SWIG_Python_NewPointerObj(Variable, swig_type_slots[Slot], 0); }
 
     static int set(PyObject *object) {
         void *source = nullptr;
-        const int status =
-            SWIG_Python_ConvertPtrAndOwn(object, &source, swig_type_slots[Slot], 0);
+        const int status = SWIG_Python_ConvertPtrAndOwn(object, &source, swig_type_slots[Slot], 0);
         if (status < 0) {
             return refuse_variable(status, NullMessage.text + kNullPrefixLength);
         }
@@ -103,8 +100,7 @@ struct FunctionVariable {
 
     static int set(PyObject *object) {
         void *value = nullptr;
-        const int status =
-            SWIG_Python_ConvertFunctionPtr(object, &value, swig_type_slots[Slot]);
+        const int status = SWIG_Python_ConvertFunctionPtr(object, &value, swig_type_slots[Slot]);
         if (status < 0) {
             return refuse_variable(status, Message.text);
         }
@@ -121,18 +117,14 @@ struct ReadOnlyArray {
             const_cast<void *>(static_cast<const void *>(&Variable[0])), swig_type_slots[Slot], 0);
     }
 
-    static int set(PyObject *) {
-        return refuse_variable_with(PyExc_AttributeError, Message.text);
-    }
+    static int set(PyObject *) { return refuse_variable_with(PyExc_AttributeError, Message.text); }
 };
 
 template <long Number, Literal Message>
 struct ReadOnlyNumber {
     static PyObject *get() { return PyInt_FromLong(Number); }
 
-    static int set(PyObject *) {
-        return refuse_variable_with(PyExc_AttributeError, Message.text);
-    }
+    static int set(PyObject *) { return refuse_variable_with(PyExc_AttributeError, Message.text); }
 };
 
 }  // namespace ombra

@@ -26,7 +26,7 @@ Value combined(char operation, Value left, Value right) {
             return __builtin_mul_overflow(*left, *right, &result) ? std::nullopt : Value(result);
         default:
             return *right == 0 || (*right == -1 && *left == INT64_MIN) ? std::nullopt
-                                                                      : Value(*left / *right);
+                                                                       : Value(*left / *right);
     }
 }
 
@@ -41,7 +41,7 @@ Value number(const std::string &text) {
 }
 
 class Evaluator {
-   public:
+  public:
     Evaluator(const std::string &text, const Names &names, int depth)
         : tokens_(tokenize(text)), names_(names), depth_(depth) {}
 
@@ -50,7 +50,7 @@ class Evaluator {
         return at_ + 1 == tokens_.size() ? value : std::nullopt;
     }
 
-   private:
+  private:
     bool accept(const char *text) {
         if (tokens_[at_].text != text || tokens_[at_].type == Token::Type::end) {
             return false;

@@ -50,7 +50,7 @@ constexpr std::array<Rule, 28> kRules = {{
 }};
 
 class Checker {
-   public:
+  public:
     Checker(Model &model, Faults &faults) : model_(model), faults_(faults) {}
 
     void run() {
@@ -65,7 +65,7 @@ class Checker {
         check_departures();
     }
 
-   private:
+  private:
     void check_types() {
         std::map<std::string, const TypeRow *> spellings;
         const TypeRow *last = nullptr;
@@ -84,15 +84,14 @@ class Checker {
                 continue;
             }
             if (last != nullptr && last->mangled == row.mangled) {
-                const auto [first, second] =
-                    std::minmax(last->place.line, row.place.line);
+                const auto [first, second] = std::minmax(last->place.line, row.place.line);
                 faults_.add({row.place.file, second}, "type-order",
                             "'" + row.mangled + "' stands on line " + std::to_string(first) +
                                 " already; keep one");
             } else if (last != nullptr && last->place.line >= row.place.line) {
                 faults_.add(row.place, "type-order",
-                            "'" + row.mangled + "' belongs behind '" + last->mangled +
-                                "' (line " + std::to_string(last->place.line) + ")");
+                            "'" + row.mangled + "' belongs behind '" + last->mangled + "' (line " +
+                                std::to_string(last->place.line) + ")");
             }
             last = &row;
         }
@@ -172,15 +171,15 @@ class Checker {
             if (!fresh) {
                 const std::string name = row.name.empty() ? "@cvar" : row.name;
                 faults_.add(row.place, "constant-twice",
-                            "'" + name + "' stands on line " +
-                                std::to_string(found->second) + " already; keep one");
+                            "'" + name + "' stands on line " + std::to_string(found->second) +
+                                " already; keep one");
             }
         }
         for (const auto &variable : model_.variables) {
             if (links.erase(variable.name) == 0) {
-                faults_.add(variable.place, "link-unknown",
-                            "'" + variable.name +
-                                "' is never linked; add its @link line to the constants");
+                faults_.add(
+                    variable.place, "link-unknown",
+                    "'" + variable.name + "' is never linked; add its @link line to the constants");
             }
         }
         links.erase("");  // @cvar
@@ -191,9 +190,12 @@ class Checker {
     }
 
     void check_variables() {
-        static const std::set<std::string> kinds = {"int",      "text",
-                                                    "struct",   "pointer-array",
-                                                    "function", "read-only-array",
+        static const std::set<std::string> kinds = {"int",
+                                                    "text",
+                                                    "struct",
+                                                    "pointer-array",
+                                                    "function",
+                                                    "read-only-array",
                                                     "read-only-constant"};
         for (const auto &variable : model_.variables) {
             if (!kinds.contains(variable.kind)) {
@@ -211,7 +213,8 @@ class Checker {
             if (none && function.hand_written.empty()) {
                 faults_.add(function.place, "result-kind",
                             "'" + function.row + "' returns '" + function.result + "', of kind " +
-                                kind_name(kind) + ", which has no result; return another type, "
+                                kind_name(kind) +
+                                ", which has no result; return another type, "
                                 "or add a departure 'body'");
             }
         }
@@ -240,8 +243,9 @@ class Checker {
                 if (!by_hand && argument.conversion.kind == Kind::fixed_array &&
                     argument.type.starts_with("char ")) {
                     faults_.add(place, "char-array",
-                                "'" + row.name + "' takes '" + argument.type + "', which has no "
-                                "conversion; add a departure 'entry', or use uint8");
+                                "'" + row.name + "' takes '" + argument.type +
+                                    "', which has no "
+                                    "conversion; add a departure 'entry', or use uint8");
                 }
                 if (!argument.name.empty() && !names.insert(argument.name).second) {
                     faults_.add(place, "parameter-twice",
@@ -286,8 +290,8 @@ class Checker {
         }
         for (std::size_t i = 0; i < set.parameters.size(); ++i) {
             if (set.parameters[i].name != get.parameters[i].name) {
-                return "names parameter " + std::to_string(i + 1) + " '" +
-                       get.parameters[i].name + "', its twin '" + set.parameters[i].name + "'";
+                return "names parameter " + std::to_string(i + 1) + " '" + get.parameters[i].name +
+                       "', its twin '" + set.parameters[i].name + "'";
             }
         }
         return "";
@@ -323,8 +327,9 @@ class Checker {
         for (const auto &departure : model_.departures) {
             if (!words.contains(departure.word)) {
                 faults_.add(departure.place, "departure-word",
-                            "'" + departure.word + "' is no departure; the table's head lists "
-                            "them");
+                            "'" + departure.word +
+                                "' is no departure; the table's head lists "
+                                "them");
             } else if (departure.reason.empty()) {
                 faults_.add(departure.place, "departure-reason",
                             "the departure of '" + departure.row + "' gives no reason");
@@ -342,9 +347,7 @@ class Checker {
 
 }  // namespace
 
-void check(Model &model, Faults &faults) {
-    Checker(model, faults).run();
-}
+void check(Model &model, Faults &faults) { Checker(model, faults).run(); }
 
 void list_rules(std::ostream &out) {
     for (const auto &rule : kRules) {

@@ -101,8 +101,8 @@ std::string emit_helpers(const Model &model) {
             }
         }
     }
-    return fill(kFile, {{"banner", banner("generator/rows.cpp", "emit_helpers.cpp")},
-                        {"rows", text}});
+    return fill(kFile,
+                {{"banner", banner("generator/rows.cpp", "emit_helpers.cpp")}, {"rows", text}});
 }
 
 }  // namespace generator

@@ -9,20 +9,28 @@ namespace {
 
 const char *role_name(RowRole role) {
     switch (role) {
-        case RowRole::function: return "function";
-        case RowRole::getter: return "getter";
-        case RowRole::setter: return "setter";
-        case RowRole::constructor: return "constructor";
-        case RowRole::destructor: return "destructor";
-        case RowRole::registration: return "registration";
-        case RowRole::box: return "box";
-        case RowRole::array: return "array";
+        case RowRole::function:
+            return "function";
+        case RowRole::getter:
+            return "getter";
+        case RowRole::setter:
+            return "setter";
+        case RowRole::constructor:
+            return "constructor";
+        case RowRole::destructor:
+            return "destructor";
+        case RowRole::registration:
+            return "registration";
+        case RowRole::box:
+            return "box";
+        case RowRole::array:
+            return "array";
     }
     return "";
 }
 
 class Object {
-   public:
+  public:
     Object &add(const std::string &name, const std::string &text) {
         return add_raw(name, quoted(text));
     }
@@ -36,7 +44,7 @@ class Object {
     }
     std::string text() const { return "{" + text_ + "}"; }
 
-   private:
+  private:
     std::string text_;
 };
 
@@ -76,12 +84,12 @@ std::string row_text(const Model &model, const Row &row) {
     Object object;
     object.add("name", row.name).add("role", role_name(row.role)).add("doc", row.doc);
     object.add_raw("arguments", list(row.arguments, [&](const RowArgument &argument) {
-        return conversion(model, argument.conversion)
-            .add("name", argument.name)
-            .add("text", argument.text)
-            .add("null_text", argument.null_text)
-            .text();
-    }));
+                       return conversion(model, argument.conversion)
+                           .add("name", argument.name)
+                           .add("text", argument.text)
+                           .add("null_text", argument.null_text)
+                           .text();
+                   }));
     object.add("result_type", row.result_type);
     if (!row.result_type.empty() || row.role == RowRole::registration) {
         object.add_raw("result", conversion(model, row.result).text());
@@ -111,13 +119,14 @@ std::string struct_text(const Model &model, const Struct &record) {
         .add("size", record.size)
         .add("align", record.align)
         .add("header", record.place.file)
-        .add_raw("fields", list(record.fields, [&](const Variable &field) {
-                     return conversion(model, field.conversion)
-                         .add("name", field.name)
-                         .add("declared", spelled(field.type, field.bounds))
-                         .add("offset", field.offset)
-                         .text();
-                 }))
+        .add_raw("fields", list(record.fields,
+                                [&](const Variable &field) {
+                                    return conversion(model, field.conversion)
+                                        .add("name", field.name)
+                                        .add("declared", spelled(field.type, field.bounds))
+                                        .add("offset", field.offset)
+                                        .text();
+                                }))
         .text();
 }
 
@@ -152,10 +161,9 @@ std::string emit_model(const Model &model) {
     std::vector<std::string> install;
     for (const auto &row : model.install) {
         const bool constant = row.what == InstallRow::What::constant;
-        install.push_back(constant
-                              ? "[" + quoted(row.name) + ", " + std::to_string(row.value) + "]"
-                              : "[" + quoted(row.name.empty() ? "@cvar" : "@link " + row.name) +
-                                    ", null]");
+        install.push_back(
+            constant ? "[" + quoted(row.name) + ", " + std::to_string(row.value) + "]"
+                     : "[" + quoted(row.name.empty() ? "@cvar" : "@link " + row.name) + ", null]");
     }
     std::vector<std::string> variables;
     for (const auto &variable : model.variables) {

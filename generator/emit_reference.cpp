@@ -48,9 +48,8 @@ std::string class_text(const Struct &record) {
         fields += "| " + field.name + " | " + cell(spelled(field.type, field.bounds)) + " | " +
                   kind_name(field.conversion.kind) + " |\n";
     }
-    return fill(kClass, {{"name", record.name},
-                         {"size", std::to_string(record.size)},
-                         {"fields", fields}});
+    return fill(kClass,
+                {{"name", record.name}, {"size", std::to_string(record.size)}, {"fields", fields}});
 }
 
 std::string function_text(const Row &row) {
@@ -94,8 +93,9 @@ std::string emit_reference(const Model &model, const std::string &header) {
 }
 
 std::string emit_reference_index(const Model &model) {
-    std::string text = "# Reference\n\nEvery row of the module, by the header that declares it.\n\n"
-                       "| page | what it is for |\n|---|---|\n";
+    std::string text =
+        "# Reference\n\nEvery row of the module, by the header that declares it.\n\n"
+        "| page | what it is for |\n|---|---|\n";
     for (const auto &header : model.headers) {
         const auto purpose = model.purposes.find(header);
         const std::string page = title_of(header);

@@ -109,8 +109,9 @@ std::string texts_of(const Row &row) {
 std::string slots_of(const Row &row, int result_slot) {
     std::string slots;
     for (std::size_t i = 0; i < 9; ++i) {
-        slots += (i < row.arguments.size() ? std::to_string(row.arguments[i].conversion.slot)
-                                           : "0") + std::string(", ");
+        slots +=
+            (i < row.arguments.size() ? std::to_string(row.arguments[i].conversion.slot) : "0") +
+            std::string(", ");
     }
     return slots + std::to_string(result_slot);
 }
@@ -145,26 +146,38 @@ std::string function_text(const Row &row) {
 
 std::string getter_of(const Conversion &field) {
     switch (field.kind) {
-        case Kind::text: return "get_text";
-        case Kind::mac_string: return "get_mac";
+        case Kind::text:
+            return "get_text";
+        case Kind::mac_string:
+            return "get_mac";
         case Kind::fixed_array:
-        case Kind::nested_struct: return "get_alias";
+        case Kind::nested_struct:
+            return "get_alias";
         case Kind::pointer_field:
-        case Kind::function_pointer: return "get_pointer";
-        case Kind::by_value: return "get_copy";
-        default: return "get_value<" + kind_class(field) + ">";
+        case Kind::function_pointer:
+            return "get_pointer";
+        case Kind::by_value:
+            return "get_copy";
+        default:
+            return "get_value<" + kind_class(field) + ">";
     }
 }
 
 std::string setter_of(const Variable &field) {
     switch (field.conversion.kind) {
-        case Kind::text: return field.type == "char *" ? "set_text" : "set_constant_text";
-        case Kind::mac_string: return "set_mac";
-        case Kind::fixed_array: return "set_array";
-        case Kind::pointer_field: return "set_pointer";
+        case Kind::text:
+            return field.type == "char *" ? "set_text" : "set_constant_text";
+        case Kind::mac_string:
+            return "set_mac";
+        case Kind::fixed_array:
+            return "set_array";
+        case Kind::pointer_field:
+            return "set_pointer";
         case Kind::nested_struct:
-        case Kind::by_value: return "set_copy";
-        default: return "set_value<" + kind_class(field.conversion) + ">";
+        case Kind::by_value:
+            return "set_copy";
+        default:
+            return "set_value<" + kind_class(field.conversion) + ">";
     }
 }
 
@@ -192,12 +205,17 @@ std::string row_text(const Row &row) {
         {"slot", row.record == nullptr ? "" : std::to_string(row.record->slot)},
         {"size", row.record == nullptr ? "" : std::to_string(row.record->size)}};
     switch (row.role) {
-        case RowRole::function: return function_text(row);
+        case RowRole::function:
+            return function_text(row);
         case RowRole::getter:
-        case RowRole::setter: return field_text(row);
-        case RowRole::constructor: return fill(kConstructor, holes);
-        case RowRole::destructor: return fill(kDestructor, holes);
-        default: return fill(kRegistration, holes);
+        case RowRole::setter:
+            return field_text(row);
+        case RowRole::constructor:
+            return fill(kConstructor, holes);
+        case RowRole::destructor:
+            return fill(kDestructor, holes);
+        default:
+            return fill(kRegistration, holes);
     }
 }
 
@@ -236,27 +254,45 @@ std::string emit_shapes(const Model &model, unsigned part) {
 
 std::string kind_class(const Conversion &conversion) {
     switch (conversion.kind) {
-        case Kind::signed_8: return "Int8";
-        case Kind::signed_16: return "Int16";
-        case Kind::signed_32: return "Int32";
-        case Kind::unsigned_8: return "UInt8";
-        case Kind::unsigned_16: return "UInt16";
-        case Kind::unsigned_32: return "UInt32";
-        case Kind::unsigned_long: return "ULong";
-        case Kind::unsigned_64: return "UInt64";
-        case Kind::address_32: return "Address32";
-        case Kind::strict_bool: return "StrictBool";
-        case Kind::text: return "Text";
-        case Kind::function_pointer: return "FunctionPointer";
-        case Kind::reference: return "Reference";
-        case Kind::port_bitmap: return "PortList";
-        case Kind::mac_string: return "MacText";
-        case Kind::object: return "Object";
-        case Kind::nothing: return "Void";
+        case Kind::signed_8:
+            return "Int8";
+        case Kind::signed_16:
+            return "Int16";
+        case Kind::signed_32:
+            return "Int32";
+        case Kind::unsigned_8:
+            return "UInt8";
+        case Kind::unsigned_16:
+            return "UInt16";
+        case Kind::unsigned_32:
+            return "UInt32";
+        case Kind::unsigned_long:
+            return "ULong";
+        case Kind::unsigned_64:
+            return "UInt64";
+        case Kind::address_32:
+            return "Address32";
+        case Kind::strict_bool:
+            return "StrictBool";
+        case Kind::text:
+            return "Text";
+        case Kind::function_pointer:
+            return "FunctionPointer";
+        case Kind::reference:
+            return "Reference";
+        case Kind::port_bitmap:
+            return "PortList";
+        case Kind::mac_string:
+            return "MacText";
+        case Kind::object:
+            return "Object";
+        case Kind::nothing:
+            return "Void";
         case Kind::by_value:
             return "Value<" + std::to_string(conversion.size) + ", " +
                    std::to_string(conversion.align) + ">";
-        default: return "Pointer";
+        default:
+            return "Pointer";
     }
 }
 
@@ -282,8 +318,8 @@ std::string emit_rows(const Model &model, const std::string &header) {
     for (const auto &row : rows_of_header(model, header)) {
         text += row_text(row);
     }
-    const bool hand = std::any_of(
-        model.functions.begin(), model.functions.end(), [&](const Function &function) {
+    const bool hand =
+        std::any_of(model.functions.begin(), model.functions.end(), [&](const Function &function) {
             return function.place.file == header && !function.hand_written.empty();
         });
     const std::string root = "platform/";

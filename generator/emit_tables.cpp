@@ -58,14 +58,12 @@ const swig_install_step swig_install_steps[] = {
 const std::size_t swig_install_step_count = @count@;
 )";
 
-std::string number(std::size_t value) {
-    return std::to_string(value);
-}
+std::string number(std::size_t value) { return std::to_string(value); }
 
 // The variable templates of convert/variables.h, by the kind column of variables.txt.
 std::string variable_text(const GlobalVariable &variable) {
-    const std::string in_method = "\"in variable '" + variable.name + "' of type '" +
-                                  variable.type + "'\"";
+    const std::string in_method =
+        "\"in variable '" + variable.name + "' of type '" + variable.type + "'\"";
     const std::string null_form = "\"invalid null reference in variable '" + variable.name +
                                   "' of type '" + variable.type + "'\"";
     const std::string slot = number(static_cast<std::size_t>(variable.slot));
@@ -77,8 +75,8 @@ std::string variable_text(const GlobalVariable &variable) {
     } else if (variable.kind == "struct" || variable.kind == "pointer-array") {
         access = "BlockVariable<&" + variable.name + ", " + slot + ", Literal{" + null_form + "}>";
     } else if (variable.kind == "function") {
-        access = "FunctionVariable<&" + variable.name + ", " + slot + ", Literal{" + in_method +
-                 "}>";
+        access =
+            "FunctionVariable<&" + variable.name + ", " + slot + ", Literal{" + in_method + "}>";
     } else if (variable.kind == "read-only-array") {
         access = "ReadOnlyArray<" + variable.name + ", " + slot + ", Literal{\"in variable " +
                  "'read-only " + variable.name + "' of type '" + variable.type + "'\"}>";
@@ -99,16 +97,17 @@ std::string emit_method_table(const Model &model) {
         rows += "    {\"" + row.name + "\", " + row.entry + ", METH_VARARGS, " +
                 (row.doc.empty() ? "nullptr" : quoted(row.doc)) + "},\n";
     }
-    return fill(kMethods, {{"banner", banner("all declarations", "emit_tables.cpp")},
-                           {"rows", rows}});
+    return fill(kMethods,
+                {{"banner", banner("all declarations", "emit_tables.cpp")}, {"rows", rows}});
 }
 
 std::string emit_entries(const Model &model) {
-    std::string text = banner("all declarations", "emit_tables.cpp") +
-                       "\n#pragma once\n\n#include <Python.h>\n\n"
-                       "// An entry ends in a jump, so it has no frame to unwind: what the frame lets "
-                       "pass\n// passes it by.\n"
-                       "#define OMBRA_ENTRY [[gnu::nothrow]] PyObject *\n\n";
+    std::string text =
+        banner("all declarations", "emit_tables.cpp") +
+        "\n#pragma once\n\n#include <Python.h>\n\n"
+        "// An entry ends in a jump, so it has no frame to unwind: what the frame lets "
+        "pass\n// passes it by.\n"
+        "#define OMBRA_ENTRY [[gnu::nothrow]] PyObject *\n\n";
     for (const auto &row : all_rows(model)) {
         text += "OMBRA_ENTRY " + row.entry + "(PyObject *, PyObject *);\n";
     }
@@ -138,8 +137,7 @@ std::string emit_type_table(const Model &model) {
         }
         records += "static swig_cast_link casts" + row.mangled + "[] = {";
         for (const auto &source : sources) {
-            records += "{&type" + source + ", " +
-                       (source == row.mangled ? "nullptr" : "identity") +
+            records += "{&type" + source + ", " + (source == row.mangled ? "nullptr" : "identity") +
                        ", nullptr, nullptr}, ";
         }
         records += "{nullptr, nullptr, nullptr, nullptr}};\n";

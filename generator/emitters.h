@@ -14,21 +14,21 @@ std::string emit_rows(const Model &model, const std::string &header);  // record
 inline constexpr unsigned kShapeParts = 4;
 std::string emit_shapes(const Model &model, unsigned part);
 
-std::string emit_helpers(const Model &model);                          // boxes and arrays
+std::string emit_helpers(const Model &model);  // boxes and arrays
 std::string emit_method_table(const Model &model);
 std::string emit_entries(const Model &model);  // prototypes of all entries
 std::string emit_type_table(const Model &model);
-std::string emit_type_slots(const Model &model);    // names for the slots, for hand-written code
-std::string emit_install_table(const Model &model); // constants, links, and their order
+std::string emit_type_slots(const Model &model);     // names for the slots, for hand-written code
+std::string emit_install_table(const Model &model);  // constants, links, and their order
 std::string emit_constants_header(const Model &model);
 std::string emit_constant_names(const Model &model);  // number and name, for the stand-in's texts
 std::string emit_model(const Model &model);           // JSON, for the tests and tools
 std::string emit_standin(const Model &model, const std::string &header);  // weak defaults
 std::string emit_standin_layers(const Model &model);  // which default is of which kind
 std::string emit_recording(const Model &model, const std::string &header);  // the recording SDK
-std::string emit_proxy(const Model &model);               // the proxy module's tables, Python
-std::string emit_companion_elements(const Model &model);  // types that the companion lays out
-std::string emit_companion_callbacks(const Model &model); // its native callbacks
+std::string emit_proxy(const Model &model);                // the proxy module's tables, Python
+std::string emit_companion_elements(const Model &model);   // types that the companion lays out
+std::string emit_companion_callbacks(const Model &model);  // its native callbacks
 
 // A type that travels by value and has no class: the declared name and the slot of its pointer.
 struct OpaqueValue {

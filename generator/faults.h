@@ -9,7 +9,7 @@
 namespace generator {
 
 class Faults {
-   public:
+  public:
     // `rule` is the short name of the rule that is broken; `message` says what was found, what was
     // expected and what to do.
     void add(const Place &place, const std::string &rule, const std::string &message);
@@ -19,7 +19,7 @@ class Faults {
     // Prints "file:line: error: message [rule]" for each fault, and their number.
     void print() const;
 
-   private:
+  private:
     struct Fault {
         Place place;
         std::string text;

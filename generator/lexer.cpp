@@ -7,7 +7,7 @@ namespace generator {
 namespace {
 
 class Lexer {
-   public:
+  public:
     explicit Lexer(const std::string &source) : source_(source) {}
 
     std::vector<Token> run() {
@@ -21,13 +21,13 @@ class Lexer {
         return std::move(tokens_);
     }
 
-   private:
+  private:
     bool starts(const char *text) const { return source_.compare(at_, 2, text) == 0; }
 
     void advance_to(std::size_t end) {
-        line_ += static_cast<int>(std::count(source_.begin() + static_cast<std::ptrdiff_t>(at_),
-                                             source_.begin() + static_cast<std::ptrdiff_t>(end),
-                                             '\n'));
+        line_ +=
+            static_cast<int>(std::count(source_.begin() + static_cast<std::ptrdiff_t>(at_),
+                                        source_.begin() + static_cast<std::ptrdiff_t>(end), '\n'));
         at_ = end;
     }
 
@@ -83,8 +83,6 @@ class Lexer {
 
 }  // namespace
 
-std::vector<Token> tokenize(const std::string &source) {
-    return Lexer(source).run();
-}
+std::vector<Token> tokenize(const std::string &source) { return Lexer(source).run(); }
 
 }  // namespace generator

@@ -8,7 +8,7 @@ namespace generator {
 
 struct Token {
     enum class Type { name, number, punctuation, directive, end } type = Type::end;
-    std::string text;   // "bcm_port_t", "::", "#define X 4"
+    std::string text;  // "bcm_port_t", "::", "#define X 4"
     int line = 0;
     std::size_t begin = 0;  // place in the source, so that array bounds can be taken verbatim
     std::size_t end = 0;

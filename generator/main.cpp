@@ -109,18 +109,16 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
     }
     list.emplace_back("reference/index.md", emit_reference_index);
     for (const auto &header : model.headers) {
-        list.emplace_back(reference_file(header), [header](const Model &whole) {
-            return emit_reference(whole, header);
-        });
+        list.emplace_back(reference_file(header),
+                          [header](const Model &whole) { return emit_reference(whole, header); });
         list.emplace_back(rows_file(header),
                           [header](const Model &whole) { return emit_rows(whole, header); });
         if (has_natives_outside(header)) {
             list.emplace_back(recording_file(header), [header](const Model &whole) {
                 return emit_recording(whole, header);
             });
-            list.emplace_back(standin_file(header), [header](const Model &whole) {
-                return emit_standin(whole, header);
-            });
+            list.emplace_back(standin_file(header),
+                              [header](const Model &whole) { return emit_standin(whole, header); });
         }
     }
     return list;
@@ -197,6 +195,4 @@ int run(const std::vector<std::string> &arguments) {
 }  // namespace
 }  // namespace generator
 
-int main(int count, char **values) {
-    return generator::run({values + 1, values + count});
-}
+int main(int count, char **values) { return generator::run({values + 1, values + count}); }

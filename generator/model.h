@@ -60,17 +60,17 @@ struct Variable {
     std::vector<std::string> bounds;  // {"16"}, {"(2)", "(4)"}
     std::string name;                 // "port"; empty where the declaration gives none
     Place place;
-    Conversion conversion;    // resolved
-    std::size_t offset = 0;   // of a field, resolved
+    Conversion conversion;   // resolved
+    std::size_t offset = 0;  // of a field, resolved
 };
 
 struct Function {
-    std::string row;        // "tableBaseAddr", the Python name
-    std::string native;     // "TesselApi::tableBaseAddr"
-    std::string result;     // "int"
+    std::string row;     // "tableBaseAddr", the Python name
+    std::string native;  // "TesselApi::tableBaseAddr"
+    std::string result;  // "int"
     std::vector<Variable> parameters;
     Place place;
-    bool module_native = false;  // declared below api/: defined in the module itself
+    bool module_native = false;     // declared below api/: defined in the module itself
     std::vector<Variable> visible;  // the parameters that Python passes, resolved
     std::string visible_result;     // the docstring's result, resolved; empty for void
     Conversion conversion;          // of the result, resolved
@@ -79,14 +79,14 @@ struct Function {
 };
 
 struct Struct {
-    std::string name;         // "bcm_l2_addr_t", the class
-    std::string tag;          // "bcm_l2_addr_s", as messages name it
+    std::string name;  // "bcm_l2_addr_t", the class
+    std::string tag;   // "bcm_l2_addr_s", as messages name it
     bool is_union = false;
     std::vector<Variable> fields;
     Place place;
-    int slot = 0;             // resolved
-    std::size_t size = 0;     // resolved
-    std::size_t align = 0;    // resolved
+    int slot = 0;           // resolved
+    std::size_t size = 0;   // resolved
+    std::size_t align = 0;  // resolved
 };
 
 struct Typedef {
@@ -100,13 +100,13 @@ struct TypeRow {
     std::string mangled;              // "_p_bcm_l2_addr_s"
     std::vector<std::string> pretty;  // {"bcm_l2_addr_s *", "bcm_l2_addr_t *"}
     Place place;
-    std::string twin;                 // mangled name of the type that also passes, or empty
+    std::string twin;  // mangled name of the type that also passes, or empty
 };
 
 struct KindRow {
     std::string type;  // "bcm_gport_t"
     Kind kind = Kind::none;
-    std::size_t size = 0;   // of a value
+    std::size_t size = 0;  // of a value
     std::size_t align = 0;
     Place place;
 };
@@ -114,19 +114,19 @@ struct KindRow {
 // One step of filling the module dictionary.
 struct InstallRow {
     enum class What { constant, cvar, link } what = What::constant;
-    std::string name;         // "bcmColorGreen"
+    std::string name;  // "bcmColorGreen"
     std::int64_t value = 0;
     Place place;
 };
 
 struct GlobalVariable {
-    std::string name;      // "sh_rcload_depth"
-    std::string type;      // "int"
-    std::string kind;      // "int"
-    std::string mangled;   // "_p_int", or "-"
-    std::string detail;    // "66", or "-"
+    std::string name;     // "sh_rcload_depth"
+    std::string type;     // "int"
+    std::string kind;     // "int"
+    std::string mangled;  // "_p_int", or "-"
+    std::string detail;   // "66", or "-"
     Place place;
-    int slot = 0;          // resolved
+    int slot = 0;  // resolved
 };
 
 struct Departure {
@@ -143,9 +143,9 @@ struct Model {
     std::vector<Function> functions;
     std::vector<Struct> structs;
     std::vector<Typedef> typedefs;
-    std::map<std::string, std::string> aliases;  // "bcm_pkt_t" -> "bcm_pkt_s"
-    std::map<std::string, std::string> defines;  // "SOC_MAX_NUM_DEVICES" -> "66"
-    std::map<std::string, std::string> purposes; // header -> its first comment
+    std::map<std::string, std::string> aliases;   // "bcm_pkt_t" -> "bcm_pkt_s"
+    std::map<std::string, std::string> defines;   // "SOC_MAX_NUM_DEVICES" -> "66"
+    std::map<std::string, std::string> purposes;  // header -> its first comment
     std::vector<TypeRow> types;
     std::vector<KindRow> kinds;
     std::vector<InstallRow> install;

@@ -88,7 +88,8 @@ void read_kinds(const std::string &file, const std::string &source, Model &model
         group.kind = words.empty() ? Kind::none : kind_of_name(words[0]);
         const bool sized = group.kind == Kind::by_value;
         if (group.kind == Kind::none || words.size() != (sized ? 3U : 1U) ||
-            (sized && (!read_number(words[1], group.size) || !read_number(words[2], group.align)))) {
+            (sized &&
+             (!read_number(words[1], group.size) || !read_number(words[2], group.align)))) {
             faults.add(place, "kind-group",
                        "'" + text + "' is no kind; write [kind] or [by-value SIZE ALIGN]");
             group = {};
@@ -137,8 +138,7 @@ void read_departures(const std::string &file, const std::string &source, Model &
     for_each_row(file, source, [&](const Place &place, const Columns &columns) {
         if (has_columns(place, columns, 3, faults)) {
             const std::string reason = columns.size() > 3 ? columns[3] : "";
-            model.departures.push_back(
-                {columns[0], columns[1], columns[2], reason, place, false});
+            model.departures.push_back({columns[0], columns[1], columns[2], reason, place, false});
         }
     });
 }

@@ -23,7 +23,7 @@ struct SyntaxError {
 };
 
 class Parser {
-   public:
+  public:
     Parser(const std::string &file, const std::string &source, HeaderRole role, Model &model,
            Faults &faults)
         : file_(file),
@@ -51,7 +51,7 @@ class Parser {
         }
     }
 
-   private:
+  private:
     const Token &peek(std::size_t ahead = 0) const {
         return tokens_[std::min(at_ + ahead, tokens_.size() - 1)];
     }
@@ -113,8 +113,7 @@ class Parser {
             return;
         }
         const bool line_comment = source_[1] == '/';
-        std::string text =
-            source_.substr(2, source_.find(line_comment ? "\n" : "*/", 2) - 2);
+        std::string text = source_.substr(2, source_.find(line_comment ? "\n" : "*/", 2) - 2);
         text.erase(0, text.find_first_not_of(" *\n"));
         text.erase(text.find_last_not_of(" \n") + 1);
         for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n')) {
@@ -206,8 +205,7 @@ class Parser {
         if (declared.name.empty()) {
             throw SyntaxError{declared.place.line, "a typedef without a name"};
         }
-        model_.typedefs.push_back(
-            {declared.name, declared.type, declared.bounds, declared.place});
+        model_.typedefs.push_back({declared.name, declared.type, declared.bounds, declared.place});
     }
 
     // typedef RESULT (*NAME)(...): the type table and the kinds know it by its name.
@@ -258,8 +256,7 @@ class Parser {
         Variable variable;
         variable.place = here();
         std::vector<std::string> words;
-        while (peek().type == Token::Type::name || next_is("::") || next_is("*") ||
-               next_is("&")) {
+        while (peek().type == Token::Type::name || next_is("::") || next_is("*") || next_is("&")) {
             words.push_back(take().text);
         }
         if (words.empty()) {

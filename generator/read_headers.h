@@ -11,7 +11,7 @@ namespace generator {
 enum class HeaderRole {
     bound,          // every prototype is a row, every struct a class
     module_native,  // the same, defined in the module itself
-    types_only      // only its typedefs and defines count; what is beyond the grammar is passed over
+    types_only  // only its typedefs and defines count; what is beyond the grammar is passed over
 };
 
 // `file` is the path as messages name it, `source` the text.

@@ -39,7 +39,7 @@ std::string twin_of(const std::string &mangled) {
 }
 
 class Resolver {
-   public:
+  public:
     Resolver(Model &model, Faults &faults) : model_(model), faults_(faults) {}
 
     void run() {
@@ -62,7 +62,7 @@ class Resolver {
         }
     }
 
-   private:
+  private:
     void add_twins() {
         std::set<std::string> known;
         for (const auto &row : model_.types) {
@@ -117,8 +117,9 @@ class Resolver {
         const auto found = pretty_.find(name);
         if (found == pretty_.end()) {
             faults_.add(place, "slot-missing",
-                        "'" + name + "' is no pretty name of catalogue/types.txt; add it to its "
-                        "type's line, or a line for a new type");
+                        "'" + name +
+                            "' is no pretty name of catalogue/types.txt; add it to its "
+                            "type's line, or a line for a new type");
             return 0;
         }
         return found->second;
@@ -136,15 +137,21 @@ class Resolver {
         switch (kind) {
             case Kind::signed_8:
             case Kind::unsigned_8:
-            case Kind::strict_bool: return {1, 1};
+            case Kind::strict_bool:
+                return {1, 1};
             case Kind::signed_16:
-            case Kind::unsigned_16: return {2, 2};
+            case Kind::unsigned_16:
+                return {2, 2};
             case Kind::signed_32:
             case Kind::unsigned_32:
-            case Kind::address_32: return {4, 4};
-            case Kind::port_bitmap: return {72, 4};
-            case Kind::mac_string: return {6, 1};
-            default: return {8, 8};
+            case Kind::address_32:
+                return {4, 4};
+            case Kind::port_bitmap:
+                return {72, 4};
+            case Kind::mac_string:
+                return {6, 1};
+            default:
+                return {8, 8};
         }
     }
 
@@ -178,8 +185,9 @@ class Resolver {
             convert_array(conversion, array->second->type, array->second->bounds, variable.place);
         } else {
             faults_.add(variable.place, "kind-missing",
-                        "'" + type + "' has no conversion kind; add a line to "
-                        "catalogue/kinds.txt, or declare the struct");
+                        "'" + type +
+                            "' has no conversion kind; add a line to "
+                            "catalogue/kinds.txt, or declare the struct");
         }
         return conversion;
     }
@@ -206,9 +214,9 @@ class Resolver {
     // array may be a name that crosses nowhere alone.
     std::size_t number_width(const std::string &type) const {
         static const std::unordered_map<std::string, std::size_t> widths = {
-            {"char", 1},          {"signed char", 1}, {"unsigned char", 1}, {"short", 2},
-            {"unsigned short", 2}, {"int", 4},         {"unsigned int", 4},  {"long", 8},
-            {"unsigned long", 8}};
+            {"char", 1},         {"signed char", 1},    {"unsigned char", 1},
+            {"short", 2},        {"unsigned short", 2}, {"int", 4},
+            {"unsigned int", 4}, {"long", 8},           {"unsigned long", 8}};
         const auto width = widths.find(type);
         if (width != widths.end()) {
             return width->second;
@@ -226,8 +234,9 @@ class Resolver {
             const auto value = evaluate(bound, names_);
             if (!value || *value <= 0) {
                 faults_.add(place, "bound-unknown",
-                            "the array bound '" + bound + "' is no positive number; define its "
-                            "names by #define or in catalogue/constants.txt");
+                            "the array bound '" + bound +
+                                "' is no positive number; define its "
+                                "names by #define or in catalogue/constants.txt");
                 return;
             }
             conversion.count *= static_cast<std::size_t>(*value);
@@ -323,8 +332,9 @@ class Resolver {
                                                            "read-only-array"};
             if (pointers.contains(variable.kind)) {
                 faults_.add(variable.place, "slot-missing",
-                            "'" + variable.name + "' crosses as a pointer object; give the mangled "
-                            "name of its type");
+                            "'" + variable.name +
+                                "' crosses as a pointer object; give the mangled "
+                                "name of its type");
             }
             return;
         }
@@ -365,17 +375,16 @@ void Resolver::apply_departures() {
 
 void Resolver::apply(Departure &departure, Function &function) {
     if (departure.word == "append-output") {
-        departure.used = !function.visible.empty() &&
-                         function.visible.back().name == departure.details;
+        departure.used =
+            !function.visible.empty() && function.visible.back().name == departure.details;
         if (departure.used) {
             function.appended = departure.details;
             function.visible.pop_back();
         }
     } else if (departure.word == "overload") {
-        departure.used = std::count_if(model_.functions.begin(), model_.functions.end(),
-                                       [&](const Function &other) {
-                                           return other.row == function.row;
-                                       }) > 1;
+        departure.used =
+            std::count_if(model_.functions.begin(), model_.functions.end(),
+                          [&](const Function &other) { return other.row == function.row; }) > 1;
     } else if (is_hand_written(departure)) {
         departure.used = true;
         function.hand_written = departure.word;
@@ -392,8 +401,9 @@ void Resolver::set_visible(const Departure &departure, Function &function) {
     const std::size_t arrow = departure.details.find("-> ");
     if (arrow == std::string::npos) {
         faults_.add(departure.place, "departure-details",
-                    "found '" + departure.details + "'; write '-', or what Python sees: "
-                    "'int unit, object any -> int'");
+                    "found '" + departure.details +
+                        "'; write '-', or what Python sees: "
+                        "'int unit, object any -> int'");
         return;
     }
     const std::string result = departure.details.substr(arrow + 3);
@@ -421,9 +431,7 @@ void Resolver::set_visible(const Departure &departure, Function &function) {
 
 }  // namespace
 
-void resolve(Model &model, Faults &faults) {
-    Resolver(model, faults).run();
-}
+void resolve(Model &model, Faults &faults) { Resolver(model, faults).run(); }
 
 std::string docstring_type(const Model &model, const Variable &variable) {
     const auto is_class = [&](const std::string &name) {

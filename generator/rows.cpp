@@ -151,8 +151,8 @@ void add_struct_helper(const Model &model, const std::string &name, const std::s
     Conversion value = number(Kind::by_value, record->size, element);
     value.align = record->align;
     value.slot = value.result_slot = record->slot;
-    helpers.push_back(helper(model, name, value, model.types[static_cast<std::size_t>(
-                                                     record->slot)].mangled));
+    helpers.push_back(
+        helper(model, name, value, model.types[static_cast<std::size_t>(record->slot)].mangled));
 }
 
 Row helper_row(RowRole role, const std::string &name) {
@@ -257,9 +257,8 @@ std::vector<Helper> arrays(const Model &model) {
 namespace {
 
 bool is_overloaded(const Model &model, const std::string &row) {
-    return std::any_of(model.departures.begin(), model.departures.end(), [&](const auto &d) {
-        return d.word == "overload" && d.row == row;
-    });
+    return std::any_of(model.departures.begin(), model.departures.end(),
+                       [&](const auto &d) { return d.word == "overload" && d.row == row; });
 }
 
 // Adds a function's row; the later shapes of an overloaded one join the docstring of the first,

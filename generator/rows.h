@@ -31,10 +31,10 @@ struct RowArgument {
 
 struct Row {
     RowRole role = RowRole::function;
-    std::string name;     // "bcm_port_enable_get"
-    std::string entry;    // "_wrap_bcm_port_enable_get"
-    std::string doc;      // "bcm_port_enable_get(unit, port, enable) -> int"; empty for none
-    std::string header;   // the file that declares it, or empty
+    std::string name;    // "bcm_port_enable_get"
+    std::string entry;   // "_wrap_bcm_port_enable_get"
+    std::string doc;     // "bcm_port_enable_get(unit, port, enable) -> int"; empty for none
+    std::string header;  // the file that declares it, or empty
     std::vector<RowArgument> arguments;
     std::string result_type;  // "int", empty for none
     Conversion result;
@@ -46,12 +46,12 @@ struct Row {
 
 // A one-element box of Python's, or a counted array of native elements.
 struct Helper {
-    std::string name;          // "intp", "uint8Array"
-    std::string element;       // "int", as messages name it
-    std::string pointer;       // "int *", whose slot is the element's
-    Conversion value;          // of the element
-    int slot = 0;              // `_p_intp`, for a box
-    int element_slot = 0;      // `_p_int`
+    std::string name;      // "intp", "uint8Array"
+    std::string element;   // "int", as messages name it
+    std::string pointer;   // "int *", whose slot is the element's
+    Conversion value;      // of the element
+    int slot = 0;          // `_p_intp`, for a box
+    int element_slot = 0;  // `_p_int`
 };
 
 std::vector<Helper> boxes(const Model &model);

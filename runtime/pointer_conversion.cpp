@@ -14,7 +14,8 @@ namespace {
 PyObject *swig_this_name = nullptr;
 
 // `this` of an object without an instance dictionary, borrowed. Whoever answers keeps it alive; an
-// answer that nobody else holds would be gone at once, and counts as none.
+// answer that nobody else holds would be gone at once, and so would one of an object that its own
+// answer has let go. Both count as none.
 PyObject *this_attribute(PyObject *object, PyObject *name) {
     const PyRef kept = ombra::new_ref(object);
     const PyRef found(PyObject_GetAttr(object, name));
@@ -22,7 +23,7 @@ PyObject *this_attribute(PyObject *object, PyObject *name) {
         PyErr_Clear();
         return nullptr;
     }
-    return Py_REFCNT(found.get()) > 1 ? found.get() : nullptr;
+    return Py_REFCNT(found.get()) > 1 && Py_REFCNT(object) > 1 ? found.get() : nullptr;
 }
 
 // The next object on the way to a pointer object, borrowed, or null.

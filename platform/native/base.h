@@ -17,9 +17,13 @@
  * width is fixed: a number beyond the known codes is a valid value.
  */
 #ifdef __cplusplus
-#define OMBRA_ENUM(tag, name) enum tag : int; typedef enum tag name
+#define OMBRA_ENUM(tag, name) \
+    enum tag : int;           \
+    typedef enum tag name
 #else
-#define OMBRA_ENUM(tag, name) typedef int tag; typedef int name
+#define OMBRA_ENUM(tag, name) \
+    typedef int tag;          \
+    typedef int name
 #endif
 
 OMBRA_BEGIN_DECLS

@@ -139,6 +139,11 @@ def ring_of_two():
     return first
 
 
+class Holder(Slots):
+    """Slots that hold something besides."""
+    __slots__ = ('held',)
+
+
 class Kept(object):
     """Keeps what weak proxies of it need."""
     alive = []
@@ -148,6 +153,17 @@ class Kept(object):
         cls.alive[:] = [thing]
         return weakref.proxy(thing)
 
+    @classmethod
+    def only_by_its_answer(cls):
+        """A weak proxy of an object that its own answer lets go, and with it
+        the pointer object that it answers with."""
+        def act():
+            thing = cls.alive.pop()
+            return thing.held
+        thing = Holder(act)
+        thing.held = _echo.pointer(PAIR_TYPE, ADDRESS)
+        cls.alive[:] = [thing]
+        return weakref.proxy(thing)
 
     @classmethod
     def only_by_itself(cls, answer):
@@ -351,6 +367,8 @@ def pointers():
                 lambda: Slots(lambda: _echo.pointer(PAIR_TYPE, ADDRESS))),
         Hostile('slots that let go of themselves',
                 lambda: Kept.only_by_itself(pair), points=TO_PAIR),
+        Hostile('weak proxy of slots that let go of themselves',
+                Kept.only_by_its_answer),
         Hostile('weak proxy', lambda: Kept.proxy(NewStyle(PAIR)),
                 points=TO_PAIR),
         Hostile('weak proxy of slots', lambda: Kept.proxy(Slots(pair)),
@@ -369,10 +387,6 @@ def pointers():
 # last reference to the pointer object of an earlier one: the native function
 # gets the address of what is gone. A pointer has no length and no life of its
 # own; whoever passes one keeps what it belongs to.
-#
-# CRASHES: a weak proxy of an object without a dictionary, whose __getattr__
-# drops the last reference to that object and gives a pointer object that only
-# the dead object held.
 #
 # CRASHES: a pointer object of a wrong address, `pointer(PAIR_TYPE, 1)`, for a
 # value or a reference. The type of a pointer is checked, its address cannot

@@ -455,7 +455,8 @@ typedef int (*bcm_cosq_event_cb)(int unit, bcm_cosq_event_type_t event_type, int
                                  void *user_data);
 
 /* Told when recovery from a deadlock begins and ends. */
-typedef int (*bcm_cosq_pfc_deadlock_recovery_event_cb_t)(int unit, bcm_port_t port,
-        bcm_cos_queue_t cosq, bcm_cosq_pfc_deadlock_recovery_event_t event, void *user_data);
+typedef int (*bcm_cosq_pfc_deadlock_recovery_event_cb_t)(
+    int unit, bcm_port_t port, bcm_cos_queue_t cosq, bcm_cosq_pfc_deadlock_recovery_event_t event,
+    void *user_data);
 
 OMBRA_END_DECLS

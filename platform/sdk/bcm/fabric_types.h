@@ -150,9 +150,9 @@ typedef int (*bcm_fabric_action_traverse_cb)(int unit, bcm_fabric_action_t actio
                                              bcm_fabric_action_info_t *info, void *user_data);
 
 /* Called for each pair of predicates and action. */
-typedef int (*bcm_fabric_predicate_action_traverse_cb)(int unit,
-        bcm_fabric_predicate_action_t predicate_action, bcm_fabric_predicate_action_info_t *info,
-        void *user_data);
+typedef int (*bcm_fabric_predicate_action_traverse_cb)(
+    int unit, bcm_fabric_predicate_action_t predicate_action,
+    bcm_fabric_predicate_action_info_t *info, void *user_data);
 
 /* Called for each queue selection table. */
 typedef int (*bcm_fabric_qsel_traverse_cb)(int unit, bcm_fabric_qsel_t qsel, uint32 flags,

@@ -229,12 +229,13 @@ typedef int (*bcm_switch_agm_traverse_cb)(int unit, bcm_switch_agm_info_t *agm_i
                                           void *user_data);
 
 /* Called for each match configuration. */
-typedef int (*bcm_switch_match_config_traverse_cb)(int unit, int match_id,
-        bcm_switch_match_config_info_t *match_config_info, void *user_data);
+typedef int (*bcm_switch_match_config_traverse_cb)(
+    int unit, int match_id, bcm_switch_match_config_info_t *match_config_info, void *user_data);
 
 /* Called for each match control. */
-typedef int (*bcm_switch_match_control_traverse_cb)(int unit, bcm_switch_match_control_type_t type,
-        int match_id, bcm_switch_match_control_info_t *match_control_info, void *user_data);
+typedef int (*bcm_switch_match_control_traverse_cb)(
+    int unit, bcm_switch_match_control_type_t type, int match_id,
+    bcm_switch_match_control_info_t *match_control_info, void *user_data);
 
 /* Called for each encapsulation. */
 typedef int (*bcm_switch_encap_traverse_cb)(int unit, int encap_id,

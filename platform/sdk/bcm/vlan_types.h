@@ -226,13 +226,10 @@ typedef int (*bcm_vlan_translate_action_traverse_cb)(int unit, bcm_gport_t port,
                                                      void *user_data);
 
 /* Called for each translation action of a range. */
-typedef int (*bcm_vlan_translate_action_range_traverse_cb)(int unit, bcm_gport_t port,
-                                                           bcm_vlan_t outer_vlan_low,
-                                                           bcm_vlan_t outer_vlan_high,
-                                                           bcm_vlan_t inner_vlan_low,
-                                                           bcm_vlan_t inner_vlan_high,
-                                                           bcm_vlan_action_set_t *action,
-                                                           void *user_data);
+typedef int (*bcm_vlan_translate_action_range_traverse_cb)(
+    int unit, bcm_gport_t port, bcm_vlan_t outer_vlan_low, bcm_vlan_t outer_vlan_high,
+    bcm_vlan_t inner_vlan_low, bcm_vlan_t inner_vlan_high, bcm_vlan_action_set_t *action,
+    void *user_data);
 
 /* Called for each translation action of an egress VLAN. */
 typedef int (*bcm_vlan_translate_egress_action_traverse_cb)(int unit, int port_class,

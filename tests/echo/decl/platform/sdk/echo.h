@@ -1,4 +1,5 @@
-/* Echo: one row for every kind and shape. Each notes what it got, and gives it back where it can. */
+/* Echo: one row for every kind and shape. Each notes what it got, and gives it back where it can.
+ */
 #pragma once
 #include "sdk/echo_types.h"
 

@@ -1,7 +1,7 @@
 /* Echo types: a structure with a field of every kind. */
 #pragma once
-#include "sdk/constants.h"
 #include "native/echo_values.h"
+#include "sdk/constants.h"
 
 #define ECHO_PAIRS 3
 
