@@ -11,6 +11,7 @@
 #include "helper/device.h"
 #include "sdk/bcm/field.h"
 #include "sdk/bcm/l2.h"
+#include "sdk/bcm/petra.h"
 #include "sdk/bcm/port.h"
 #include "sdk/bcm/vlan.h"
 #include "sdk/soc/init.h"
@@ -76,6 +77,41 @@ PyObject *floor_five(PyObject *, PyObject *args) {
     return PyInt_FromLong(bcm_field_action_add(unit, static_cast<bcm_field_entry_t>(entry),
                                                static_cast<bcm_field_action_t>(action), param0,
                                                param1));
+}
+
+PyObject *floor_nine(PyObject *, PyObject *args) {
+    PyObject *o[9] = {};
+    int n[7] = {};
+    unsigned char tags[2] = {};
+    if (!PyArg_UnpackTuple(args, const_cast<char *>("bcm_petra_tpid_profile_info_set"), 9, 9, &o[0],
+                           &o[1], &o[2], &o[3], &o[4], &o[5], &o[6], &o[7], &o[8]) ||
+        !floor_int(o[0], &n[0],
+                   "in method 'bcm_petra_tpid_profile_info_set', argument 1 of type 'int'") ||
+        !floor_int(o[1], &n[1],
+                   "in method 'bcm_petra_tpid_profile_info_set', argument 2 of type 'int'") ||
+        !floor_int(o[2], &n[2],
+                   "in method 'bcm_petra_tpid_profile_info_set', argument 3 of type 'int'") ||
+        !floor_int(o[3], &n[3],
+                   "in method 'bcm_petra_tpid_profile_info_set', argument 4 of type "
+                   "'_bcm_petra_tpid_profile_t'") ||
+        !floor_int(o[4], &n[4],
+                   "in method 'bcm_petra_tpid_profile_info_set', argument 5 of type 'int'") ||
+        !floor_int(o[5], &n[5],
+                   "in method 'bcm_petra_tpid_profile_info_set', argument 6 of type "
+                   "'_bcm_petra_dtag_mode_t'") ||
+        !floor_int(o[6], &n[6],
+                   "in method 'bcm_petra_tpid_profile_info_set', argument 7 of type "
+                   "'_bcm_petra_ac_key_map_type_t'") ||
+        !floor_byte(o[7], &tags[0],
+                    "in method 'bcm_petra_tpid_profile_info_set', argument 8 of type 'uint8'") ||
+        !floor_byte(o[8], &tags[1],
+                    "in method 'bcm_petra_tpid_profile_info_set', argument 9 of type 'uint8'")) {
+        return nullptr;
+    }
+    return PyInt_FromLong(bcm_petra_tpid_profile_info_set(
+        n[0], n[1], n[2], static_cast<_bcm_petra_tpid_profile_t>(n[3]), n[4],
+        static_cast<_bcm_petra_dtag_mode_t>(n[5]), static_cast<_bcm_petra_ac_key_map_type_t>(n[6]),
+        tags[0], tags[1]));
 }
 
 PyObject *floor_pointer(PyObject *, PyObject *args) {
@@ -197,6 +233,7 @@ PyMethodDef methods[] = {{"bind", floor_bind, METH_VARARGS, nullptr},
                          {"soc_init", floor_one, METH_VARARGS, nullptr},
                          {"bcm_port_speed_set", floor_three, METH_VARARGS, nullptr},
                          {"bcm_field_action_add", floor_five, METH_VARARGS, nullptr},
+                         {"bcm_petra_tpid_profile_info_set", floor_nine, METH_VARARGS, nullptr},
                          {"bcm_port_speed_get", floor_pointer, METH_VARARGS, nullptr},
                          {"bcm_field_show", floor_text, METH_VARARGS, nullptr},
                          {"bcm_field_group_create_id", floor_value, METH_VARARGS, nullptr},

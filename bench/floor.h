@@ -62,6 +62,18 @@ inline bool floor_unsigned(PyObject *object, unsigned *value, const char *text) 
     return true;
 }
 
+inline bool floor_byte(PyObject *object, unsigned char *value, const char *text) {
+    long wide = 0;
+    if (!floor_long(object, &wide, text)) {
+        return false;
+    }
+    if (wide < 0 || wide > UCHAR_MAX) {
+        return floor_raise(PyExc_OverflowError, text);
+    }
+    *value = static_cast<unsigned char>(wide);
+    return true;
+}
+
 inline bool floor_address(PyObject *object, swig_type_info *type, void **address,
                           const char *text) {
     if (Py_TYPE(object) == floor_types.object &&

@@ -25,22 +25,27 @@ CALLS_TABLE = [
      ('bcm_port_speed_set', '(0, 1, 1000)'), 1.05),
     ('5 integers', 'm.bcm_field_action_add(0, 5, 7, 1, 2)',
      ('bcm_field_action_add', '(0, 5, 7, 1, 2)'), 1.05),
+    ('9 integers', 'm.bcm_petra_tpid_profile_info_set(0, 1, 2, 3, 4, 5, 6, 7, 8)',
+     ('bcm_petra_tpid_profile_info_set', '(0, 1, 2, 3, 4, 5, 6, 7, 8)'), 1.05),
     ('pointer', 'm.bcm_port_speed_get(0, 1, box)',
      ('bcm_port_speed_get', '(0, 1, cbox)'), 1.05),
     ('text', 'm.bcm_field_show(0, "x")', ('bcm_field_show', '(0, "x")'), 1.05),
     ('by value', 'm.bcm_field_group_create_id(0, qset, 1, 2)', None, 1.05),
     ('MAC text', 'm.bcm_l2_addr_delete(0, "00:11:22:aa:bb:cc", 10)', None, 1.05),
     ('port lists, 0', 'm.bcm_vlan_port_add(0, 10, none, none)', None, 1.1),
+    ('port lists, 1', 'm.bcm_vlan_port_add(0, 10, one, one)', None, 1.1),
     ('port lists, 48', 'm.bcm_vlan_port_add(0, 10, some, some)', None, 1.1),
     ('port lists, 571', 'm.bcm_vlan_port_add(0, 10, every, every)', None, 1.1),
     ('get int field', 'm.bcm_l2_addr_t_port_get(entry)', None, 1.05),
     ('set int field', 'm.bcm_l2_addr_t_port_set(entry, 5)', None, 1.05),
     ('get MAC field', 'm.bcm_l2_addr_t_mac_get(entry)', None, 1.05),
     ('set MAC field', 'm.bcm_l2_addr_t_mac_set(entry, "00:11:22:aa:bb:cc")', None, 1.05),
+    ('get port list, 0', 'm.bcm_l2_addr_t_block_bitmap_get(entry)', None, 1.1),
     ('get port list, 1', 'm.bcm_l2_addr_t_block_bitmap_get(one_port)', None, 1.1),
     ('get port list, 48', 'm.bcm_l2_addr_t_block_bitmap_get(some_ports)', None, 1.1),
     ('get port list, 571', 'm.bcm_l2_addr_t_block_bitmap_get(every_port)', None, 1.1),
-    ('set port list, 48', 'm.bcm_l2_addr_t_block_bitmap_set(entry, some)', None, 1.1),
+    ('set port list, 1', 'm.bcm_l2_addr_t_block_bitmap_set(one_port, one)', None, 1.1),
+    ('set port list, 48', 'm.bcm_l2_addr_t_block_bitmap_set(some_ports, some)', None, 1.1),
 ]
 
 SETUP = '''
@@ -50,7 +55,7 @@ box = module.intp_cast(owner)
 cbox = ctypes.byref(ctypes.c_int())
 qset = module.new_bcm_field_qset_t()
 entry = module.new_bcm_l2_addr_t()
-none, some, every = [], range(48), range(571)
+none, one, some, every = [], [7], range(48), range(571)
 one_port, some_ports, every_port = [module.new_bcm_l2_addr_t() for i in range(3)]
 module.bcm_l2_addr_t_block_bitmap_set(one_port, [7])
 module.bcm_l2_addr_t_block_bitmap_set(some_ports, some)

@@ -54,32 +54,15 @@ std::string call_of(const Row &row, const Helper &helper) {
     return ends_with(row.name, "_value") ? "box_value<" + kind + ">" : "recast";
 }
 
-std::string texts_of(const Row &row) {
-    std::string literal;
-    for (std::size_t i = 0; i < row.arguments.size(); ++i) {
-        const RowArgument &argument = row.arguments[i];
-        literal += i == 0 ? "" : "\\0\"\n    ";
-        const std::string text = argument.null_text.empty() ? argument.text : argument.null_text;
-        literal += "\"" + text;
-    }
-    return literal.empty() ? "\"\"" : literal + "\"";
-}
-
 std::string row_text(const Row &row, const Helper &helper) {
     if (row.role == RowRole::registration) {
         return fill(kRegistration,
                     {{"entry", row.entry}, {"slot", std::to_string(row.result.slot)}});
     }
-    std::string slots;
-    for (std::size_t i = 0; i < 9; ++i) {
-        const bool given = i < row.arguments.size();
-        slots += (given ? std::to_string(row.arguments[i].conversion.slot) : "0") + ", ";
-    }
-    slots += std::to_string(row.result.result_slot);
     return fill(kRow, {{"name", row.name},
                        {"entry", row.entry},
                        {"texts", texts_of(row)},
-                       {"slots", slots},
+                       {"slots", slots_of(row, row.result.result_slot)},
                        {"call", call_of(row, helper)}});
 }
 

@@ -85,37 +85,6 @@ const std::string kProof =
 const std::string kFieldProof = R"(static_assert(offsetof(@class@, @field@) == @offset@);
 )";
 
-// All messages of a row, each ended by a zero byte; the literal's own ends the last.
-std::string texts_of(const Row &row) {
-    std::vector<std::string> texts;
-    for (const auto &argument : row.arguments) {
-        texts.push_back(argument.null_text.empty() ? argument.text : argument.null_text);
-    }
-    if (!row.field_null_text.empty()) {
-        texts.push_back(row.field_null_text);
-    }
-    std::string literal;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        literal += i == 0 ? "" : "\n    ";
-        literal += quoted(texts[i]);
-        if (i + 1 < texts.size()) {
-            literal.insert(literal.size() - 1, "\\0");
-        }
-    }
-    return literal.empty() ? "\"\"" : literal;
-}
-
-// Slots of the arguments and, in the last place, of the result.
-std::string slots_of(const Row &row, int result_slot) {
-    std::string slots;
-    for (std::size_t i = 0; i < 9; ++i) {
-        slots +=
-            (i < row.arguments.size() ? std::to_string(row.arguments[i].conversion.slot) : "0") +
-            std::string(", ");
-    }
-    return slots + std::to_string(result_slot);
-}
-
 std::string shape_of(const Row &row) {
     const bool body = row.function->hand_written == "body";
     std::string shape = (body ? "Object" : kind_class(row.result)) + "(";
@@ -232,6 +201,35 @@ std::string proof(const Struct &record) {
 }
 
 }  // namespace
+
+std::string texts_of(const Row &row) {
+    std::vector<std::string> texts;
+    for (const auto &argument : row.arguments) {
+        texts.push_back(argument.null_text.empty() ? argument.text : argument.null_text);
+    }
+    if (!row.field_null_text.empty()) {
+        texts.push_back(row.field_null_text);
+    }
+    std::string literal;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        literal += i == 0 ? "" : "\n    ";
+        literal += quoted(texts[i]);
+        if (i + 1 < texts.size()) {
+            literal.insert(literal.size() - 1, "\\0");
+        }
+    }
+    return literal.empty() ? "\"\"" : literal;
+}
+
+std::string slots_of(const Row &row, int result_slot) {
+    std::string slots;
+    for (std::size_t i = 0; i < 9; ++i) {
+        slots +=
+            (i < row.arguments.size() ? std::to_string(row.arguments[i].conversion.slot) : "0") +
+            std::string(", ");
+    }
+    return slots + std::to_string(result_slot);
+}
 
 std::string emit_shapes(const Model &model, unsigned part) {
     std::set<std::string> shapes;

@@ -66,6 +66,12 @@ std::vector<Row> helper_rows(const Model &model);
 // All rows but the runtime's own first one.
 std::vector<Row> all_rows(const Model &model);
 
+// What a row's record holds beside its name: all messages in one literal, each ended by a zero byte
+// (the literal's own ends the last), and the slots of the arguments and, in the last place, of the
+// result. In emit_rows.cpp.
+std::string texts_of(const Row &row);
+std::string slots_of(const Row &row, int result_slot);
+
 // The index of a type, by its mangled name. REQUIRES: the type exists.
 int slot_of(const Model &model, const std::string &mangled);
 

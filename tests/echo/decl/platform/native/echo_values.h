@@ -2,6 +2,7 @@
 #pragma once
 #include "native/base.h"
 #include "native/values.h"
+#include "sdk/constants.h"
 
 OMBRA_BEGIN_DECLS
 
