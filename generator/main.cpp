@@ -14,14 +14,14 @@
 #include <set>
 #include <vector>
 
-#include "generator/check.h"
-#include "generator/emitters.h"
-#include "generator/faults.h"
-#include "generator/output.h"
-#include "generator/read_catalogue.h"
-#include "generator/read_headers.h"
-#include "generator/resolve.h"
-#include "generator/rows.h"
+#include "generator/check/check.h"
+#include "generator/emit/emitters.h"
+#include "generator/model/faults.h"
+#include "generator/emit/output.h"
+#include "generator/read/read_catalogue.h"
+#include "generator/read/read_headers.h"
+#include "generator/check/resolve.h"
+#include "generator/check/rows.h"
 
 namespace generator {
 namespace {

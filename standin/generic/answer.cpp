@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "standin/chip/model.h"
-#include "standin/chip/switch.h"
-#include "standin/chip/tables.h"
+#include "standin/model/model.h"
+#include "standin/model/switch.h"
+#include "standin/model/tables.h"
 #include "standin/generic/selection.h"
 
 namespace standin {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "standin/generic/call.h"
-#include "standin/generic/tables.h"
+#include "standin/model/generic_tables.h"
 
 namespace standin {
 

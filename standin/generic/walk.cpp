@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "standin/chip/model.h"
-#include "standin/chip/switch.h"
+#include "standin/model/model.h"
+#include "standin/model/switch.h"
 #include "standin/generic/selection.h"
 
 namespace standin {

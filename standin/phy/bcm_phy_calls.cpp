@@ -2,7 +2,7 @@
 #include "sdk/bcm/port.h"
 #include "sdk/soc/phy.h"
 #include "sdk/soc/phyctrl.h"
-#include "standin/chip/faults.h"
+#include "standin/base/faults.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "sdk/soc/phy.h"
 #include "sdk/soc/phyctrl.h"
-#include "standin/chip/device_table.h"
+#include "standin/model/device_table.h"
 #include "standin/phy/accessors.h"
 #include "standin/phy/identity.h"
 

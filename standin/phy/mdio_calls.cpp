@@ -5,7 +5,7 @@
 #include "helper/mdio.h"
 #include "helper/mdio_cxx.h"
 #include "sdk/soc/phyctrl.h"
-#include "standin/chip/faults.h"
+#include "standin/base/faults.h"
 #include "standin/phy/accessors.h"
 #include "standin/phy/hooks.h"
 #include "standin/phy/phy.h"

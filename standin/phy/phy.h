@@ -13,8 +13,8 @@
 
 #include "native/values.h"
 #include "sdk/variables.h"
-#include "standin/chip/model.h"
-#include "standin/chip/switch.h"
+#include "standin/model/model.h"
+#include "standin/model/switch.h"
 
 namespace standin {
 

@@ -3,7 +3,7 @@
 
 #include "sdk/soc/phy.h"
 #include "sdk/soc/phyctrl.h"
-#include "standin/diag/text/mode_text.h"
+#include "standin/phy/mode_text.h"
 #include "standin/phy/phy.h"
 
 using namespace standin;
@@ -86,7 +86,7 @@ int give_ability(const char *function, int unit, soc_port_t port, soc_port_abili
     return on_phy(function, unit, port, [&](const PhyView &view) {
         if (out == nullptr) return BCM_E_PARAM;
         *out = soc_port_ability_t{};
-        diag::ability_words(mode(view.port), out->words);
+        ability_words(mode(view.port), out->words);
         return BCM_E_NONE;
     });
 }
@@ -95,7 +95,7 @@ int give_ability(const char *function, int unit, soc_port_t port, soc_port_abili
 int advertise(PhyView &view, std::uint32_t mode) {
     if ((mode & ~supported(view.port)) != 0) return BCM_E_CONFIG;
     view.port.advertised = {};
-    diag::ability_words(mode, view.port.advertised.words);
+    ability_words(mode, view.port.advertised.words);
     return BCM_E_NONE;
 }
 

@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "sdk/variables.h"
-#include "standin/chip/soc_control.h"
-#include "standin/diag/output.h"
-#include "standin/diag/text/number_text.h"
+#include "standin/model/soc_control.h"
+#include "standin/base/output.h"
+#include "standin/base/number_text.h"
 #include "standin/regs/words.h"
 
 namespace standin {
@@ -84,8 +84,8 @@ int run_access(const Unit &unit, const RegisterLayout &layout, const Instances &
 
 void watch(const char *what, int unit, Direction direction, const std::string &name,
            std::span<const std::uint32_t> value) {
-    diag::outf("u%d %s %s %s = %s\n", unit, what, direction == Direction::kWrite ? "write" : "read",
-               name.c_str(), diag::words_text(value).c_str());
+    outf("u%d %s %s %s = %s\n", unit, what, direction == Direction::kWrite ? "write" : "read",
+               name.c_str(), words_text(value).c_str());
 }
 
 void tell_observers(const Afterwards &after, const RegisterLayout &layout, int instance,

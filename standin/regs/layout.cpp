@@ -5,7 +5,7 @@
 #include <charconv>
 #include <map>
 
-#include "standin/chip/port_set.h"
+#include "standin/model/port_set.h"
 #include "standin/regs/bits.h"
 
 namespace standin {

@@ -30,6 +30,10 @@
 
 namespace standin {
 
+// Records that a list made by soc_regaddrlist_alloc has room for; parse_symbolic_reference never
+// fills in more.
+inline constexpr std::size_t kRegisterListRoom = 64;
+
 constexpr unsigned kWordBits = 32;
 constexpr unsigned kBlockShift = 25;
 constexpr std::uint32_t kOffsetMask = (1u << kBlockShift) - 1;

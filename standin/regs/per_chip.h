@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "sdk/variables.h"
-#include "standin/chip/device_table.h"
+#include "standin/model/device_table.h"
 
 namespace standin {
 

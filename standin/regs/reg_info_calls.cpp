@@ -2,10 +2,9 @@
 #include <array>
 
 #include "sdk/soc/reg.h"
-#include "standin/chip/loans.h"
-#include "standin/diag/text/number_text.h"
-#include "standin/diag/text/register_list.h"
-#include "standin/diag/text/scan.h"
+#include "standin/model/loans.h"
+#include "standin/base/number_text.h"
+#include "standin/base/scan.h"
 #include "standin/regs/access.h"
 #include "standin/regs/bits.h"
 
@@ -136,7 +135,7 @@ void soc_regaddrinfo_extended_get(int unit, soc_regaddrinfo_t *ainfo, soc_block_
 int soc_regaddrlist_alloc(soc_regaddrlist_t *addrlist) {
     if (const int fault = fault_check(__func__); fault != BCM_E_NONE) return fault;
     if (addrlist == nullptr) return BCM_E_PARAM;
-    constexpr std::size_t most = diag::kRegisterListRoom;
+    constexpr std::size_t most = kRegisterListRoom;
     addrlist->ainfo = new (std::nothrow) soc_regaddrinfo_t[most]();
     addrlist->count = 0;
     if (addrlist->ainfo == nullptr) return BCM_E_MEMORY;
@@ -148,7 +147,7 @@ int soc_regaddrlist_alloc(soc_regaddrlist_t *addrlist) {
 int soc_regaddrlist_free(soc_regaddrlist_t *addrlist) {
     if (const int fault = fault_check(__func__); fault != BCM_E_NONE) return fault;
     if (addrlist == nullptr) return BCM_E_PARAM;
-    const int status = take_back(addrlist->ainfo, static_cast<int>(diag::kRegisterListRoom));
+    const int status = take_back(addrlist->ainfo, static_cast<int>(kRegisterListRoom));
     if (status == BCM_E_NONE) *addrlist = {};
     return status;
 }
@@ -175,8 +174,8 @@ int soc_reg_iterate(int unit, soc_reg_iter_f do_it, void *data) {
 void soc_reg_sprint_addr(int, char *bp, soc_regaddrinfo_t *ainfo) {
     if (ainfo == nullptr) return;
     const RegisterLayout *const layout = described(ainfo);
-    diag::copy_text(bp, layout != nullptr ? register_text(*layout, ainfo->port, ainfo->idx)
-                                          : diag::text_of("0x%08x", ainfo->addr));
+    copy_text(bp, layout != nullptr ? register_text(*layout, ainfo->port, ainfo->idx)
+                                          : text_of("0x%08x", ainfo->addr));
 }
 
 // "MC_DB_TH=0x12,UC_DB_TH=0x0": the fields that lie in the first 32 bits, with `infix`, or '=',
@@ -189,9 +188,9 @@ void soc_reg_sprint_data(int, char *bp, char *infix, soc_reg_t reg, uint32 value
         if (!text.empty()) text += ',';
         text += field.name;
         text += infix == nullptr ? "=" : infix;
-        text += diag::text_of("0x%lx", get_bits({&value, 1}, field.first, field.bits));
+        text += text_of("0x%lx", get_bits({&value, 1}, field.first, field.bits));
     }
-    diag::copy_text(bp, text);
+    copy_text(bp, text);
 }
 
 // Leaves in `*mask` the bits that a test may write and expect back: none of a register that the

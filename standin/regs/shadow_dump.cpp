@@ -2,8 +2,8 @@
 #include <string>
 
 #include "helper/shadow.h"
-#include "standin/diag/output.h"
-#include "standin/diag/text/scan.h"
+#include "standin/base/output.h"
+#include "standin/base/scan.h"
 #include "standin/regs/bits.h"
 #include "standin/regs/dump_file.h"
 #include "standin/regs/words.h"
@@ -12,7 +12,7 @@ using namespace standin;
 
 namespace {
 
-std::string hex(std::uint32_t value) { return diag::text_of("0x%08x", value); }
+std::string hex(std::uint32_t value) { return text_of("0x%08x", value); }
 
 std::string shadow_text(const UnitState &state, const MemoryLayout &layout, int array) {
     if (!state.dynamic.contains({layout.id, array})) return "off";
@@ -21,12 +21,12 @@ std::string shadow_text(const UnitState &state, const MemoryLayout &layout, int 
 
 std::string memory_text(const Unit &unit) {
     const ShadowPolicy &policy = shadow_policy();
-    std::string text = diag::text_of("# unit %d: memories\n", unit.number);
-    text += diag::text_of("# PCI configuration shadow: %s\n", policy.pci_configured ? "on" : "off");
+    std::string text = text_of("# unit %d: memories\n", unit.number);
+    text += text_of("# PCI configuration shadow: %s\n", policy.pci_configured ? "on" : "off");
     if (!policy.constraints_file.empty()) {
         text += "# copy engine constraints: " + policy.constraints_file + '\n';
     }
-    diag::Table table({"Memory", ">Number", "Block", ">Array", "Base", ">Entries", ">Bits",
+    Table table({"Memory", ">Number", "Block", ">Array", "Base", ">Entries", ">Bits",
                        ">Copies", "Manager", "Shadow"});
     for (const MemoryLayout &layout : all_memories()) {
         for (int array = 0; array < layout.arrays; ++array) {
@@ -59,8 +59,8 @@ std::string parity_errors(const Unit &unit, const Block &block) {
 }
 
 std::string parity_text(const Unit &unit) {
-    std::string text = diag::text_of("# unit %d: parity and ECC\n", unit.number);
-    diag::Table table({"Memory", "Block", "Protection", ">Check bits", ">Block errors"});
+    std::string text = text_of("# unit %d: parity and ECC\n", unit.number);
+    Table table({"Memory", "Block", "Protection", ">Check bits", ">Block errors"});
     for (const MemoryLayout &layout : all_memories()) {
         // An entry of one word has a parity bit, a wider one 7 bits of ECC for each word.
         const bool ecc = layout.words() > 1;

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "helper/shadow.h"
-#include "standin/diag/output.h"
-#include "standin/diag/text/number_text.h"
-#include "standin/diag/text/scan.h"
+#include "standin/base/output.h"
+#include "standin/base/number_text.h"
+#include "standin/base/scan.h"
 #include "standin/regs/access.h"
 #include "standin/regs/dump_file.h"
 #include "standin/regs/words.h"
@@ -27,8 +27,8 @@ std::string element_text(const RegisterLayout &layout, int instance, int index) 
 std::string value_line(const RegisterLayout &layout, int instance, int index,
                        std::span<const std::uint32_t> value) {
     return element_text(layout, instance, index) +
-           diag::text_of(" (0x%08x) = ", element_address(layout, instance, index)) +
-           diag::words_text(value) + '\n';
+           text_of(" (0x%08x) = ", element_address(layout, instance, index)) +
+           words_text(value) + '\n';
 }
 
 // Holds one element against the hardware, and repairs the shadow if asked to. False: the hardware
@@ -106,13 +106,13 @@ std::uint32_t synchronise(const char *function, int unit, std::span<const Regist
 
 std::string sync_text(int unit, const SyncRecord &record) {
     std::string text =
-        diag::text_of("# unit %d: %u registers compared, %u different%s\n", unit, record.compared,
+        text_of("# unit %d: %u registers compared, %u different%s\n", unit, record.compared,
                       record.differing, record.repaired ? ", shadow repaired" : "");
-    diag::Table table({"Register", "Address", ">Word", ">Shadow", ">Hardware"});
+    Table table({"Register", "Address", ">Word", ">Shadow", ">Hardware"});
     for (const Difference &one : record.differences) {
         table.row({element_text(*one.layout, one.instance, one.index),
-                   diag::text_of("0x%08x", one.address), std::to_string(one.word),
-                   diag::text_of("0x%08x", one.shadow), diag::text_of("0x%08x", one.hardware)});
+                   text_of("0x%08x", one.address), std::to_string(one.word),
+                   text_of("0x%08x", one.shadow), text_of("0x%08x", one.hardware)});
     }
     return text + table.text();
 }
@@ -128,7 +128,7 @@ uint syncRegisters(uint unit, bool dumpRegistersDuringSync, bool syncWithHardwar
     std::string text;
     const std::uint32_t result = synchronise(__func__, unit_number(unit), all_registers(),
                                              {syncWithHardware, dumpRegistersDuringSync}, text);
-    diag::out(text);
+    out(text);
     return result;
 }
 
@@ -156,7 +156,7 @@ void printAllRegisters(uint unit) {
         });
         return BCM_E_NONE;
     });
-    diag::out(text);
+    out(text);
 }
 
 }  // extern "C"

@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "sdk/soc/reg_types.h"
-#include "standin/chip/device_table.h"
-#include "standin/chip/model.h"
+#include "standin/model/device_table.h"
+#include "standin/model/model.h"
 #include "standin/regs/layout.h"
 #include "toolkit/chip_memory.h"
 

@@ -1,6 +1,6 @@
 #include "standin/regs/words.h"
 
-#include "standin/diag/log.h"
+#include "standin/base/log.h"
 
 namespace standin {
 namespace {

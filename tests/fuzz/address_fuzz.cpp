@@ -1,9 +1,9 @@
 // Any bytes as addresses, global ports, ranges and blocks.
 #include "fuzz.h"
-#include "standin/diag/text/address_text.h"
-#include "standin/diag/text/block_text.h"
+#include "standin/text/address_text.h"
+#include "standin/text/block_text.h"
 
-using namespace standin::diag;
+using namespace standin;
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     std::string_view text = fuzz::text_of(data, size);

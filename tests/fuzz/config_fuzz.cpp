@@ -1,6 +1,6 @@
 // Any bytes as a configuration file.
 #include "fuzz.h"
-#include "standin/diag/config_file.h"
+#include "standin/base/config_file.h"
 
 using namespace standin;
 

@@ -1,9 +1,9 @@
 // Any bytes as names of constants, and as references to registers and memories.
 #include "fuzz.h"
-#include "standin/diag/text/identifier_text.h"
-#include "standin/diag/text/name_text.h"
+#include "standin/text/identifier_text.h"
+#include "standin/text/name_text.h"
 
-using namespace standin::diag;
+using namespace standin;
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     std::string_view text = fuzz::text_of(data, size);

@@ -2,9 +2,9 @@
 #include <array>
 
 #include "fuzz.h"
-#include "standin/diag/text/number_text.h"
+#include "standin/base/number_text.h"
 
-using namespace standin::diag;
+using namespace standin;
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     std::string_view text = fuzz::text_of(data, size);

@@ -1,10 +1,10 @@
 // Any bytes as ports: the first byte says with which names.
 #include "fuzz.h"
-#include "standin/diag/text/address_text.h"
-#include "standin/diag/text/mode_text.h"
-#include "standin/diag/text/port_text.h"
+#include "standin/text/address_text.h"
+#include "standin/phy/mode_text.h"
+#include "standin/text/port_text.h"
 
-using namespace standin::diag;
+using namespace standin;
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     static const PortNames named = {{0, "cpu0"}, {1, "xe1"},  {2, "xe2"},   {3, "xe3"},

@@ -1,8 +1,8 @@
 // Any bytes as a line of the shell.
 #include "fuzz.h"
-#include "standin/diag/shell/reader.h"
+#include "standin/shell/reader.h"
 
-using namespace standin::diag;
+using namespace standin;
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Array bounds as numbers.
 
-#include "generator/bounds.h"
+#include "generator/check/bounds.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,8 @@
 #!/bin/bash
-# Includes go one way: a folder may include the folders below it, and nothing above (the generator
-# is left out: its templates hold the includes of what it writes). Prints each
-# include that does not, and fails.
+# Includes go one way: a folder may include the folders below it, and nothing above. The rooms of
+# generator/ and standin/ stand in a row, and each sees itself and those before it (of the
+# generator's files only includes of its own count: the others are text that it writes). Prints each
+# include that does not go that way, and fails.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -13,18 +14,39 @@ declare -A may=(
     [device]="device|convert|runtime|$outside"
     [api]="api|classes|device|convert|runtime|generated|$outside"
     [platform]="$outside"
-    [standin]="standin|$outside"
     [python]="python|convert|runtime|generated|$outside"
 )
 
+# row ROOT ROOM...: what each room of ROOT may include, given the order of the rooms.
+row() {
+    local root=$1 room seen=''
+    shift
+    for room in "$@"; do
+        seen+="${seen:+|}$root/$room"
+        may[$root/$room]=$seen
+    done
+}
+declare -A only=()
+for room in model read check standin emit; do only[generator/$room]=generator/; done
+row generator model read check standin emit
+row standin base model pipeline generic chapters regs phy text shell
+for room in base model pipeline generic chapters regs phy text shell; do
+    may[standin/$room]+="|$outside"
+done
+may[standin/toolkit]="standin/toolkit|$outside"
+
 status=0
+for folder in generator/*/ standin/*/; do
+    [ -n "${may[${folder%/}]:-}" ] || { echo "$folder: has no place in the row" >&2; status=1; }
+done
 for folder in "${!may[@]}"; do
+    [ -d "$folder" ] || continue
     while IFS= read -r line; do
         # A file name alone is a neighbour in the same folder.
         if ! [[ $line =~ \#include\ \"(${may[$folder]})/ || $line =~ \#include\ \"[^/]*\" ]]; then
             echo "$line: '$folder/' may not include that" >&2
             status=1
         fi
-    done < <(grep -rnE '^#include "' --include='*.h' --include='*.cpp' --include='*.inc' "$folder")
+    done < <(grep -rnE "^#include \"${only[$folder]:-}" --include='*.h' --include='*.cpp' --include='*.inc' "$folder")
 done
 exit "$status"

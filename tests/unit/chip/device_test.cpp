@@ -6,7 +6,7 @@
 #include "sdk/bcm/vlan.h"
 #include "sdk/diag/appl.h"
 #include "sdk/variables.h"
-#include "standin/chip/soc_control.h"
+#include "standin/model/soc_control.h"
 
 namespace standin {
 namespace {

@@ -2,7 +2,7 @@
 #include "chip_fixture.h"
 #include "sdk/bcm/l2.h"
 #include "sdk/bcm/vlan.h"
-#include "standin/chip/faults.h"
+#include "standin/base/faults.h"
 
 namespace standin {
 namespace {

@@ -7,8 +7,8 @@
 #include "sdk/bcm/multicast.h"
 #include "sdk/bcm/policer.h"
 #include "sdk/bcm/trunk.h"
-#include "standin/chip/groups.h"
-#include "standin/chip/tables.h"
+#include "standin/model/groups.h"
+#include "standin/model/tables.h"
 
 namespace standin {
 namespace {

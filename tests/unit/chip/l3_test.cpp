@@ -5,8 +5,8 @@
 #include "chip_fixture.h"
 #include "sdk/bcm/ip.h"
 #include "sdk/bcm/l3.h"
-#include "standin/chip/l3.h"
-#include "standin/chip/tables.h"
+#include "standin/model/l3.h"
+#include "standin/model/tables.h"
 
 namespace standin {
 namespace {

@@ -3,7 +3,7 @@
 #include "sdk/bcm/port.h"
 #include "sdk/bcm/stg.h"
 #include "sdk/bcm/vlan.h"
-#include "standin/chip/tables.h"
+#include "standin/model/tables.h"
 
 namespace standin {
 namespace {

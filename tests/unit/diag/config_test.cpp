@@ -7,11 +7,11 @@
 #include "sdk/constants.h"
 #include "sdk/sal/config.h"
 #include "sdk/soc/property.h"
-#include "standin/diag/config_store.h"
-#include "standin/diag/log.h"
-#include "standin/diag/output.h"
+#include "standin/base/config_store.h"
+#include "standin/base/log.h"
+#include "standin/base/output.h"
 
-namespace standin::diag {
+namespace standin {
 namespace {
 
 class ConfigStore : public ::testing::Test {
@@ -299,4 +299,4 @@ TEST_F(ConfigStore, ServesSeveralThreads) {
 }
 
 }  // namespace
-}  // namespace standin::diag
+}  // namespace standin

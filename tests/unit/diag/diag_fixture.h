@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <string>
 
-#include "standin/diag/config_file.h"
+#include "standin/base/config_file.h"
 
-namespace standin::diag {
+namespace standin {
 
 // A directory of its own, gone at the end with the files in it that the test names.
 class Directory {
@@ -95,4 +95,4 @@ class Random {
     std::uint64_t state_ = 0x9e3779b97f4a7c15;
 };
 
-}  // namespace standin::diag
+}  // namespace standin

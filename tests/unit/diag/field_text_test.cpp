@@ -2,9 +2,9 @@
 #include "sdk/constants.h"
 #include "sdk/diag/format.h"
 #include "sdk/diag/parse.h"
-#include "standin/diag/text/name_text.h"
+#include "standin/text/name_text.h"
 
-namespace standin::diag {
+namespace standin {
 namespace {
 
 TEST(FieldText, EveryQualifierParsesBack) {
@@ -132,4 +132,4 @@ TEST(Identifiers, ListsAreWholeAndAscending) {
 }
 
 }  // namespace
-}  // namespace standin::diag
+}  // namespace standin

@@ -1,4 +1,4 @@
-#include "standin/diag/log.h"
+#include "standin/base/log.h"
 
 #include <fcntl.h>
 
@@ -7,10 +7,10 @@
 #include "helper/trace.h"
 #include "helper/trace_cxx.h"
 #include "sdk/bcm/debug.h"
-#include "standin/diag/config_store.h"
-#include "standin/diag/shell/session.h"
+#include "standin/base/config_store.h"
+#include "standin/shell/session.h"
 
-namespace standin::diag {
+namespace standin {
 namespace {
 
 class LogTest : public ::testing::Test {
@@ -176,4 +176,4 @@ TEST_F(LogTest, ShellCommandsAreTraced) {
 }
 
 }  // namespace
-}  // namespace standin::diag
+}  // namespace standin

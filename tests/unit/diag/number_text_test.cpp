@@ -1,11 +1,11 @@
-#include "standin/diag/text/number_text.h"
+#include "standin/base/number_text.h"
 
 #include "diag_fixture.h"
 #include "sdk/diag/format.h"
 #include "sdk/diag/parse.h"
 #include "sdk/diag/text.h"
 
-namespace standin::diag {
+namespace standin {
 namespace {
 
 TEST(NumberText, ReadsEveryForm) {
@@ -228,4 +228,4 @@ TEST(PacketBytes, RandomFillStaysInside) {
 }
 
 }  // namespace
-}  // namespace standin::diag
+}  // namespace standin

@@ -1,4 +1,4 @@
-#include "standin/diag/text/port_text.h"
+#include "standin/text/port_text.h"
 
 #include "diag_fixture.h"
 #include "sdk/constants.h"
@@ -6,13 +6,13 @@
 #include "sdk/diag/parse.h"
 #include "sdk/diag/text.h"
 #include "sdk/soc/reg.h"
-#include "standin/diag/output.h"
-#include "standin/diag/text/address_text.h"
-#include "standin/diag/text/block_text.h"
-#include "standin/diag/text/identifier_text.h"
-#include "standin/diag/text/mode_text.h"
+#include "standin/base/output.h"
+#include "standin/text/address_text.h"
+#include "standin/text/block_text.h"
+#include "standin/text/identifier_text.h"
+#include "standin/phy/mode_text.h"
 
-namespace standin::diag {
+namespace standin {
 namespace {
 
 constexpr int kNoUnit = 63;  // never attached here: ports have no names
@@ -387,4 +387,4 @@ TEST(ModeText, LongReachParsesBack) {
 }
 
 }  // namespace
-}  // namespace standin::diag
+}  // namespace standin

@@ -1,13 +1,13 @@
-#include "standin/diag/shell/reader.h"
+#include "standin/shell/reader.h"
 
 #include "diag_fixture.h"
 #include "sdk/constants.h"
 #include "sdk/diag/parse.h"
 #include "sdk/enums.h"
-#include "standin/diag/output.h"
-#include "standin/diag/shell/args.h"
+#include "standin/base/output.h"
+#include "standin/shell/args.h"
 
-namespace standin::diag {
+namespace standin {
 namespace {
 
 using List = std::vector<std::string>;
@@ -145,4 +145,4 @@ TEST(Arguments, WhatIsLeftOrBadIsUsage) {
 }
 
 }  // namespace
-}  // namespace standin::diag
+}  // namespace standin

@@ -12,14 +12,14 @@
 #include "sdk/diag/text.h"
 #include "sdk/soc/init.h"
 #include "sdk/variables.h"
-#include "standin/chip/hooks.h"
-#include "standin/diag/config_store.h"
-#include "standin/diag/output.h"
-#include "standin/diag/shell/interactive.h"
-#include "standin/diag/shell/interrupt.h"
-#include "standin/diag/text/unit_ports.h"
+#include "standin/chapters/hooks.h"
+#include "standin/base/config_store.h"
+#include "standin/base/output.h"
+#include "standin/shell/interactive.h"
+#include "standin/shell/interrupt.h"
+#include "standin/text/unit_ports.h"
 
-namespace standin::diag {
+namespace standin {
 namespace {
 
 // A process with one started switch, unit 0, and a fresh shell.
@@ -369,4 +369,4 @@ TEST_F(ShellTest, ConfiguresFromAFileChangesAndReloads) {
 }
 
 }  // namespace
-}  // namespace standin::diag
+}  // namespace standin

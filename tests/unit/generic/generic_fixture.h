@@ -9,7 +9,7 @@
 #include "sdk/constants.h"
 #include "sdk/sal/config.h"
 #include "sdk/soc/init.h"
-#include "standin/chip/hooks.h"
+#include "standin/chapters/hooks.h"
 
 constexpr int kNoUnit = 7;
 

@@ -8,13 +8,10 @@
 #include <string>
 
 #include "sdk/constants.h"
-#include "standin/diag/text/name_text.h"
+#include "standin/text/name_text.h"
 
 namespace standin {
 namespace {
-
-using diag::Identifier;
-using diag::identifiers;
 
 // Every identifier of the SDK has its row, and no row has a wrong number or name.
 template <class Layouts>

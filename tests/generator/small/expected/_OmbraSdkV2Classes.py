@@ -1,6 +1,6 @@
 """The classes and callbacks of the SDK, as tables.
 
-Made from all declarations by generator/emit_proxy.cpp. Do not edit.
+Made from all declarations by generator/emit/emit_proxy.cpp. Do not edit.
 """
 
 # Structures, each with a line "name: type" for every field.

@@ -1,4 +1,4 @@
-// Made from all declarations by generator/emit_companion.cpp. Do not edit.
+// Made from all declarations by generator/emit/emit_companion.cpp. Do not edit.
 #include "python/companion/element_of.h"
 
 #include "helper/tiny_cxx.h"

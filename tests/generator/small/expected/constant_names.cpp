@@ -1,5 +1,5 @@
-// Made from catalogue/constants.txt by generator/emit_tables.cpp. Do not edit.
-#include "standin/names.h"
+// Made from catalogue/constants.txt by generator/emit/emit_tables.cpp. Do not edit.
+#include "standin/text/names.h"
 
 const ConstantName standin_constants[] = {
     {"tinyFirst", 0},

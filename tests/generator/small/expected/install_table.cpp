@@ -1,4 +1,4 @@
-// Made from catalogue/constants.txt by generator/emit_tables.cpp. Do not edit.
+// Made from catalogue/constants.txt by generator/emit/emit_tables.cpp. Do not edit.
 #include "convert/variables.h"
 #include "api/install_table.h"
 #include "generated/type_slots.h"

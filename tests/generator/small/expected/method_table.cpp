@@ -1,4 +1,4 @@
-// Made from all declarations by generator/emit_tables.cpp. Do not edit.
+// Made from all declarations by generator/emit/emit_tables.cpp. Do not edit.
 #include "api/method_table.h"
 
 #include "generated/entries.h"

@@ -1,4 +1,4 @@
-// Made from platform/helper/tiny_cxx.h by generator/emit_recording.cpp. Do not edit.
+// Made from platform/helper/tiny_cxx.h by generator/emit/emit_recording.cpp. Do not edit.
 #include "helper/tiny_cxx.h"
 
 #include "tests/recording/record.h"

@@ -1,4 +1,4 @@
-// Made from platform/sdk/bcm/tiny.h by generator/emit_recording.cpp. Do not edit.
+// Made from platform/sdk/bcm/tiny.h by generator/emit/emit_recording.cpp. Do not edit.
 #include "sdk/bcm/tiny.h"
 
 #include "tests/recording/record.h"

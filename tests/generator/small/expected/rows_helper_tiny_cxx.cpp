@@ -1,4 +1,4 @@
-// Made from platform/helper/tiny_cxx.h by generator/emit_rows.cpp. Do not edit.
+// Made from platform/helper/tiny_cxx.h by generator/emit/emit_rows.cpp. Do not edit.
 #include "classes/accessor.h"
 #include "convert/append_frame.h"
 #include "convert/frame.h"

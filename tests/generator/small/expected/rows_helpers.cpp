@@ -1,4 +1,4 @@
-// Made from generator/rows.cpp by generator/emit_helpers.cpp. Do not edit.
+// Made from generator/check/rows.cpp by generator/emit/emit_helpers.cpp. Do not edit.
 #include "classes/boxes.h"
 #include "generated/entries.h"
 #include "runtime/client_data.h"

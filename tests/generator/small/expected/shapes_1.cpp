@@ -1,4 +1,4 @@
-// Made from all declarations by generator/emit_rows.cpp. Do not edit.
+// Made from all declarations by generator/emit/emit_rows.cpp. Do not edit.
 #include "convert/frame_body.h"
 
 namespace ombra {

@@ -1,4 +1,4 @@
-// Made from platform/sdk/bcm/tiny.h by generator/emit_standin.cpp. Do not edit.
+// Made from platform/sdk/bcm/tiny.h by generator/emit/emit_standin.cpp. Do not edit.
 #include "sdk/bcm/tiny.h"
 
 #include "standin/generic/call.h"

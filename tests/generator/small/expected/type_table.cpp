@@ -1,4 +1,4 @@
-// Made from catalogue/types.txt by generator/emit_tables.cpp. Do not edit.
+// Made from catalogue/types.txt by generator/emit/emit_tables.cpp. Do not edit.
 #include "runtime/type_table.h"
 
 // Every cast passes the pointer unchanged: a twin is the same memory under another name.

@@ -1,4 +1,4 @@
-// Made from catalogue/types.txt by generator/emit_tables.cpp. Do not edit.
+// Made from catalogue/types.txt by generator/emit/emit_tables.cpp. Do not edit.
 #pragma once
 
 namespace slots {

@@ -1,4 +1,4 @@
-// Made from catalogue/constants.txt by generator/emit_tables.cpp. Do not edit.
+// Made from catalogue/constants.txt by generator/emit/emit_tables.cpp. Do not edit.
 #pragma once
 
 #ifdef __cplusplus

@@ -1,0 +1,78 @@
+// The rows of the method table, with their texts: what the emitters of the wrappers, the method
+// table, the model export and the reference share.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "generator/model/model.h"
+
+namespace generator {
+
+enum class RowRole {
+    function,
+    getter,
+    setter,
+    constructor,
+    destructor,
+    registration,
+    box,   // _assign, _value, _cast, _frompointer
+    array  // new_, delete_, _getitem, _setitem of an array group
+};
+
+// One argument as Python passes it.
+struct RowArgument {
+    std::string name;       // "port"
+    std::string type;       // "bcm_port_t", as the message spells it
+    std::string text;       // "in method 'bcm_port_enable_get', argument 2 of type 'bcm_port_t'"
+    std::string null_text;  // "invalid null reference in ...", or empty where null passes
+    Conversion conversion;
+};
+
+struct Row {
+    RowRole role = RowRole::function;
+    std::string name;    // "bcm_port_enable_get"
+    std::string entry;   // "_wrap_bcm_port_enable_get"
+    std::string doc;     // "bcm_port_enable_get(unit, port, enable) -> int"; empty for none
+    std::string header;  // the file that declares it, or empty
+    std::vector<RowArgument> arguments;
+    std::string result_type;  // "int", empty for none
+    Conversion result;
+    std::string field_null_text;  // "invalid null reference in variable ...", setters of arrays
+    const Function *function = nullptr;
+    const Struct *record = nullptr;
+    const Variable *field = nullptr;
+};
+
+// A one-element box of Python's, or a counted array of native elements.
+struct Helper {
+    std::string name;      // "intp", "uint8Array"
+    std::string element;   // "int", as messages name it
+    std::string pointer;   // "int *", whose slot is the element's
+    Conversion value;      // of the element
+    int slot = 0;          // `_p_intp`, for a box
+    int element_slot = 0;  // `_p_int`
+};
+
+std::vector<Helper> boxes(const Model &model);
+std::vector<Helper> arrays(const Model &model);
+
+// The rows that one header gives, in the order of the method table.
+std::vector<Row> rows_of_header(const Model &model, const std::string &header);
+
+// The rows of boxes and arrays.
+std::vector<Row> helper_rows(const Model &model);
+
+// All rows but the runtime's own first one.
+std::vector<Row> all_rows(const Model &model);
+
+// What a row's record holds beside its name: all messages in one literal, each ended by a zero byte
+// (the literal's own ends the last), and the slots of the arguments and, in the last place, of the
+// result. In emit_rows.cpp.
+std::string texts_of(const Row &row);
+std::string slots_of(const Row &row, int result_slot);
+
+// The index of a type, by its mangled name. REQUIRES: the type exists.
+int slot_of(const Model &model, const std::string &mangled);
+
+}  // namespace generator

@@ -1,0 +1,331 @@
+#include <algorithm>
+#include <set>
+
+#include "generator/emit/emitters.h"
+#include "generator/emit/output.h"
+#include "generator/check/rows.h"
+
+namespace generator {
+namespace {
+
+const std::string kFile = R"(@banner@
+#include "classes/accessor.h"
+#include "convert/append_frame.h"
+#include "convert/frame.h"
+#include "generated/entries.h"
+#include "runtime/client_data.h"
+@hand@
+#include "@header@"
+
+using namespace ombra;
+
+@rows@)";
+
+const std::string kFunction = R"(// @doc@
+static constexpr CallRow row_@name@{
+    "@name@",
+    @texts@,
+    {@slots@}};
+PyObject *@entry@(PyObject *, PyObject *args) {
+    using Shape = @frame@<@shape@>;
+    return Shape::run(row_@name@, Shape::native(&@native@), args);
+}
+
+)";
+
+const std::string kEntry = R"(// @doc@
+static constexpr CallRow row_@name@{
+    "@name@",
+    @texts@,
+    {@slots@}};
+PyObject *@entry@(PyObject *, PyObject *args) {
+    return ombra::rows::@name@(row_@name@, args);
+}
+
+)";
+
+const std::string kField = R"(static constexpr FieldRow row_@name@{
+    {"@name@",
+     @texts@,
+     {@slots@}},
+    @offset@, @size@, @count@};
+PyObject *@entry@(PyObject *, PyObject *args) {
+    return @accessor@(row_@name@, args);
+}
+
+)";
+
+const std::string kConstructor = R"(static constexpr CallRow row_@name@{"@name@", "", {@slots@}};
+PyObject *@entry@(PyObject *, PyObject *args) {
+    return new_struct(row_@name@, args, @size@);
+}
+
+)";
+
+const std::string kDestructor = R"(static constexpr CallRow row_@name@{
+    "@name@",
+    @texts@,
+    {@slots@}};
+PyObject *@entry@(PyObject *, PyObject *args) {
+    return delete_struct(row_@name@, args);
+}
+
+)";
+
+const std::string kRegistration = R"(PyObject *@entry@(PyObject *, PyObject *args) {
+    return SWIG_Python_RegisterClass(swig_type_slots[@slot@], args);
+}
+
+)";
+
+const std::string kProof =
+    R"(static_assert(sizeof(@class@) == @size@ && alignof(@class@) == @align@);
+)";
+
+const std::string kFieldProof = R"(static_assert(offsetof(@class@, @field@) == @offset@);
+)";
+
+std::string shape_of(const Row &row) {
+    const bool body = row.function->hand_written == "body";
+    std::string shape = (body ? "Object" : kind_class(row.result)) + "(";
+    for (std::size_t i = 0; i < row.arguments.size(); ++i) {
+        shape += (i == 0 ? "" : ", ") + kind_class(row.arguments[i].conversion);
+    }
+    return shape + ")";
+}
+
+std::string function_text(const Row &row) {
+    const Function &function = *row.function;
+    std::string doc = row.doc;
+    std::replace(doc.begin(), doc.end(), '\n', ' ');
+    const bool body = function.hand_written == "body";
+    const std::string native = body                     ? "ombra::rows::" + row.name
+                               : function.module_native ? "::" + function.native
+                                                        : function.native;
+    return fill(function.hand_written == "entry" ? kEntry : kFunction,
+                {{"doc", doc},
+                 {"name", row.name},
+                 {"entry", row.entry},
+                 {"texts", texts_of(row)},
+                 {"slots", slots_of(row, row.result.result_slot)},
+                 {"frame", function.appended.empty() ? "Call" : "AppendCall"},
+                 {"shape", shape_of(row)},
+                 {"native", native}});
+}
+
+std::string getter_of(const Conversion &field) {
+    switch (field.kind) {
+        case Kind::text:
+            return "get_text";
+        case Kind::mac_string:
+            return "get_mac";
+        case Kind::fixed_array:
+        case Kind::nested_struct:
+            return "get_alias";
+        case Kind::pointer_field:
+        case Kind::function_pointer:
+            return "get_pointer";
+        case Kind::by_value:
+            return "get_copy";
+        default:
+            return "get_value<" + kind_class(field) + ">";
+    }
+}
+
+std::string setter_of(const Variable &field) {
+    switch (field.conversion.kind) {
+        case Kind::text:
+            return field.type == "char *" ? "set_text" : "set_constant_text";
+        case Kind::mac_string:
+            return "set_mac";
+        case Kind::fixed_array:
+            return "set_array";
+        case Kind::pointer_field:
+            return "set_pointer";
+        case Kind::nested_struct:
+        case Kind::by_value:
+            return "set_copy";
+        default:
+            return "set_value<" + kind_class(field.conversion) + ">";
+    }
+}
+
+std::string field_text(const Row &row) {
+    const Conversion &field = row.field->conversion;
+    const bool getter = row.role == RowRole::getter;
+    std::string slots = std::to_string(row.arguments[0].conversion.slot) + ", ";
+    slots += std::to_string(getter ? field.result_slot : field.slot);
+    return fill(kField, {{"name", row.name},
+                         {"entry", row.entry},
+                         {"texts", texts_of(row)},
+                         {"slots", slots},
+                         {"offset", std::to_string(row.field->offset)},
+                         {"size", std::to_string(field.size)},
+                         {"count", std::to_string(field.count)},
+                         {"accessor", getter ? getter_of(field) : setter_of(*row.field)}});
+}
+
+std::string row_text(const Row &row) {
+    const std::map<std::string, std::string> holes = {
+        {"name", row.name},
+        {"entry", row.entry},
+        {"texts", texts_of(row)},
+        {"slots", slots_of(row, row.record == nullptr ? 0 : row.record->slot)},
+        {"slot", row.record == nullptr ? "" : std::to_string(row.record->slot)},
+        {"size", row.record == nullptr ? "" : std::to_string(row.record->size)}};
+    switch (row.role) {
+        case RowRole::function:
+            return function_text(row);
+        case RowRole::getter:
+        case RowRole::setter:
+            return field_text(row);
+        case RowRole::constructor:
+            return fill(kConstructor, holes);
+        case RowRole::destructor:
+            return fill(kDestructor, holes);
+        default:
+            return fill(kRegistration, holes);
+    }
+}
+
+std::string proof(const Struct &record) {
+    std::string text = fill(kProof, {{"class", record.name},
+                                     {"size", std::to_string(record.size)},
+                                     {"align", std::to_string(record.align)}});
+    for (const auto &field : record.fields) {
+        text += fill(kFieldProof, {{"class", record.name},
+                                   {"field", field.name},
+                                   {"offset", std::to_string(field.offset)}});
+    }
+    return text + "\n";
+}
+
+}  // namespace
+
+std::string texts_of(const Row &row) {
+    std::vector<std::string> texts;
+    for (const auto &argument : row.arguments) {
+        texts.push_back(argument.null_text.empty() ? argument.text : argument.null_text);
+    }
+    if (!row.field_null_text.empty()) {
+        texts.push_back(row.field_null_text);
+    }
+    std::string literal;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        literal += i == 0 ? "" : "\n    ";
+        literal += quoted(texts[i]);
+        if (i + 1 < texts.size()) {
+            literal.insert(literal.size() - 1, "\\0");
+        }
+    }
+    return literal.empty() ? "\"\"" : literal;
+}
+
+std::string slots_of(const Row &row, int result_slot) {
+    std::string slots;
+    for (std::size_t i = 0; i < 9; ++i) {
+        slots +=
+            (i < row.arguments.size() ? std::to_string(row.arguments[i].conversion.slot) : "0") +
+            std::string(", ");
+    }
+    return slots + std::to_string(result_slot);
+}
+
+std::string emit_shapes(const Model &model, unsigned part) {
+    std::set<std::string> shapes;
+    for (const auto &row : all_rows(model)) {
+        if (row.function != nullptr && row.function->hand_written != "entry") {
+            shapes.insert((row.function->appended.empty() ? "Call<" : "AppendCall<") +
+                          shape_of(row) + ">");
+        }
+    }
+    std::string text = banner("all declarations", "emit_rows.cpp") +
+                       "\n#include \"convert/frame_body.h\"\n\nnamespace ombra {\n\n";
+    std::size_t index = 0;
+    for (const auto &shape : shapes) {
+        if (index++ % kShapeParts == part) {
+            text += "template struct " + shape + ";\n";
+        }
+    }
+    return text + "\n}  // namespace ombra\n";
+}
+
+std::string kind_class(const Conversion &conversion) {
+    switch (conversion.kind) {
+        case Kind::signed_8:
+            return "Int8";
+        case Kind::signed_16:
+            return "Int16";
+        case Kind::signed_32:
+            return "Int32";
+        case Kind::unsigned_8:
+            return "UInt8";
+        case Kind::unsigned_16:
+            return "UInt16";
+        case Kind::unsigned_32:
+            return "UInt32";
+        case Kind::unsigned_long:
+            return "ULong";
+        case Kind::unsigned_64:
+            return "UInt64";
+        case Kind::address_32:
+            return "Address32";
+        case Kind::strict_bool:
+            return "StrictBool";
+        case Kind::text:
+            return "Text";
+        case Kind::function_pointer:
+            return "FunctionPointer";
+        case Kind::reference:
+            return "Reference";
+        case Kind::port_bitmap:
+            return "PortList";
+        case Kind::mac_string:
+            return "MacText";
+        case Kind::object:
+            return "Object";
+        case Kind::nothing:
+            return "Void";
+        case Kind::by_value:
+            return "Value<" + std::to_string(conversion.size) + ", " +
+                   std::to_string(conversion.align) + ">";
+        default:
+            return "Pointer";
+    }
+}
+
+std::string rows_file(const std::string &header) {
+    const std::string root = "platform/";
+    std::string name = header.rfind(root, 0) == 0 ? header.substr(root.size()) : header;
+    name.erase(name.size() - 2);
+    std::replace(name.begin(), name.end(), '/', '_');
+    return "rows_" + name + ".cpp";
+}
+
+std::string banner(const std::string &source, const std::string &emitter) {
+    return "// Made from " + source + " by generator/emit/" + emitter + ". Do not edit.";
+}
+
+std::string emit_rows(const Model &model, const std::string &header) {
+    std::string text;
+    for (const auto &record : model.structs) {
+        if (record.place.file == header) {
+            text += proof(record);
+        }
+    }
+    for (const auto &row : rows_of_header(model, header)) {
+        text += row_text(row);
+    }
+    const bool hand =
+        std::any_of(model.functions.begin(), model.functions.end(), [&](const Function &function) {
+            return function.place.file == header && !function.hand_written.empty();
+        });
+    const std::string root = "platform/";
+    return fill(kFile,
+                {{"hand", hand ? "#include \"api/hand_rows.h\"\n" : ""},
+                 {"banner", banner(header, "emit_rows.cpp")},
+                 {"header", header.rfind(root, 0) == 0 ? header.substr(root.size()) : header},
+                 {"rows", text}});
+}
+
+}  // namespace generator

@@ -1,0 +1,176 @@
+// The calls of the MAC chapter that mean many entries at once. The deletes take dynamic entries
+// only, unless the static bit (0x20) is set in their flags.
+#include "sdk/bcm/l2.h"
+#include "standin/chapters/l2_select.h"
+
+using namespace standin;
+
+namespace {
+
+template <class Pick>
+int delete_picked(const char *function, int unit, std::uint32_t flags, Pick &&pick) {
+    return on_l2(function, unit, [&](L2Chapter &l2) {
+        erase_rows(l2, kL2Deleted, [&](const L2Row &row) {
+            return (!row.is_static() || (flags & kL2Static) != 0) && pick(row.entry);
+        });
+        return BCM_E_NONE;
+    });
+}
+
+bool has_mac(const bcm_l2_addr_t &entry, const bcm_mac_t mac) {
+    return mac != nullptr && l2_key(entry.mac, 0) == l2_key(mac, 0);
+}
+
+// A destination in the fields of an entry: a trunk if there is one, else a port of a module.
+bcm_l2_addr_t destination(bcm_module_t module, bcm_port_t port, bcm_trunk_t trunk) {
+    bcm_l2_addr_t entry{};
+    entry.modid = module;
+    entry.port = port;
+    if (trunk >= 0) {
+        entry.flags = kL2Trunk;
+        entry.tgid = trunk;
+    }
+    return entry;
+}
+
+void point_at(bcm_l2_addr_t &entry, const bcm_l2_addr_t &target) {
+    const std::uint32_t kinds = kL2BlackHole | kL2Trunk;
+    entry.flags = (entry.flags & ~kinds) | (target.flags & kinds);
+    entry.port = target.port;
+    entry.modid = target.modid;
+    entry.tgid = target.tgid;
+}
+
+template <class Change>
+int replace_matches(L2Chapter &l2, const L2Match &match, Change &&change) {
+    L2Table::Cursor cursor;
+    while (L2Row *const row = l2.table.next(cursor)) {
+        if (!match(row->entry)) continue;
+        l2.note(row->entry, kL2Deleted);
+        change(row->entry);
+        l2.note(row->entry, kL2Added);
+    }
+    return BCM_E_NONE;
+}
+
+int matched_walk(const char *function, int unit, std::uint32_t flags, const bcm_l2_addr_t *pattern,
+                 const bcm_l2_addr_t *mask, bcm_l2_traverse_cb visit, void *user_data) {
+    L2Match match{flags, {}, full_l2_mask()};
+    if (pattern != nullptr) match.pattern = *pattern;
+    if (mask != nullptr) match.mask = *mask;
+    const bool needs_pattern = (flags & (kMatchMac | kMatchVlan | kMatchDestination)) != 0;
+    const bool bad = visit == nullptr || (needs_pattern && pattern == nullptr) ||
+                     settle_destination(match.pattern) != BCM_E_NONE;
+    if (bad) return on_l2(function, unit, [](L2Chapter &) { return BCM_E_PARAM; });
+    return walk_l2(function, unit, match,
+                   [&](bcm_l2_addr_t &entry) { return visit(unit, &entry, user_data); });
+}
+
+}  // namespace
+
+extern "C" {
+
+int bcm_l2_addr_delete_by_mac(int unit, bcm_mac_t mac, uint32 flags) {
+    return delete_picked(__func__, unit, flags,
+                         [&](const bcm_l2_addr_t &entry) { return has_mac(entry, mac); });
+}
+
+int bcm_l2_addr_delete_by_mac_port(int unit, bcm_mac_t mac, bcm_module_t mod, bcm_port_t port,
+                                   uint32 flags) {
+    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
+        return has_mac(entry, mac) && points_at(entry, mod, port);
+    });
+}
+
+int bcm_l2_addr_delete_by_vlan(int unit, bcm_vlan_t vid, uint32 flags) {
+    return delete_picked(__func__, unit, flags,
+                         [&](const bcm_l2_addr_t &entry) { return entry.vid == vid; });
+}
+
+int bcm_l2_addr_delete_by_port(int unit, bcm_module_t mod, bcm_port_t port, uint32 flags) {
+    return delete_picked(__func__, unit, flags,
+                         [&](const bcm_l2_addr_t &entry) { return points_at(entry, mod, port); });
+}
+
+int bcm_l2_addr_delete_by_vlan_port(int unit, bcm_vlan_t vid, bcm_module_t mod, bcm_port_t port,
+                                    uint32 flags) {
+    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
+        return entry.vid == vid && points_at(entry, mod, port);
+    });
+}
+
+int bcm_l2_addr_delete_by_trunk(int unit, bcm_trunk_t tid, uint32 flags) {
+    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
+        return points_at(entry, 0, trunk_gport(tid));
+    });
+}
+
+int bcm_l2_addr_delete_by_vlan_trunk(int unit, bcm_vlan_t vid, bcm_trunk_t tid, uint32 flags) {
+    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
+        return entry.vid == vid && points_at(entry, 0, trunk_gport(tid));
+    });
+}
+
+// Each VLAN with the gport at the same place of the other array.
+int bcm_l2_addr_delete_by_vlan_gport_multi(int unit, uint32 flags, int count, bcm_vlan_t *vid_arr,
+                                           bcm_gport_t *gport_arr) {
+    if (count < 0 || (count > 0 && (vid_arr == nullptr || gport_arr == nullptr))) {
+        return on_l2(__func__, unit, [](L2Chapter &) { return BCM_E_PARAM; });
+    }
+    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
+        for (int i = 0; i < count; ++i) {
+            if (entry.vid == vid_arr[i] && points_at(entry, 0, gport_arr[i])) return true;
+        }
+        return false;
+    });
+}
+
+// No two addresses share a place in this table.
+int bcm_l2_conflict_get(int unit, bcm_l2_addr_t *addr, bcm_l2_addr_t *, int cf_max, int *cf_count) {
+    return on_l2(__func__, unit, [&](L2Chapter &) {
+        return addr == nullptr || cf_max < 0 ? BCM_E_PARAM : give(cf_count, 0);
+    });
+}
+
+int bcm_l2_replace(int unit, uint32 flags, bcm_l2_addr_t *match_addr, bcm_module_t new_module,
+                   bcm_port_t new_port, bcm_trunk_t new_trunk) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        bcm_l2_addr_t target = destination(new_module, new_port, new_trunk);
+        if (match_addr == nullptr) return BCM_E_PARAM;
+        L2Match match{flags, *match_addr, full_l2_mask()};
+        if (int status = settle_destination(target); status != BCM_E_NONE) return status;
+        if (int status = settle_destination(match.pattern); status != BCM_E_NONE) return status;
+        return replace_matches(l2, match, [&](bcm_l2_addr_t &entry) { point_at(entry, target); });
+    });
+}
+
+int bcm_l2_matched_traverse(int unit, uint32 flags, bcm_l2_addr_t *match_addr,
+                            bcm_l2_traverse_cb trav_fn, void *user_data) {
+    return matched_walk(__func__, unit, flags, match_addr, nullptr, trav_fn, user_data);
+}
+
+int bcm_l2_match_masked_traverse(int unit, uint32 flags, bcm_l2_addr_t *match_addr,
+                                 bcm_l2_addr_t *mask_addr, bcm_l2_traverse_cb trav_fn,
+                                 void *user_data) {
+    return matched_walk(__func__, unit, flags, match_addr, mask_addr, trav_fn, user_data);
+}
+
+int bcm_l2_replace_match(int unit, uint32 flags, bcm_l2_addr_t *match_addr,
+                         bcm_l2_addr_t *mask_addr, bcm_l2_addr_t *replace_addr,
+                         bcm_l2_addr_t *replace_mask_addr) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        if (match_addr == nullptr || replace_addr == nullptr) return BCM_E_PARAM;
+        // Only the destination can be replaced: address and VLAN are the key of a row.
+        if (replace_mask_addr != nullptr &&
+            (l2_key(replace_mask_addr->mac, replace_mask_addr->vid) != 0)) {
+            return BCM_E_UNAVAIL;
+        }
+        bcm_l2_addr_t target = *replace_addr;
+        L2Match match{flags, *match_addr, mask_addr != nullptr ? *mask_addr : full_l2_mask()};
+        if (int status = settle_destination(target); status != BCM_E_NONE) return status;
+        if (int status = settle_destination(match.pattern); status != BCM_E_NONE) return status;
+        return replace_matches(l2, match, [&](bcm_l2_addr_t &entry) { point_at(entry, target); });
+    });
+}
+
+}  // extern "C"

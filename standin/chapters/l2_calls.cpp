@@ -1,0 +1,295 @@
+// The calls of the MAC chapter that work on single entries, and its timers, limits and watchers.
+#include <algorithm>
+#include <cstring>
+
+#include "sdk/bcm/l2.h"
+#include "standin/chapters/hooks.h"
+#include "standin/chapters/l2_select.h"
+#include "standin/model/tables.h"
+
+using namespace standin;
+
+namespace {
+
+int put_entry(L2Chapter &l2, bcm_l2_addr_t entry, int event) {
+    if (!is_vlan(entry.vid)) return BCM_E_PARAM;
+    if (const int status = settle_destination(entry); status != BCM_E_NONE) return status;
+    L2Row *const row = l2.table.put(entry, table_capacity("l2", kL2Capacity));
+    if (row == nullptr) return BCM_E_FULL;
+    row->heard = l2.clock;
+    l2.note(entry, event);
+    return BCM_E_NONE;
+}
+
+int delete_entry(L2Chapter &l2, const bcm_mac_t mac, bcm_vlan_t vid) {
+    L2Row *const row = l2.table.find(mac, vid);
+    if (row == nullptr) return BCM_E_NOT_FOUND;
+    l2.note(row->entry, kL2Deleted);
+    l2.table.erase(*row);
+    return BCM_E_NONE;
+}
+
+int clear_all(L2Chapter &l2) {
+    erase_rows(l2, kL2Deleted, [](const L2Row &) { return true; });
+    return BCM_E_NONE;
+}
+
+// What a learn limit counts; a scope without a bit, or with two, is none.
+bool scope_of(const bcm_l2_learn_limit_t &limit, L2Scope &scope) {
+    scope.scope = limit.flags & (kLimitSystem | kLimitVlan | kLimitPort | kLimitTrunk);
+    switch (scope.scope) {
+        case kLimitSystem:
+            scope.number = 0;
+            return true;
+        case kLimitVlan:
+            scope.number = limit.vlan;
+            return is_vlan(limit.vlan);
+        case kLimitPort:
+            scope.number = local_port(limit.port);
+            return scope.number >= 0;
+        case kLimitTrunk:
+            scope.number = limit.trunk;
+            return limit.trunk >= 0;
+        default:
+            return false;
+    }
+}
+
+bool in_scope(const L2Scope &scope, const bcm_l2_addr_t &entry) {
+    const bool trunk = (entry.flags & kL2Trunk) != 0;
+    switch (scope.scope) {
+        case kLimitVlan:
+            return entry.vid == scope.number;
+        case kLimitPort:
+            return !trunk && entry.port == scope.number;
+        case kLimitTrunk:
+            return trunk && entry.tgid == scope.number;
+        default:
+            return true;
+    }
+}
+
+// Whether one more learned entry would pass a limit.
+bool limit_reached(L2Chapter &l2, const bcm_l2_addr_t &entry) {
+    if (!l2.limits_enabled) return false;
+    for (const auto &[scope, limit] : l2.limits) {
+        if (!in_scope(scope, entry)) continue;
+        int count = 0;
+        L2Table::Cursor cursor;
+        while (const L2Row *const row = l2.table.next(cursor)) {
+            if (!row->is_static() && in_scope(scope, row->entry)) ++count;
+        }
+        if (count >= limit) return true;
+    }
+    return false;
+}
+
+int learn(Switch &chip, const bcm_mac_t mac, bcm_vlan_t vid, int port) {
+    L2Chapter &l2 = chip.l2;
+    bcm_l2_addr_t entry{};
+    std::memcpy(entry.mac, mac, sizeof entry.mac);
+    entry.vid = vid;
+    entry.port = port;
+    if (const int status = settle_destination(entry); status != BCM_E_NONE) return status;
+    const Port *const source = chip.ports.find(entry.port);
+    if ((entry.flags & kL2Trunk) == 0 && source != nullptr && source->learn == 0) {
+        return BCM_E_DISABLED;
+    }
+    if (l2.freezes > 0) return BCM_E_DISABLED;
+    L2Row *const row = l2.table.find(mac, vid);
+    if (row != nullptr && row->is_static()) return BCM_E_DISABLED;
+    if (row != nullptr && std::memcmp(&row->entry, &entry, sizeof entry) == 0) {
+        row->heard = l2.clock;
+        return BCM_E_NONE;
+    }
+    if (row == nullptr && limit_reached(l2, entry)) return BCM_E_RESOURCE;
+    return put_entry(l2, entry, kL2Learned);
+}
+
+template <class One>
+int for_each_given(const bcm_l2_addr_t *entries, int count, One &&one) {
+    if (count < 0 || (entries == nullptr && count > 0)) return BCM_E_PARAM;
+    for (int i = 0; i < count; ++i) {
+        if (const int status = one(entries[i]); status != BCM_E_NONE) return status;
+    }
+    return BCM_E_NONE;
+}
+
+}  // namespace
+
+extern "C" {
+
+void bcm_l2_addr_t_init(bcm_l2_addr_t *l2addr, bcm_mac_t mac_addr, bcm_vlan_t vid) {
+    if (l2addr == nullptr) return;
+    *l2addr = bcm_l2_addr_t{};
+    if (mac_addr != nullptr) std::memcpy(l2addr->mac, mac_addr, sizeof l2addr->mac);
+    l2addr->vid = vid;
+}
+
+int bcm_l2_init(int unit) {
+    return on_watched_switch(__func__, unit, [](Switch &chip) {
+        L2Chapter &l2 = chip.l2;
+        clear_all(l2);
+        l2.limits.clear();
+        l2.limits_enabled = true;
+        l2.freezes = 0;
+        l2.age_seconds = 0;
+        forget_generic(chip, "bcm_l2_");
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_l2_clear(int unit) { return on_l2(__func__, unit, clear_all); }
+
+int bcm_l2_detach(int unit) {
+    return on_l2(__func__, unit, [](L2Chapter &l2) {
+        l2.watchers.clear();
+        return clear_all(l2);
+    });
+}
+
+int bcm_l2_addr_add(int unit, bcm_l2_addr_t *l2addr) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        return l2addr == nullptr ? BCM_E_PARAM : put_entry(l2, *l2addr, kL2Added);
+    });
+}
+
+int bcm_l2_addr_multi_add(int unit, bcm_l2_addr_t *addr, int count) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        return for_each_given(addr, count, [&](const bcm_l2_addr_t &entry) {
+            return put_entry(l2, entry, kL2Added);
+        });
+    });
+}
+
+int bcm_l2_addr_delete(int unit, bcm_mac_t mac, bcm_vlan_t vid) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        return mac == nullptr ? BCM_E_PARAM : delete_entry(l2, mac, vid);
+    });
+}
+
+int bcm_l2_addr_multi_delete(int unit, bcm_l2_addr_t *addr, int count) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        return for_each_given(addr, count, [&](const bcm_l2_addr_t &entry) {
+            return delete_entry(l2, entry.mac, entry.vid);
+        });
+    });
+}
+
+int bcm_l2_addr_get(int unit, bcm_mac_t mac_addr, bcm_vlan_t vid, bcm_l2_addr_t *l2addr) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        if (mac_addr == nullptr || l2addr == nullptr || !is_vlan(vid)) return BCM_E_PARAM;
+        const L2Row *const row = l2.table.find(mac_addr, vid);
+        return row == nullptr ? BCM_E_NOT_FOUND : give(l2addr, row->entry);
+    });
+}
+
+int bcm_l2_traverse(int unit, bcm_l2_traverse_cb trav_fn, void *user_data) {
+    if (trav_fn == nullptr) {
+        return on_l2(__func__, unit, [](L2Chapter &) { return BCM_E_PARAM; });
+    }
+    return walk_l2(__func__, unit, {kMatchStatic, {}, {}},
+                   [&](bcm_l2_addr_t &entry) { return trav_fn(unit, &entry, user_data); });
+}
+
+int bcm_l2_addr_freeze(int unit) {
+    return on_l2(__func__, unit, [](L2Chapter &l2) {
+        ++l2.freezes;
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_l2_addr_thaw(int unit) {
+    return on_l2(__func__, unit, [](L2Chapter &l2) {
+        if (l2.freezes == 0) return BCM_E_PARAM;
+        --l2.freezes;
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_l2_age_timer_set(int unit, int age_seconds) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        if (age_seconds < 0) return BCM_E_PARAM;
+        l2.age_seconds = age_seconds;
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_l2_age_timer_get(int unit, int *age_seconds) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) { return give(age_seconds, l2.age_seconds); });
+}
+
+int bcm_l2_addr_register(int unit, bcm_l2_addr_callback_t callback, void *userdata) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        if (callback == nullptr) return BCM_E_PARAM;
+        const L2Watcher watcher{callback, userdata};
+        if (std::ranges::find(l2.watchers, watcher) != l2.watchers.end()) return BCM_E_EXISTS;
+        l2.watchers.push_back(watcher);
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_l2_addr_unregister(int unit, bcm_l2_addr_callback_t callback, void *userdata) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        const auto count = std::erase(l2.watchers, L2Watcher{callback, userdata});
+        return count == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+    });
+}
+
+int bcm_l2_learn_limit_set(int unit, bcm_l2_learn_limit_t *limit) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        L2Scope scope;
+        if (limit == nullptr || limit->limit < -1 || !scope_of(*limit, scope)) return BCM_E_PARAM;
+        if (limit->limit < 0) {
+            l2.limits.erase(scope);
+        } else {
+            l2.limits[scope] = limit->limit;
+        }
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_l2_learn_limit_get(int unit, bcm_l2_learn_limit_t *limit) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        L2Scope scope;
+        if (limit == nullptr || !scope_of(*limit, scope)) return BCM_E_PARAM;
+        const auto found = l2.limits.find(scope);
+        limit->limit = found == l2.limits.end() ? -1 : found->second;
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_l2_learn_limit_enable(int unit) {
+    return on_l2(__func__, unit, [](L2Chapter &l2) {
+        l2.limits_enabled = true;
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_l2_learn_limit_disable(int unit) {
+    return on_l2(__func__, unit, [](L2Chapter &l2) {
+        l2.limits_enabled = false;
+        return BCM_E_NONE;
+    });
+}
+
+int standin_l2_learn(int unit, bcm_mac_t mac, bcm_vlan_t vid, int port) {
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+        return mac == nullptr ? BCM_E_PARAM : learn(chip, mac, vid, port);
+    });
+}
+
+int standin_l2_age(int unit, int seconds) {
+    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+        if (seconds < 0) return BCM_E_PARAM;
+        l2.clock += static_cast<std::uint64_t>(seconds);
+        if (l2.age_seconds == 0 || l2.freezes > 0) return BCM_E_NONE;
+        const auto limit = static_cast<std::uint64_t>(l2.age_seconds);
+        erase_rows(l2, kL2AgedOut, [&](const L2Row &row) {
+            return !row.is_static() && l2.clock - row.heard >= limit;
+        });
+        return BCM_E_NONE;
+    });
+}
+
+}  // extern "C"

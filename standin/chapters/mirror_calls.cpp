@@ -1,0 +1,185 @@
+// The calls of the mirror chapter on destinations and the ports that are copied to them.
+#include <algorithm>
+
+#include "sdk/bcm/mirror.h"
+#include "standin/model/loans.h"
+#include "standin/model/tables.h"
+
+using namespace standin;
+
+namespace {
+
+constexpr bcm_gport_t kFirst = kGportMirror << kGportTypeShift | 1;
+constexpr Numbering<bcm_gport_t> kNumbers{"mirror", kMirrorDestinations, kFirst,
+                                          kFirst + static_cast<int>(kMirrorDestinations) - 1};
+
+Mirrors &mirrors_of(Switch &chip) { return chip.groups.mirrors; }
+
+std::map<bcm_gport_t, bcm_mirror_destination_t> &destinations_of(Switch &chip) {
+    return mirrors_of(chip).destinations;
+}
+
+bool in_use(const Mirrors &mirrors, bcm_gport_t id) {
+    return std::ranges::any_of(mirrors.of_port, [&](const auto &one) {
+        return std::ranges::find(one.second, id) != one.second.end();
+    });
+}
+
+// The destinations of a port under some flags, made at need.
+template <class Body>
+int on_port_list(const char *function, int unit, bcm_port_t port, std::uint32_t flags,
+                 Body &&body) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        const int number = local_port(port);
+        if (number < 0) return BCM_E_PORT;
+        return body(mirrors_of(chip), mirrors_of(chip).of_port[{number, flags}]);
+    });
+}
+
+int mark(const char *function, int unit, bcm_port_t port, int enable, bcm_pbmp_t Mirrors::*side) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        const int number = local_port(port);
+        if (number < 0) return BCM_E_PORT;
+        if (!within(enable, 0, 1)) return BCM_E_PARAM;
+        bcm_pbmp_t &set = mirrors_of(chip).*side;
+        enable != 0 ? add_port(set, number) : remove_port(set, number);
+        return BCM_E_NONE;
+    });
+}
+
+int marked(const char *function, int unit, bcm_port_t port, int *enable,
+           bcm_pbmp_t Mirrors::*side) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        const int number = local_port(port);
+        return number < 0 ? BCM_E_PORT : give(enable, has_port(mirrors_of(chip).*side, number));
+    });
+}
+
+}  // namespace
+
+extern "C" {
+
+int bcm_mirror_init(int unit) {
+    return on_switch(__func__, unit, [](Switch &chip) {
+        mirrors_of(chip) = Mirrors{};
+        forget_generic(chip, "bcm_mirror_");
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_mirror_mode_set(int unit, int mode) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        if (!within(mode, 0, 2)) return BCM_E_PARAM;
+        mirrors_of(chip).mode = mode;
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_mirror_mode_get(int unit, int *mode) {
+    return on_switch(__func__, unit,
+                     [&](Switch &chip) { return give(mode, mirrors_of(chip).mode); });
+}
+
+// -1 takes the port away again.
+int bcm_mirror_to_set(int unit, bcm_port_t port) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        const int number = local_port(port);
+        if (number < 0 && port != -1) return BCM_E_PORT;
+        mirrors_of(chip).to = number;
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_mirror_to_get(int unit, bcm_port_t *port) {
+    return on_switch(__func__, unit, [&](Switch &chip) { return give(port, mirrors_of(chip).to); });
+}
+
+int bcm_mirror_ingress_set(int unit, bcm_port_t port, int enable) {
+    return mark(__func__, unit, port, enable, &Mirrors::ingress);
+}
+
+int bcm_mirror_ingress_get(int unit, bcm_port_t port, int *enable) {
+    return marked(__func__, unit, port, enable, &Mirrors::ingress);
+}
+
+int bcm_mirror_egress_set(int unit, bcm_port_t port, int enable) {
+    return mark(__func__, unit, port, enable, &Mirrors::egress);
+}
+
+int bcm_mirror_egress_get(int unit, bcm_port_t port, int *enable) {
+    return marked(__func__, unit, port, enable, &Mirrors::egress);
+}
+
+// The id goes into the caller's structure, or comes from it.
+int bcm_mirror_destination_create(int unit, bcm_mirror_destination_t *mirror_dest) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        if (mirror_dest == nullptr) return BCM_E_PARAM;
+        int status = BCM_E_NONE;
+        const bool given = (mirror_dest->flags & kWithId) != 0;
+        auto *const made =
+            new_entry(destinations_of(chip), kNumbers, given, &mirror_dest->mirror_dest_id, status);
+        if (made != nullptr) *made = *mirror_dest;
+        return status;
+    });
+}
+
+int bcm_mirror_destination_get(int unit, bcm_gport_t mirror_dest_id,
+                               bcm_mirror_destination_t *mirror_dest) {
+    return on_entry(__func__, unit, destinations_of, mirror_dest_id,
+                    [&](const bcm_mirror_destination_t &one) { return give(mirror_dest, one); });
+}
+
+int bcm_mirror_destination_destroy(int unit, bcm_gport_t mirror_dest_id) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        if (in_use(mirrors_of(chip), mirror_dest_id)) return BCM_E_BUSY;
+        return destinations_of(chip).erase(mirror_dest_id) == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+    });
+}
+
+int bcm_mirror_destination_traverse(int unit, bcm_mirror_destination_traverse_cb cb,
+                                    void *user_data) {
+    if (cb == nullptr) return refuse(__func__, unit);
+    return walk(__func__, unit, destinations_of, [&](bcm_gport_t, bcm_mirror_destination_t &one) {
+        return cb(unit, &one, user_data);
+    });
+}
+
+int bcm_mirror_port_dest_add(int unit, bcm_port_t port, uint32 flags, bcm_gport_t mirror_dest_id) {
+    return on_port_list(__func__, unit, port, flags,
+                        [&](Mirrors &mirrors, std::vector<bcm_gport_t> &list) {
+                            if (!mirrors.destinations.contains(mirror_dest_id)) {
+                                return BCM_E_NOT_FOUND;
+                            }
+                            if (std::ranges::find(list, mirror_dest_id) != list.end()) {
+                                return BCM_E_EXISTS;
+                            }
+                            list.push_back(mirror_dest_id);
+                            return BCM_E_NONE;
+                        });
+}
+
+int bcm_mirror_port_dest_get(int unit, bcm_port_t port, uint32 flags, int mirror_dest_size,
+                             bcm_gport_t *mirror_dest, int *mirror_dest_count) {
+    return on_port_list(
+        __func__, unit, port, flags, [&](Mirrors &, const std::vector<bcm_gport_t> &list) {
+            return give_array(list, mirror_dest_size, mirror_dest, mirror_dest_count);
+        });
+}
+
+int bcm_mirror_port_dest_delete(int unit, bcm_port_t port, uint32 flags,
+                                bcm_gport_t mirror_dest_id) {
+    return on_port_list(__func__, unit, port, flags,
+                        [&](Mirrors &, std::vector<bcm_gport_t> &list) {
+                            const auto gone = std::erase(list, mirror_dest_id);
+                            return gone == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+                        });
+}
+
+int bcm_mirror_port_dest_delete_all(int unit, bcm_port_t port, uint32 flags) {
+    return on_port_list(__func__, unit, port, flags, [](Mirrors &, std::vector<bcm_gport_t> &list) {
+        list.clear();
+        return BCM_E_NONE;
+    });
+}
+
+}  // extern "C"

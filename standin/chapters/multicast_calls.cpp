@@ -1,0 +1,215 @@
+// The calls of the multicast chapter on groups and their plain members.
+#include <algorithm>
+
+#include "sdk/bcm/multicast.h"
+#include "standin/model/loans.h"
+#include "standin/model/tables.h"
+
+using namespace standin;
+
+namespace {
+
+using Members = std::vector<MulticastGroup::Member>;
+
+constexpr Numbering<bcm_multicast_t> kNumbers{"multicast", kMulticastGroups, 1,
+                                              static_cast<int>(kMulticastGroups)};
+
+std::map<bcm_multicast_t, MulticastGroup> &groups_of(Switch &chip) { return chip.groups.multicast; }
+
+template <class Body>
+int on_members(const char *function, int unit, bcm_multicast_t group, Members MulticastGroup::*side,
+               Body &&body) {
+    return on_entry(function, unit, groups_of, group,
+                    [&](MulticastGroup &one) { return body(one.*side); });
+}
+
+int add_member(Members &members, bcm_gport_t port, bcm_if_t encap_id) {
+    if (gport_type(port) <= kGportLocal && local_port(port) < 0) return BCM_E_PORT;
+    const MulticastGroup::Member member{port, encap_id};
+    if (std::ranges::find(members, member) != members.end()) return BCM_E_EXISTS;
+    members.push_back(member);
+    return BCM_E_NONE;
+}
+
+int delete_member(Members &members, bcm_gport_t port, bcm_if_t encap_id) {
+    return std::erase(members, MulticastGroup::Member{port, encap_id}) == 0 ? BCM_E_NOT_FOUND
+                                                                            : BCM_E_NONE;
+}
+
+// All or nothing.
+int set_members(Members &members, int count, const bcm_gport_t *ports, const bcm_if_t *encaps) {
+    if (count < 0 || (count > 0 && (ports == nullptr || encaps == nullptr))) return BCM_E_PARAM;
+    Members made;
+    for (int i = 0; i < count; ++i) {
+        const int status = add_member(made, ports[i], encaps[i]);
+        if (status != BCM_E_NONE) return status;
+    }
+    members.swap(made);
+    return BCM_E_NONE;
+}
+
+int get_members(const Members &members, int max, bcm_gport_t *ports, bcm_if_t *encaps, int *count) {
+    std::vector<bcm_gport_t> all_ports;
+    std::vector<bcm_if_t> all_encaps;
+    for (const auto &[port, encap] : members) {
+        all_ports.push_back(port);
+        all_encaps.push_back(encap);
+    }
+    const int status = give_array(all_ports, max, ports, count);
+    return status != BCM_E_NONE ? status : give_array(all_encaps, max, encaps, count);
+}
+
+using ChangeOne = int(Members &, bcm_gport_t, bcm_if_t);
+
+int change(Members &members, int count, const bcm_multicast_replication_t *list, ChangeOne *one) {
+    if (count < 0 || (count > 0 && list == nullptr)) return BCM_E_PARAM;
+    for (int i = 0; i < count; ++i) {
+        const int status = one(members, list[i].port, list[i].encap1);
+        if (status != BCM_E_NONE) return status;
+    }
+    return BCM_E_NONE;
+}
+
+int on_replications(const char *function, int unit, bcm_multicast_t group, int count,
+                    const bcm_multicast_replication_t *list, ChangeOne *one) {
+    return on_members(function, unit, group, &MulticastGroup::egress,
+                      [&](Members &all) { return change(all, count, list, one); });
+}
+
+int clear_groups(const char *function, int unit) {
+    return on_switch(function, unit, [](Switch &chip) {
+        groups_of(chip).clear();
+        forget_generic(chip, "bcm_multicast_");
+        return BCM_E_NONE;
+    });
+}
+
+}  // namespace
+
+extern "C" {
+
+int bcm_multicast_init(int unit) { return clear_groups(__func__, unit); }
+int bcm_multicast_detach(int unit) { return clear_groups(__func__, unit); }
+
+int bcm_multicast_create(int unit, uint32 flags, bcm_multicast_t *group) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        int status = BCM_E_NONE;
+        const bool given = (flags & kWithId) != 0;
+        MulticastGroup *const made = new_entry(groups_of(chip), kNumbers, given, group, status);
+        if (made != nullptr) made->flags = flags & ~kWithId;
+        return status;
+    });
+}
+
+int bcm_multicast_destroy(int unit, bcm_multicast_t group) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        return groups_of(chip).erase(group) == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+    });
+}
+
+int bcm_multicast_group_get(int unit, bcm_multicast_t group, uint32 *flags) {
+    return on_entry(__func__, unit, groups_of, group,
+                    [&](const MulticastGroup &one) { return give(flags, one.flags); });
+}
+
+// BCM_E_EXISTS for a number in use.
+int bcm_multicast_group_is_free(int unit, bcm_multicast_t group) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        if (!within(group, kNumbers.first, kNumbers.last)) return BCM_E_PARAM;
+        return groups_of(chip).contains(group) ? BCM_E_EXISTS : BCM_E_NONE;
+    });
+}
+
+int bcm_multicast_group_traverse(int unit, bcm_multicast_group_traverse_cb_t trav_fn, uint32 flags,
+                                 void *user_data) {
+    if (trav_fn == nullptr) return refuse(__func__, unit);
+    return walk(__func__, unit, groups_of, [&](bcm_multicast_t group, const MulticastGroup &one) {
+        if ((one.flags & flags) != flags) return 0;
+        return trav_fn(unit, group, one.flags, user_data);
+    });
+}
+
+// The calls of one side: `egress` and `ingress` have the same ones.
+#define MEMBER_CALLS(side)                                                                        \
+    int bcm_multicast_##side##_add(int unit, bcm_multicast_t group, bcm_gport_t port,             \
+                                   bcm_if_t encap_id) {                                           \
+        return on_members(__func__, unit, group, &MulticastGroup::side,                           \
+                          [&](Members &all) { return add_member(all, port, encap_id); });         \
+    }                                                                                             \
+    int bcm_multicast_##side##_delete(int unit, bcm_multicast_t group, bcm_gport_t port,          \
+                                      bcm_if_t encap_id) {                                        \
+        return on_members(__func__, unit, group, &MulticastGroup::side,                           \
+                          [&](Members &all) { return delete_member(all, port, encap_id); });      \
+    }                                                                                             \
+    int bcm_multicast_##side##_delete_all(int unit, bcm_multicast_t group) {                      \
+        return on_members(__func__, unit, group, &MulticastGroup::side, [](Members &all) {        \
+            all.clear();                                                                          \
+            return BCM_E_NONE;                                                                    \
+        });                                                                                       \
+    }                                                                                             \
+    int bcm_multicast_##side##_set(int unit, bcm_multicast_t group, int port_count,               \
+                                   bcm_gport_t *port_array, bcm_if_t *encap_id_array) {           \
+        return on_members(__func__, unit, group, &MulticastGroup::side, [&](Members &all) {       \
+            return set_members(all, port_count, port_array, encap_id_array);                      \
+        });                                                                                       \
+    }                                                                                             \
+    int bcm_multicast_##side##_get(int unit, bcm_multicast_t group, int port_max,                 \
+                                   bcm_gport_t *port_array, bcm_if_t *encap_id_array,             \
+                                   int *port_count) {                                             \
+        return on_members(__func__, unit, group, &MulticastGroup::side, [&](const Members &all) { \
+            return get_members(all, port_max, port_array, encap_id_array, port_count);            \
+        });                                                                                       \
+    }
+
+MEMBER_CALLS(egress)
+MEMBER_CALLS(ingress)
+#undef MEMBER_CALLS
+
+// Replications are the egress members in another form; the second encapsulation is not kept.
+int bcm_multicast_add(int unit, bcm_multicast_t group, uint32, int rep_count,
+                      bcm_multicast_replication_t *rep_array) {
+    return on_replications(__func__, unit, group, rep_count, rep_array, add_member);
+}
+
+int bcm_multicast_delete(int unit, bcm_multicast_t group, uint32, int rep_count,
+                         bcm_multicast_replication_t *rep_array) {
+    return on_replications(__func__, unit, group, rep_count, rep_array, delete_member);
+}
+
+int bcm_multicast_set(int unit, bcm_multicast_t group, uint32, int rep_count,
+                      bcm_multicast_replication_t *rep_array) {
+    return on_members(__func__, unit, group, &MulticastGroup::egress, [&](Members &all) {
+        Members made;
+        const int status = change(made, rep_count, rep_array, add_member);
+        if (status == BCM_E_NONE) all.swap(made);
+        return status;
+    });
+}
+
+int bcm_multicast_get(int unit, bcm_multicast_t group, uint32, int rep_max,
+                      bcm_multicast_replication_t *rep_array, int *rep_count) {
+    return on_members(__func__, unit, group, &MulticastGroup::egress, [&](const Members &all) {
+        std::vector<bcm_multicast_replication_t> list;
+        for (const auto &[port, encap] : all) list.push_back({0, port, encap, 0});
+        return give_array(list, rep_max, rep_array, rep_count);
+    });
+}
+
+// The encapsulation of a member that leaves in a VLAN is the VLAN, of a routed one its interface.
+int bcm_multicast_l2_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_vlan_t vid,
+                               bcm_if_t *encap_id) {
+    return on_entry(__func__, unit, groups_of, group, [&](MulticastGroup &) {
+        if (gport_type(port) <= kGportLocal && local_port(port) < 0) return BCM_E_PORT;
+        return is_vlan(vid) ? give(encap_id, vid) : BCM_E_PARAM;
+    });
+}
+
+int bcm_multicast_l3_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t intf,
+                               bcm_if_t *encap_id) {
+    return on_entry(__func__, unit, groups_of, group, [&](MulticastGroup &) {
+        if (gport_type(port) <= kGportLocal && local_port(port) < 0) return BCM_E_PORT;
+        return intf > 0 ? give(encap_id, intf) : BCM_E_PARAM;
+    });
+}
+
+}  // extern "C"

@@ -1,0 +1,180 @@
+// The calls that tell which ports a switch has, and how they are wired and named.
+#include <algorithm>
+
+#include "sdk/bcm/port.h"
+#include "standin/chapters/hooks.h"
+#include "standin/chapters/port_access.h"
+#include "standin/model/tables.h"
+
+using namespace standin;
+
+namespace {
+
+bool good_settings(const bcm_port_info_t &info) {
+    return within(info.enable, 0, 1) && within(info.autoneg, 0, 1) && within(info.duplex, 0, 1) &&
+           within(info.discard, 0, BCM_PORT_DISCARD_COUNT - 1) && info.vlanfilter <= 1 &&
+           within(info.untagged_priority, -1, 7) && is_vlan(info.untagged_vlan) &&
+           within(info.loopback, 0, BCM_PORT_LOOPBACK_COUNT - 1) && within(info.pause_tx, 0, 1) &&
+           within(info.pause_rx, 0, 1) && within(info.frame_max, kSmallestFrame, kLargestFrame);
+}
+
+}  // namespace
+
+extern "C" {
+
+int bcm_port_init(int unit) {
+    return on_switch(__func__, unit, [](Switch &chip) {
+        chip.ports = Ports{};
+        forget_generic(chip, "bcm_port_");
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_port_clear(int unit) {
+    return on_switch(__func__, unit, [](Switch &chip) {
+        chip.ports = Ports{};
+        forget_generic(chip, "bcm_port_");
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_port_config_get(int unit, bcm_port_config_t *config) {
+    return on_switch(__func__, unit, [&](Switch &) {
+        if (config == nullptr) return BCM_E_PARAM;
+        *config = bcm_port_config_t{};
+        config->xe = port_range(1, kLastSmallPort);
+        config->ce = port_range(kLastSmallPort + 1, kFrontPorts);
+        config->e = config->port = config->nif = kFrontPortSet;
+        config->cpu = port_range(kCpuPort, kCpuPort);
+        config->all = kAllPorts;
+        config->per_pipe[0] = port_range(1, kFrontPorts / 2);
+        config->per_pipe[1] = port_range(kFrontPorts / 2 + 1, kFrontPorts);
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_port_get(int unit, bcm_port_t port, uint32 *flags,
+                 bcm_port_interface_info_t *interface_info, bcm_port_mapping_info_t *mapping_info) {
+    return on_switch(__func__, unit, [&](Switch &) {
+        const int number = local_port(port);
+        if (number < 0) return BCM_E_PORT;
+        if (flags == nullptr || interface_info == nullptr || mapping_info == nullptr) {
+            return BCM_E_PARAM;
+        }
+        *flags = 0;
+        *interface_info = bcm_port_interface_info_t{};
+        interface_info->phy_port = static_cast<uint32>(number);
+        interface_info->num_lanes = is_large(number) ? 4 : 1;
+        add_port(interface_info->phy_pbmp, number);
+        *mapping_info = bcm_port_mapping_info_t{};
+        mapping_info->core = core_of(number);
+        mapping_info->tm_port = static_cast<uint32>(number);
+        mapping_info->num_priorities = 8;
+        return BCM_E_NONE;
+    });
+}
+
+int bcm_port_gport_get(int unit, bcm_port_t port, bcm_gport_t *gport) {
+    return on_switch(__func__, unit, [&](Switch &) {
+        const int number = local_port(port);
+        return number < 0 ? BCM_E_PORT : give(gport, local_gport(number));
+    });
+}
+
+int bcm_port_local_get(int unit, bcm_gport_t gport, bcm_port_t *local_port_out) {
+    return on_switch(__func__, unit, [&](Switch &) {
+        const int number = local_port(gport);
+        return number < 0 ? BCM_E_PORT : give(local_port_out, number);
+    });
+}
+
+// "xe7"; null for a port or unit that is not there. The text lives as long as the chip does.
+char *bcm_port_name(int unit, int port) {
+    char *name = nullptr;
+    on_port(__func__, unit, port, [&](Port &one) {
+        name = one.name.data();
+        return BCM_E_NONE;
+    });
+    return name;
+}
+
+int bcm_port_info_get(int unit, bcm_port_t port, bcm_port_info_t *info) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        const Port *const one = chip.ports.find(port);
+        if (one == nullptr) return BCM_E_PORT;
+        if (info == nullptr) return BCM_E_PARAM;
+        const Stg &stg = chip.vlans.stgs.at(chip.vlans.default_stg);
+        *info = bcm_port_info_t{};
+        info->enable = one->enable;
+        info->linkstatus = one->link();
+        info->autoneg = one->autoneg;
+        info->speed = one->speed;
+        info->speed_max = one->speed_max;
+        info->duplex = one->duplex;
+        info->linkscan = one->linkscan;
+        info->learn = one->learn;
+        info->discard = one->discard;
+        info->vlanfilter = static_cast<uint32>(one->ifilter);
+        info->untagged_priority = one->untagged_priority;
+        info->untagged_vlan = one->untagged_vlan;
+        info->stp_state = stg.state[static_cast<std::size_t>(local_port(port))];
+        info->pfm = one->pfm;
+        info->loopback = one->loopback;
+        info->phy_master = one->master;
+        info->pause_tx = one->pause_tx;
+        info->pause_rx = one->pause_rx;
+        std::ranges::copy(one->pause_address, info->pause_mac);
+        info->local_ability = one->advertised;
+        info->frame_max = one->frame_max;
+        return BCM_E_NONE;
+    });
+}
+
+// What of the structure can be set; all or nothing. The masks of actions are not looked at.
+int bcm_port_info_set(int unit, bcm_port_t port, bcm_port_info_t *info) {
+    return on_port(__func__, unit, port, [&](Port &one) {
+        if (info == nullptr || !good_settings(*info)) return BCM_E_PARAM;
+        if (!can_run_at(one, info->speed)) return BCM_E_CONFIG;
+        one.enable = info->enable;
+        one.autoneg = info->autoneg;
+        one.speed = info->speed;
+        one.duplex = info->duplex;
+        one.linkscan = info->linkscan;
+        one.learn = info->learn;
+        one.discard = info->discard;
+        one.ifilter = static_cast<int>(info->vlanfilter);
+        one.untagged_priority = info->untagged_priority;
+        one.untagged_vlan = info->untagged_vlan;
+        one.pfm = info->pfm;
+        one.loopback = info->loopback;
+        one.master = info->phy_master;
+        one.pause_tx = info->pause_tx;
+        one.pause_rx = info->pause_rx;
+        std::copy_n(info->pause_mac, one.pause_address.size(), one.pause_address.begin());
+        one.advertised = info->local_ability;
+        one.frame_max = info->frame_max;
+        return BCM_E_NONE;
+    });
+}
+
+int standin_port_peer_set(int unit, int port, int present) {
+    return on_port(__func__, unit, port, [&](Port &one) {
+        const int before = one.link();
+        one.peer = present != 0;
+        if (before != 0 && one.link() == 0) one.link_failed = true;
+        return BCM_E_NONE;
+    });
+}
+
+int standin_port_traffic(int unit, int port, int outwards, unsigned packets,
+                         unsigned long long bytes) {
+    return on_port(__func__, unit, port, [&](Port &one) {
+        if (one.link() == 0) return BCM_E_DISABLED;
+        PortCounters &counters = outwards != 0 ? one.out : one.in;
+        counters.packets += packets;
+        counters.bytes += bytes;
+        return BCM_E_NONE;
+    });
+}
+
+}  // extern "C"

@@ -1,0 +1,67 @@
+// The rule engine of one switch: groups, entries with qualifiers and actions, counters.
+//
+// Invariants:
+//   1. Each entry and each counter belongs to a group that exists.
+//   2. `users` of a counter is the number of entries that it is attached to.
+#pragma once
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "sdk/bcm/field_types.h"
+#include "standin/model/port_set.h"
+
+namespace standin {
+
+constexpr std::size_t kFieldGroups = 128;
+constexpr std::size_t kFieldEntries = 16'384;
+constexpr std::size_t kFieldStats = 8192;
+
+struct FieldGroup {
+    bcm_field_qset_t qualifiers{};
+    bcm_field_aset_t actions{};
+    bcm_pbmp_t ports = kAllPorts;
+    int priority = 0;
+    bcm_field_group_mode_t mode{};
+    int enable = 1;
+    bcm_field_presel_set_t presels{};
+};
+
+struct FieldAction {
+    std::uint32_t param0 = 0;
+    std::uint32_t param1 = 0;
+    std::optional<std::array<std::uint8_t, 6>> mac;
+    std::optional<bcm_pbmp_t> ports;
+};
+
+struct FieldEntry {
+    bcm_field_group_t group = 0;
+    int priority = 0;
+    int enable = 1;
+    bool installed = false;
+    // Data and mask as their bytes; equal ids of different widths are different qualifiers.
+    std::map<std::pair<int, std::size_t>, std::vector<std::uint8_t>> qualifiers;
+    std::map<bcm_field_action_t, FieldAction> actions;
+    std::optional<int> stat;
+    bcm_field_stat_action_t stat_action{};
+    std::map<int, bcm_policer_t> policers;  // by level
+};
+
+struct FieldStat {
+    bcm_field_group_t group = 0;
+    std::vector<bcm_field_stat_t> kinds;
+    std::map<bcm_field_stat_t, std::uint64_t> values;
+    int users = 0;
+};
+
+struct Field {
+    std::map<bcm_field_group_t, FieldGroup> groups;
+    std::map<bcm_field_entry_t, FieldEntry> entries;
+    std::map<int, FieldStat> stats;
+};
+
+}  // namespace standin

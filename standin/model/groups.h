@@ -1,0 +1,62 @@
+// Trunks, multicast groups, mirrors and policers of one switch.
+#pragma once
+#include <cstdint>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "sdk/bcm/mirror_types.h"
+#include "sdk/bcm/policer_types.h"
+#include "sdk/bcm/trunk_types.h"
+#include "standin/model/port_set.h"
+
+namespace standin {
+
+constexpr int kTrunks = 256;
+constexpr int kTrunkMembers = 64;
+constexpr std::size_t kMulticastGroups = 4096;
+constexpr std::size_t kMirrorDestinations = 32;
+constexpr std::size_t kPolicers = 4096;
+
+// The type of the global port numbers of mirror destinations.
+constexpr int kGportMirror = 21;
+
+// A local port or a system port is member of one trunk at most.
+struct Trunk {
+    bcm_trunk_info_t info{};
+    std::vector<bcm_trunk_member_t> members;          // each port in the form of a gport
+    std::map<bcm_gport_t, std::uint32_t> member_ids;  // of those that came as LAG members
+    bcm_pbmp_t egress = kAllPorts;
+};
+
+struct MulticastGroup {
+    using Member = std::pair<bcm_gport_t, bcm_if_t>;  // port and encapsulation
+
+    std::uint32_t flags = 0;
+    std::vector<Member> ingress;
+    std::vector<Member> egress;
+};
+
+struct Mirrors {
+    int mode = 0;
+    bcm_port_t to = -1;
+    std::map<bcm_gport_t, bcm_mirror_destination_t> destinations;
+    // Destinations of a port, by port and flags.
+    std::map<std::pair<int, std::uint32_t>, std::vector<bcm_gport_t>> of_port;
+    bcm_pbmp_t ingress{};
+    bcm_pbmp_t egress{};
+};
+
+struct Policer {
+    bcm_policer_config_t config{};
+    int users = 0;  // entries of the field processor that it is attached to
+};
+
+struct Groups {
+    std::map<bcm_trunk_t, Trunk> trunks;
+    std::map<bcm_multicast_t, MulticastGroup> multicast;
+    Mirrors mirrors;
+    std::map<bcm_policer_t, Policer> policers;
+};
+
+}  // namespace standin

@@ -1,0 +1,56 @@
+// What the MAC chapter keeps besides the table: timers, limits, watchers.
+#pragma once
+#include <cstdint>
+#include <map>
+#include <vector>
+
+#include "sdk/bcm/l2_types.h"
+#include "standin/model/l2_table.h"
+
+namespace standin {
+
+// What a watcher's `operation` says.
+enum L2Event : int { kL2Added = 1, kL2Deleted = 2, kL2Learned = 3, kL2AgedOut = 4 };
+
+struct L2Watcher {
+    bcm_l2_addr_callback_t call = nullptr;
+    void *user_data = nullptr;
+
+    bool operator==(const L2Watcher &) const = default;
+};
+
+// What a learn limit counts: `scope` is one bit of its flags, `number` the VLAN, port or trunk.
+constexpr std::uint32_t kLimitSystem = 0x1;
+constexpr std::uint32_t kLimitVlan = 0x2;
+constexpr std::uint32_t kLimitPort = 0x4;
+constexpr std::uint32_t kLimitTrunk = 0x8;
+
+struct L2Scope {
+    std::uint32_t scope = 0;
+    int number = 0;
+
+    auto operator<=>(const L2Scope &) const = default;
+};
+
+struct L2Chapter {
+    L2Table table;
+    int age_seconds = 0;  // 0: entries do not age
+    std::uint64_t clock = 0;
+    int freezes = 0;
+    bool limits_enabled = true;
+    std::map<L2Scope, int> limits;
+    std::vector<L2Watcher> watchers;
+
+    // Events that wait until the lock is free, in their order; kept only if somebody watches.
+    struct Event {
+        bcm_l2_addr_t entry;
+        int operation;
+    };
+    std::vector<Event> events;
+
+    void note(const bcm_l2_addr_t &entry, int operation) {
+        if (!watchers.empty()) events.push_back({entry, operation});
+    }
+};
+
+}  // namespace standin

@@ -1,0 +1,115 @@
+// What the chapters of numbered objects have in common.
+#pragma once
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "standin/model/model.h"
+#include "standin/model/switch.h"
+
+namespace standin {
+
+// Flags of create calls that have no constants of their own: the caller gives the id; the object
+// of that id is replaced.
+constexpr std::uint32_t kWithId = 0x10;
+constexpr std::uint32_t kReplace = 0x20;
+
+template <class Map>
+auto *find_in(Map &map, const typename Map::key_type &key) {
+    const auto found = map.find(key);
+    return found == map.end() ? nullptr : &found->second;
+}
+
+// on_switch with an object found in `table`; BCM_E_NOT_FOUND if it is not there. `table` is a
+// function from Switch& to a map.
+template <class Table, class Key, class Body>
+int on_entry(const char *function, int unit, Table &&table, const Key &key, Body &&body) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        auto *const entry = find_in(table(chip), key);
+        return entry == nullptr ? BCM_E_NOT_FOUND : body(*entry);
+    });
+}
+
+// An unused number from `first` to `last`, or nothing: the one after the highest in use while
+// there is one, so that making many objects does not search, else the lowest.
+template <class Map>
+std::optional<typename Map::key_type> free_id(const Map &map, typename Map::key_type first,
+                                              typename Map::key_type last) {
+    if (map.empty()) return first;
+    const auto highest = map.rbegin()->first;
+    if (highest < last) return highest + 1;
+    typename Map::key_type id = first;
+    for (auto it = map.begin(); it != map.end() && it->first == id && id <= last; ++it) ++id;
+    return id <= last ? std::optional(id) : std::nullopt;
+}
+
+// What a create call asks of a table: its name among the faults, how many it holds, its numbers.
+template <class Key>
+struct Numbering {
+    const char *name;
+    std::size_t capacity;
+    Key first;
+    Key last;
+};
+
+// Where a new object goes: under `*id` if `given`, else under a free number, which is written to
+// `*id`. Null with a status: BCM_E_PARAM, BCM_E_EXISTS, BCM_E_FULL.
+template <class Map>
+typename Map::mapped_type *new_entry(Map &map, const Numbering<typename Map::key_type> &numbering,
+                                     bool given, typename Map::key_type *id, int &status) {
+    status = BCM_E_PARAM;
+    if (id == nullptr) return nullptr;
+    if (given) {
+        if (!within(*id, numbering.first, numbering.last)) return nullptr;
+        status = BCM_E_EXISTS;
+        if (map.contains(*id)) return nullptr;
+    }
+    status = BCM_E_FULL;
+    if (map.size() >= table_capacity(numbering.name, numbering.capacity)) return nullptr;
+    if (!given) {
+        const auto number = free_id(map, numbering.first, numbering.last);
+        if (!number) return nullptr;
+        *id = *number;
+    }
+    status = BCM_E_NONE;
+    return &map[*id];
+}
+
+// Calls `visit(key, copy of the value)` for the entries of `table`, ascending, without the lock,
+// so that it may change the table. A negative answer ends the walk and is its status.
+template <class Table, class Visit>
+int walk(const char *function, int unit, Table &&table, Visit &&visit) {
+    using Map = std::remove_reference_t<decltype(table(std::declval<Switch &>()))>;
+    if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;
+    std::optional<typename Map::key_type> last;
+    for (;;) {
+        std::optional<std::pair<typename Map::key_type, typename Map::mapped_type>> at;
+        {
+            const std::lock_guard<std::mutex> guard(model_lock());
+            int status = BCM_E_NONE;
+            Switch *const chip = ready_switch(unit, status);
+            if (chip == nullptr) return status;
+            Map &map = table(*chip);
+            const auto next = last ? map.upper_bound(*last) : map.begin();
+            if (next == map.end()) return BCM_E_NONE;
+            at.emplace(*next);
+        }
+        last = at->first;
+        if (const int answer = visit(at->first, at->second); answer < 0) return answer;
+    }
+}
+
+// Forgets what the calls of a chapter that have no model keep: `prefix` is "bcm_vlan_", say.
+inline void forget_generic(Switch &chip, std::string_view prefix) {
+    std::erase_if(chip.generic, [&](const auto &one) { return one.first.starts_with(prefix); });
+}
+
+// What a call answers whose callback is null, after the unit.
+inline int refuse(const char *function, int unit) {
+    return on_switch(function, unit, [](Switch &) { return int{BCM_E_PARAM}; });
+}
+
+}  // namespace standin
