@@ -48,7 +48,7 @@ install: build ## install below DESTDIR and prefix (/usr/local)
 format: ## lay out all C++ sources by .clang-format
 	@setup/packages.sh format
 	@git ls-files -z --cached --others --exclude-standard '*.h' '*.cpp' ':!tests/generator/*/*' | \
-	    xargs -0 -r clang-format -i
+	    xargs -0 -r clang-format-16 -i
 
 tidy: build ## static checks by .clang-tidy
 	@setup/packages.sh tidy

@@ -38,9 +38,7 @@ constexpr int kCores = 2;
 constexpr int kAllCores = -17;
 
 int read_cell(int unit, std::size_t position) {
-    if (!inside(unit, SOC_MAX_NUM_DEVICES) || soc_control[unit] == nullptr) {
-        return -1;
-    }
+    if (!inside(unit, SOC_MAX_NUM_DEVICES) || soc_control[unit] == nullptr) return -1;
     int value = 0;
     std::memcpy(&value, reinterpret_cast<const unsigned char *>(soc_control[unit]) + position,
                 sizeof value);
@@ -48,9 +46,7 @@ int read_cell(int unit, std::size_t position) {
 }
 
 int read_core_cell(int unit, int core, std::size_t per_core, std::size_t all_cores) {
-    if (core == kAllCores) {
-        return read_cell(unit, all_cores);
-    }
+    if (core == kAllCores) return read_cell(unit, all_cores);
     return inside(core, kCores)
                ? read_cell(unit, per_core + static_cast<std::size_t>(core) * sizeof(int))
                : -1;
@@ -69,15 +65,11 @@ SOC_PPC_LAG_MEMBER lag_member(uint32 sys_port, uint32 member_id) {
 void bcm_field_qset_init(bcm_field_qset_t &qset) { qset = {}; }
 
 void bcm_field_qset_add(bcm_field_qset_t &qset, bcm_field_qualify_e e) {
-    if (inside(e, kQualifiers)) {
-        qset.w[e / kWordBits] |= bit_of(e);
-    }
+    if (inside(e, kQualifiers)) qset.w[e / kWordBits] |= bit_of(e);
 }
 
 void bcm_field_qset_remove(bcm_field_qset_t &qset, bcm_field_qualify_e e) {
-    if (inside(e, kQualifiers)) {
-        qset.w[e / kWordBits] &= ~bit_of(e);
-    }
+    if (inside(e, kQualifiers)) qset.w[e / kWordBits] &= ~bit_of(e);
 }
 
 unsigned int bcm_field_qset_test(bcm_field_qset_t &qset, bcm_field_qualify_e e) {
@@ -87,15 +79,11 @@ unsigned int bcm_field_qset_test(bcm_field_qset_t &qset, bcm_field_qualify_e e) 
 void bcm_field_aset_init(bcm_field_aset_t &aset) { aset = {}; }
 
 void bcm_field_aset_add(bcm_field_aset_t &aset, bcm_field_action_e e) {
-    if (inside(e, kActions)) {
-        aset.w[e / kWordBits] |= bit_of(e);
-    }
+    if (inside(e, kActions)) aset.w[e / kWordBits] |= bit_of(e);
 }
 
 void bcm_field_aset_remove(bcm_field_aset_t &aset, bcm_field_action_e e) {
-    if (inside(e, kActions)) {
-        aset.w[e / kWordBits] &= ~bit_of(e);
-    }
+    if (inside(e, kActions)) aset.w[e / kWordBits] &= ~bit_of(e);
 }
 
 unsigned int bcm_field_aset_test(bcm_field_aset_t &aset, bcm_field_action_e e) {

@@ -22,12 +22,8 @@ class AddressText {
         std::size_t size = 0;
         int alloc = 0;
         const int status = SWIG_AsCharPtrAndSize(object, &text, &size, &alloc);
-        if (status < 0 || size > buffer_.size()) {
-            return refuse(row, index, STATUS_TYPE);
-        }
-        if (text != nullptr) {
-            std::memcpy(buffer_.data(), text, size);
-        }
+        if (status < 0 || size > buffer_.size()) return refuse(row, index, STATUS_TYPE);
+        if (text != nullptr) std::memcpy(buffer_.data(), text, size);
         return true;
     }
 

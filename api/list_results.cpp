@@ -63,9 +63,7 @@ class InOutTrunk {
     bool read(PyObject *object, const CallRow &row, unsigned index) {
         const int status =
             SWIG_Python_ConvertPtrAndOwn(object, &address_, swig_type_slots[slots::_p_int], 0);
-        if (status >= 0) {
-            return true;
-        }
+        if (status >= 0) return true;
         kept_ = number_.read(object, row, index);
         value_ = kept_ ? number_.native() : 0;
         address_ = &value_;
@@ -105,9 +103,7 @@ PyObject *bcm_l2_addr_get(const CallRow &row, PyObject *args) {
     return call_with<Int32, MacText, CutVlan>(
         row, args, [](int unit, uint8 *mac, bcm_vlan_t vid) -> PyObject * {
             Filled<bcm_l2_addr_t> entry;
-            if (entry.get() == nullptr) {
-                return PyErr_NoMemory();
-            }
+            if (entry.get() == nullptr) return PyErr_NoMemory();
             const int status = ::bcm_l2_addr_get(unit, mac, vid, entry.get());
             return entry.result(status, slots::_p_bcm_l2_addr_s);
         });
@@ -116,9 +112,7 @@ PyObject *bcm_l2_addr_get(const CallRow &row, PyObject *args) {
 // The structure exists before the arguments are looked at, and goes again when they fail.
 PyObject *bcm_port_config_get(const CallRow &row, PyObject *args) {
     Filled<bcm_port_config_t> config;
-    if (config.get() == nullptr) {
-        return PyErr_NoMemory();
-    }
+    if (config.get() == nullptr) return PyErr_NoMemory();
     return call_with<Int32>(row, args, [&](int unit) {
         const int status = ::bcm_port_config_get(unit, config.get());
         return config.result(status, slots::_p_bcm_port_config_s);

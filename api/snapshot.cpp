@@ -20,12 +20,8 @@ constexpr unsigned kLocalMask = 0x7ff;
 constexpr unsigned kLagMask = 0x3ffffff;
 
 unsigned long global_port(const bcm_l2_addr_t &entry) {
-    if ((entry.flags & kDiscard) != 0) {
-        return kBlackHole;
-    }
-    if ((entry.flags & kTrunk) != 0) {
-        return (static_cast<unsigned>(entry.tgid) & kLagMask) | kLag;
-    }
+    if ((entry.flags & kDiscard) != 0) return kBlackHole;
+    if ((entry.flags & kTrunk) != 0) return (static_cast<unsigned>(entry.tgid) & kLagMask) | kLag;
     return (static_cast<unsigned>(entry.port) & kLocalMask) | kLocal;
 }
 
@@ -33,9 +29,7 @@ unsigned long global_port(const bcm_l2_addr_t &entry) {
 // each of up to 65,536 rows.
 PyObject *snapshot_row(const bcm_l2_addr_t &entry) {
     PyObject *row = PyTuple_New(4);
-    if (row == nullptr) {
-        return nullptr;
-    }
+    if (row == nullptr) return nullptr;
     const bool is_static = (entry.flags & kStatic) != 0;
     PyObject *const items[] = {
         PyString_FromStringAndSize(macaddrToString(entry.mac), kMacTextLength),
@@ -58,9 +52,7 @@ PyObject *snapshot_row(const bcm_l2_addr_t &entry) {
 // The callback of the walk. It runs inside the row's own call, under the interpreter lock. Once an
 // exception is pending, the rest of the table is passed over.
 int l2_traverse_cb(int, bcm_l2_addr_t *info, void *user_data) {
-    if (PyErr_Occurred() != nullptr) {
-        return 0;
-    }
+    if (PyErr_Occurred() != nullptr) return 0;
     PyObject *row = snapshot_row(*info);
     if (row != nullptr) {
         PyList_Append(static_cast<PyObject *>(user_data), row);
@@ -75,9 +67,7 @@ namespace ombra::rows {
 
 PyObject *getHwMacTable(int unit) {
     ombra::PyRef list(PyList_New(0));  // goes again should the walk throw
-    if (list == nullptr) {
-        return nullptr;
-    }
+    if (list == nullptr) return nullptr;
     bcm_l2_traverse(unit, ::l2_traverse_cb, list.get());
     return PyErr_Occurred() == nullptr ? list.release() : nullptr;
 }
@@ -87,13 +77,12 @@ PyObject *getGPortType(unsigned long gport) {
     constexpr unsigned long reserved = 0x3e00000;
     const unsigned long type = gport >> kTypeShift;
     const char *word = "unknown";
-    if ((type & type_mask) == 1 && (gport & reserved) == 0) {
+    if ((type & type_mask) == 1 && (gport & reserved) == 0)
         word = "local";
-    } else if (type == 3) {
+    else if (type == 3)
         word = "lag";
-    } else if (gport == kBlackHole) {
+    else if (gport == kBlackHole)
         word = "blackhole";
-    }
     return PyString_FromString(word);
 }
 

@@ -19,17 +19,13 @@ template <typename... Items>
 PyObject *tuple_of(Items... items) {
     const std::array<PyObject *, sizeof...(Items)> all{items...};
     bool whole = true;
-    for (const PyObject *item : all) {
-        whole = whole && item != nullptr;
-    }
+    for (const PyObject *item : all) whole = whole && item != nullptr;
     PyObject *tuple = whole ? PyTuple_New(sizeof...(Items)) : nullptr;
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        if (tuple != nullptr) {
+    for (std::size_t i = 0; i < all.size(); ++i)
+        if (tuple != nullptr)
             PyTuple_SET_ITEM(tuple, static_cast<Py_ssize_t>(i), all[i]);
-        } else {
+        else
             Py_XDECREF(all[i]);
-        }
-    }
     return tuple;
 }
 
@@ -61,9 +57,7 @@ PyObject *list_of(const Id *ids, int count) {
 // The SDK owns the array and has just handed it out: a failing release means that its own state is
 // broken, and no agent may go on with it.
 void require_released(int rc, const char *function) {
-    if (rc != BCM_E_NONE) {
-        ombra::assertion_failed("rc == BCM_E_NONE", function);
-    }
+    if (rc != BCM_E_NONE) ombra::assertion_failed("rc == BCM_E_NONE", function);
 }
 
 }  // namespace
@@ -72,9 +66,7 @@ PyObject *bcm_stg_list_wrapper(int unit) {
     bcm_stg_t *list = nullptr;
     int count = 0;
     const int status = bcm_stg_list(unit, &list, &count);
-    if (status != BCM_E_NONE) {
-        return tuple_of(PyInt_FromLong(status));
-    }
+    if (status != BCM_E_NONE) return tuple_of(PyInt_FromLong(status));
     PyObject *ids = list_of(list, count);
     require_released(bcm_stg_list_destroy(unit, list, count),
                      "PyObject* bcm_stg_list_wrapper(int)");
@@ -85,9 +77,7 @@ PyObject *bcm_stg_vlan_list_wrapper(int unit, bcm_stg_t stg) {
     bcm_vlan_t *list = nullptr;
     int count = 0;
     const int status = bcm_stg_vlan_list(unit, stg, &list, &count);
-    if (status != BCM_E_NONE) {
-        return tuple_of(PyInt_FromLong(status));
-    }
+    if (status != BCM_E_NONE) return tuple_of(PyInt_FromLong(status));
     PyObject *ids = list_of(list, count);
     require_released(bcm_stg_vlan_list_destroy(unit, list, count),
                      "PyObject* bcm_stg_vlan_list_wrapper(int, bcm_stg_t)");
@@ -113,18 +103,14 @@ PyObject *bcm_vlan_port_get(int unit, bcm_vlan_t vid) {
     bcm_pbmp_t pbmp{};
     bcm_pbmp_t ubmp{};
     const int status = ::bcm_vlan_port_get(unit, vid, &pbmp, &ubmp);
-    if (status != BCM_E_NONE) {
-        return tuple_of(PyInt_FromLong(status), none(), none());
-    }
+    if (status != BCM_E_NONE) return tuple_of(PyInt_FromLong(status), none(), none());
     return tuple_of(PyInt_FromLong(status), pbmpToPyList(pbmp), pbmpToPyList(ubmp));
 }
 
 PyObject *bcm_stg_stp_get(int unit, bcm_stg_t stg, bcm_port_t port) {
     int state = 0;
     const int status = ::bcm_stg_stp_get(unit, stg, port, &state);
-    if (status != BCM_E_NONE) {
-        return tuple_of(PyInt_FromLong(status));
-    }
+    if (status != BCM_E_NONE) return tuple_of(PyInt_FromLong(status));
     return tuple_of(PyInt_FromLong(status), PyString_FromString(state_word(state)));
 }
 

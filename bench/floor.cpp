@@ -21,9 +21,7 @@ FloorTypes floor_types;
 namespace {
 
 PyObject *floor_zero(PyObject *, PyObject *args) {
-    if (!PyArg_UnpackTuple(args, const_cast<char *>("getNumDevices"), 0, 0)) {
-        return nullptr;
-    }
+    if (!PyArg_UnpackTuple(args, const_cast<char *>("getNumDevices"), 0, 0)) return nullptr;
     return PyInt_FromLong(getNumDevices());
 }
 
@@ -218,9 +216,8 @@ PyObject *floor_bind(PyObject *, PyObject *args) {
     PyObject *ints = nullptr;
     PyObject *qset = nullptr;
     PyObject *entry = nullptr;
-    if (!PyArg_UnpackTuple(args, const_cast<char *>("bind"), 3, 3, &ints, &qset, &entry)) {
+    if (!PyArg_UnpackTuple(args, const_cast<char *>("bind"), 3, 3, &ints, &qset, &entry))
         return nullptr;
-    }
     floor_types.object = Py_TYPE(ints);
     floor_types.ints = reinterpret_cast<SwigPyObject *>(ints)->type;
     floor_types.qsets = reinterpret_cast<SwigPyObject *>(qset)->type;

@@ -27,9 +27,7 @@ inline bool floor_long(PyObject *object, long *value, const char *text) {
         *value = PyInt_AS_LONG(object);
         return true;
     }
-    if (!PyLong_Check(object)) {
-        return floor_raise(PyExc_TypeError, text);
-    }
+    if (!PyLong_Check(object)) return floor_raise(PyExc_TypeError, text);
     *value = PyLong_AsLong(object);
     if (*value == -1 && PyErr_Occurred() != nullptr) {
         PyErr_Clear();
@@ -40,36 +38,24 @@ inline bool floor_long(PyObject *object, long *value, const char *text) {
 
 inline bool floor_int(PyObject *object, int *value, const char *text) {
     long wide = 0;
-    if (!floor_long(object, &wide, text)) {
-        return false;
-    }
-    if (wide < INT_MIN || wide > INT_MAX) {
-        return floor_raise(PyExc_OverflowError, text);
-    }
+    if (!floor_long(object, &wide, text)) return false;
+    if (wide < INT_MIN || wide > INT_MAX) return floor_raise(PyExc_OverflowError, text);
     *value = static_cast<int>(wide);
     return true;
 }
 
 inline bool floor_unsigned(PyObject *object, unsigned *value, const char *text) {
     long wide = 0;
-    if (!floor_long(object, &wide, text)) {
-        return false;
-    }
-    if (wide < 0 || wide > UINT_MAX) {
-        return floor_raise(PyExc_OverflowError, text);
-    }
+    if (!floor_long(object, &wide, text)) return false;
+    if (wide < 0 || wide > UINT_MAX) return floor_raise(PyExc_OverflowError, text);
     *value = static_cast<unsigned>(wide);
     return true;
 }
 
 inline bool floor_byte(PyObject *object, unsigned char *value, const char *text) {
     long wide = 0;
-    if (!floor_long(object, &wide, text)) {
-        return false;
-    }
-    if (wide < 0 || wide > UCHAR_MAX) {
-        return floor_raise(PyExc_OverflowError, text);
-    }
+    if (!floor_long(object, &wide, text)) return false;
+    if (wide < 0 || wide > UCHAR_MAX) return floor_raise(PyExc_OverflowError, text);
     *value = static_cast<unsigned char>(wide);
     return true;
 }

@@ -10,12 +10,8 @@ namespace {
 
 bcm_l2_addr_t *self_of(PyObject *object, const char *text) {
     void *self = nullptr;
-    if (!floor_address(object, floor_types.l2_addrs, &self, text)) {
-        return nullptr;
-    }
-    if (self == nullptr) {
-        floor_raise(PyExc_ValueError, text);
-    }
+    if (!floor_address(object, floor_types.l2_addrs, &self, text)) return nullptr;
+    if (self == nullptr) floor_raise(PyExc_ValueError, text);
     return static_cast<bcm_l2_addr_t *>(self);
 }
 
@@ -33,21 +29,16 @@ bcm_l2_addr_t *setter_self(PyObject *args, const char *name, const char *text, P
 }
 
 int digit(char c) {
-    if (c >= '0' && c <= '9') {
-        return c - '0';
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
     return c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
 }
 
 }  // namespace
 
 bool floor_read_mac(PyObject *object, unsigned char mac[6]) {
-    if (!PyString_Check(object) || PyString_GET_SIZE(object) != 17) {
+    if (!PyString_Check(object) || PyString_GET_SIZE(object) != 17)
         return floor_raise(PyExc_TypeError, "Expected a string");
-    }
     const char *text = PyString_AS_STRING(object);
     for (int i = 0; i < 6; ++i) {
         const int high = digit(text[3 * i]);
@@ -67,27 +58,21 @@ PyObject *floor_mac_text(const unsigned char mac[6]) {
     for (int i = 0; i < 6; ++i) {
         text[3 * i] = hex[mac[i] >> 4];
         text[3 * i + 1] = hex[mac[i] & 15];
-        if (i < 5) {
-            text[3 * i + 2] = ':';
-        }
+        if (i < 5) text[3 * i + 2] = ':';
     }
     return PyString_FromStringAndSize(text, sizeof text);
 }
 
 bool floor_read_ports(PyObject *object, bcm_pbmp_t *ports) {
-    if (!PyList_Check(object)) {
-        return floor_raise(PyExc_TypeError, "Expected a list");
-    }
+    if (!PyList_Check(object)) return floor_raise(PyExc_TypeError, "Expected a list");
     std::memset(ports, 0, sizeof *ports);
     for (Py_ssize_t i = 0; i < PyList_GET_SIZE(object); ++i) {
         PyObject *item = PyList_GET_ITEM(object, i);
-        if (!PyInt_Check(item)) {
+        if (!PyInt_Check(item))
             return floor_raise(PyExc_TypeError, "Port list must contain integers");
-        }
         const long port = PyInt_AS_LONG(item);
-        if (port < 0 || port >= 576) {
+        if (port < 0 || port >= 576)
             return floor_raise(PyExc_ValueError, "Port number out of range");
-        }
         ports->pbits[port / 32] |= 1U << (port % 32);
     }
     return true;
@@ -100,9 +85,7 @@ PyObject *floor_ports_list(const bcm_pbmp_t *ports) {
         while (bits != 0) {
             const auto bit = static_cast<unsigned>(__builtin_ctz(bits));
             bits &= bits - 1;
-            if (word * 32 + bit > 570) {
-                break;
-            }
+            if (word * 32 + bit > 570) break;
             PyObject *port = PyLong_FromUnsignedLong(word * 32 + bit);
             PyList_Append(list, port);
             Py_DECREF(port);
@@ -144,9 +127,7 @@ PyObject *floor_mac_set(PyObject *, PyObject *args) {
     bcm_l2_addr_t *self = setter_self(
         args, "bcm_l2_addr_t_mac_set",
         "in method 'bcm_l2_addr_t_mac_set', argument 1 of type 'bcm_l2_addr_s *'", &value);
-    if (self == nullptr || !floor_read_mac(value, mac)) {
-        return nullptr;
-    }
+    if (self == nullptr || !floor_read_mac(value, mac)) return nullptr;
     std::memcpy(self->mac, mac, sizeof mac);
     Py_RETURN_NONE;
 }
@@ -164,9 +145,7 @@ PyObject *floor_ports_set(PyObject *, PyObject *args) {
     bcm_l2_addr_t *self = setter_self(
         args, "bcm_l2_addr_t_block_bitmap_set",
         "in method 'bcm_l2_addr_t_block_bitmap_set', argument 1 of type 'bcm_l2_addr_s *'", &value);
-    if (self == nullptr || !floor_read_ports(value, &ports)) {
-        return nullptr;
-    }
+    if (self == nullptr || !floor_read_ports(value, &ports)) return nullptr;
     self->block_bitmap = ports;
     Py_RETURN_NONE;
 }

@@ -7,11 +7,10 @@ namespace {
 
 int append(int, bcm_l2_addr_t *entry, void *list) {
     unsigned long gport = 0x4000000UL | (static_cast<unsigned>(entry->port) & 0x7ffU);
-    if ((entry->flags & 4U) != 0) {
+    if ((entry->flags & 4U) != 0)
         gport = 0x10000000UL;
-    } else if ((entry->flags & 0x80U) != 0) {
+    else if ((entry->flags & 0x80U) != 0)
         gport = 0xc000000UL | (static_cast<unsigned>(entry->tgid) & 0x3ffffffU);
-    }
     PyObject *row = PyTuple_New(4);
     PyTuple_SET_ITEM(row, 0, floor_mac_text(entry->mac));
     PyTuple_SET_ITEM(row, 1, PyInt_FromLong(entry->vid));

@@ -15,22 +15,17 @@ constexpr unsigned kField = 1;
 // a null pointer.
 bool read_self(const FieldRow &row, PyObject *args, void *&self) {
     PyObject *object = nullptr;
-    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 1, 1, &object)) {
-        return false;
-    }
+    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 1, 1, &object)) return false;
     const int status = SWIG_Python_ConvertPtrAndOwn(object, &self, slot(row.call, kSelf), 0);
-    if (status < 0) {
-        return refuse(row.call, kSelf, status);
-    }
+    if (status < 0) return refuse(row.call, kSelf, status);
     return self != nullptr || refuse_null(row.call, kSelf);
 }
 
 // Takes both arguments of a setter apart and converts `self`, which may come out null.
 bool read_setter(const FieldRow &row, PyObject *args, void *&self, PyObject *&value) {
     PyObject *object = nullptr;
-    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 2, 2, &object, &value)) {
+    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 2, 2, &object, &value))
         return false;
-    }
     const int status = SWIG_Python_ConvertPtrAndOwn(object, &self, slot(row.call, kSelf), 0);
     return status >= 0 || refuse(row.call, kSelf, status);
 }
@@ -65,9 +60,8 @@ void copy_elements(void *to, const void *from, std::size_t size, std::size_t cou
         std::memcpy(target, source, bytes);
         return;
     }
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i)
         std::memmove(target + i * size, source + i * size, size);
-    }
 }
 
 PyObject *set_text_field(const FieldRow &row, PyObject *args, bool free_old) {
@@ -82,15 +76,11 @@ PyObject *set_text_field(const FieldRow &row, PyObject *args, bool free_old) {
     if (value.native() != nullptr) {
         const std::size_t bytes = std::strlen(value.native()) + 1;
         copy = new (std::nothrow) char[bytes];
-        if (copy == nullptr) {
-            return PyErr_NoMemory();
-        }
+        if (copy == nullptr) return PyErr_NoMemory();
         std::memcpy(copy, value.native(), bytes);
     }
     void *const field = field_address(row, self);
-    if (free_old) {
-        delete[] load<char *>(field);
-    }
+    if (free_old) delete[] load<char *>(field);
     store(field, copy);
     Py_RETURN_NONE;
 }
@@ -100,9 +90,7 @@ PyObject *set_text_field(const FieldRow &row, PyObject *args, bool free_old) {
 template <typename Kind>
 PyObject *get_value(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
-    if (!read_self(row, args, self)) {
-        return nullptr;
-    }
+    if (!read_self(row, args, self)) return nullptr;
     if constexpr (std::is_class_v<typename Kind::Native>) {
         // A port list is read where it lies.
         return Kind::result(*static_cast<const typename Kind::Native *>(field_address(row, self)),
@@ -119,9 +107,8 @@ PyObject *set_value(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
     PyObject *object = nullptr;
     Kind value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField)) {
+    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField))
         return nullptr;
-    }
     if (self != nullptr) {
         const auto &native = value.native();
         std::memcpy(field_address(row, self), &native, sizeof native);
@@ -149,9 +136,7 @@ template PyObject *set_value<FunctionPointer>(const FieldRow &, PyObject *);
 
 PyObject *get_copy(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
-    if (!read_self(row, args, self)) {
-        return nullptr;
-    }
+    if (!read_self(row, args, self)) return nullptr;
     return owned_copy(field_address(row, self), row.size, slot(row.call, kField));
 }
 
@@ -159,20 +144,15 @@ PyObject *set_copy(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
     PyObject *object = nullptr;
     Reference value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField)) {
+    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField))
         return nullptr;
-    }
-    if (self != nullptr) {
-        std::memmove(field_address(row, self), value.native(), row.size);
-    }
+    if (self != nullptr) std::memmove(field_address(row, self), value.native(), row.size);
     Py_RETURN_NONE;
 }
 
 PyObject *get_alias(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
-    if (!read_self(row, args, self)) {
-        return nullptr;
-    }
+    if (!read_self(row, args, self)) return nullptr;
     return SWIG_Python_NewPointerObj(field_address(row, self), slot(row.call, kField), 0);
 }
 
@@ -180,25 +160,20 @@ PyObject *set_array(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
     PyObject *object = nullptr;
     Pointer value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField)) {
+    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField))
         return nullptr;
-    }
     if (value.native() == nullptr) {
         refuse_null_field(row.call, kField + 1);
         return nullptr;
     }
-    if (!require_self(row, self)) {
-        return nullptr;
-    }
+    if (!require_self(row, self)) return nullptr;
     copy_elements(field_address(row, self), value.native(), row.size, row.count);
     Py_RETURN_NONE;
 }
 
 PyObject *get_pointer(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
-    if (!read_self(row, args, self)) {
-        return nullptr;
-    }
+    if (!read_self(row, args, self)) return nullptr;
     return SWIG_Python_NewPointerObj(load<void *>(field_address(row, self)), slot(row.call, kField),
                                      0);
 }
@@ -206,9 +181,7 @@ PyObject *get_pointer(const FieldRow &row, PyObject *args) {
 PyObject *set_pointer(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
     PyObject *object = nullptr;
-    if (!read_setter(row, args, self, object)) {
-        return nullptr;
-    }
+    if (!read_setter(row, args, self, object)) return nullptr;
     void *value = nullptr;
     const int status =
         SWIG_Python_ConvertPtrAndOwn(object, &value, slot(row.call, kField), FLAG_DISOWN);
@@ -216,17 +189,13 @@ PyObject *set_pointer(const FieldRow &row, PyObject *args) {
         refuse(row.call, kField, status);
         return nullptr;
     }
-    if (self != nullptr) {
-        store(field_address(row, self), value);
-    }
+    if (self != nullptr) store(field_address(row, self), value);
     Py_RETURN_NONE;
 }
 
 PyObject *get_mac(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
-    if (!read_self(row, args, self)) {
-        return nullptr;
-    }
+    if (!read_self(row, args, self)) return nullptr;
     return MacText::result(static_cast<const uint8 *>(field_address(row, self)), row.call);
 }
 
@@ -244,9 +213,7 @@ PyObject *set_mac(const FieldRow &row, PyObject *args) {
 
 PyObject *get_text(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
-    if (!read_self(row, args, self)) {
-        return nullptr;
-    }
+    if (!read_self(row, args, self)) return nullptr;
     return text_result(load<const char *>(field_address(row, self)));
 }
 
@@ -257,27 +224,19 @@ PyObject *set_constant_text(const FieldRow &row, PyObject *args) {
 }
 
 PyObject *new_struct(const CallRow &row, PyObject *args, std::size_t size) {
-    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), 0, 0)) {
-        return nullptr;
-    }
+    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), 0, 0)) return nullptr;
     void *memory = ::operator new(size, std::nothrow);
-    if (memory == nullptr) {
-        return PyErr_NoMemory();
-    }
+    if (memory == nullptr) return PyErr_NoMemory();
     std::memset(memory, 0, size);
     PyObject *object =
         SWIG_Python_NewPointerObj(memory, slot(row, kResultSlot), FLAG_OWN | FLAG_NOPROXY);
-    if (object == nullptr) {
-        ::operator delete(memory);
-    }
+    if (object == nullptr) ::operator delete(memory);
     return object;
 }
 
 PyObject *delete_struct(const CallRow &row, PyObject *args) {
     PyObject *object = nullptr;
-    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), 1, 1, &object)) {
-        return nullptr;
-    }
+    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), 1, 1, &object)) return nullptr;
     void *memory = nullptr;
     const int status = SWIG_Python_ConvertPtrAndOwn(object, &memory, slot(row, kSelf), FLAG_DISOWN);
     if (status < 0) {

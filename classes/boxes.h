@@ -21,14 +21,10 @@ template <typename Kind>
 PyObject *new_box(const CallRow &row, PyObject *args) {
     return call_with<>(row, args, [&]() -> PyObject * {
         void *element = ::operator new(sizeof(typename Kind::Native), std::nothrow);
-        if (element == nullptr) {
-            return PyErr_NoMemory();
-        }
+        if (element == nullptr) return PyErr_NoMemory();
         PyObject *object =
             SWIG_Python_NewPointerObj(element, slot(row, kResultSlot), FLAG_OWN | FLAG_NOPROXY);
-        if (object == nullptr) {
-            ::operator delete(element);
-        }
+        if (object == nullptr) ::operator delete(element);
         return object;
     });
 }
@@ -121,9 +117,7 @@ PyObject *get_item(const CallRow &row, PyObject *args) {
     return call_with<Pointer, Int32>(row, args, [&](void *array, int index) -> PyObject * {
         typename Kind::Native value;
         const void *element = element_address(row, array, index, sizeof value);
-        if (element == nullptr) {
-            return nullptr;
-        }
+        if (element == nullptr) return nullptr;
         std::memcpy(&value, element, sizeof value);
         return Kind::result(value, row);
     });
@@ -134,9 +128,7 @@ PyObject *set_item(const CallRow &row, PyObject *args) {
     return call_with<Pointer, Int32, Kind>(
         row, args, [&](void *array, int index, typename Kind::Native value) -> PyObject * {
             void *element = element_address(row, array, index, sizeof value);
-            if (element == nullptr) {
-                return nullptr;
-            }
+            if (element == nullptr) return nullptr;
             std::memcpy(element, &value, sizeof value);
             Py_RETURN_NONE;
         });

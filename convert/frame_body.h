@@ -21,16 +21,13 @@ namespace ombra {
 // cancelled goes on unwinding.
 template <typename... Args, typename Body>
 [[gnu::always_inline]] inline PyObject *call_with(const CallRow &row, PyObject *args, Body body) {
-    return [&]<std::size_t... I>(std::index_sequence<I...>)->PyObject * {
+    return [&]<std::size_t... I>(std::index_sequence<I...>) -> PyObject * {
         constexpr auto count = static_cast<Py_ssize_t>(sizeof...(Args));
         [[maybe_unused]] PyObject *items[sizeof...(Args) + 1] = {};
-        if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...)) {
+        if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...))
             return nullptr;  // 1
-        }
         [[maybe_unused]] std::tuple<Args...> values;
-        if (!(std::get<I>(values).read(items[I], row, I) && ...)) {
-            return nullptr;  // 2
-        }
+        if (!(std::get<I>(values).read(items[I], row, I) && ...)) return nullptr;  // 2
         try {
             return body(std::get<I>(values).native()...);  // 3, 4
         } catch (abi::__forced_unwind &) {
@@ -38,8 +35,7 @@ template <typename... Args, typename Body>
         } catch (...) {
             return native_exception();
         }
-    }
-    (std::index_sequence_for<Args...>());
+    }(std::index_sequence_for<Args...>());
 }
 
 template <typename Result, typename... Args>
@@ -59,9 +55,7 @@ PyObject *AppendCall<Result(Args...)>::run(const CallRow &row, Native native, Py
     return call_with<Args...>(row, args, [&](const auto &...values) {
         int output = 0;
         PyObject *status = Result::result(native(values..., &output), row);
-        if (status == nullptr) {
-            return status;  // the output alone would hide the exception
-        }
+        if (status == nullptr) return status;  // the output alone would hide the exception
         return SWIG_Python_AppendOutput(status, PyInt_FromLong(output));
     });
 }

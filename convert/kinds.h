@@ -39,13 +39,10 @@ class SignedKind {
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
         const int status = SWIG_AsVal_long(object, &value_);
-        if (status < 0) {
-            return refuse(row, index, status);
-        }
+        if (status < 0) return refuse(row, index, status);
         constexpr auto bias = static_cast<unsigned long>(std::numeric_limits<Number>::max()) + 1;
-        if (static_cast<unsigned long>(value_) + bias > 2 * bias - 1) {
+        if (static_cast<unsigned long>(value_) + bias > 2 * bias - 1)
             return refuse(row, index, STATUS_OVERFLOW);
-        }
         return true;
     }
 
@@ -65,23 +62,18 @@ class UnsignedKind {
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
         const int status = SWIG_AsVal_unsigned_SS_long(object, &value_);
-        if (status < 0) {
-            return refuse(row, index, status);
-        }
-        if (value_ > std::numeric_limits<Number>::max()) {
-            return refuse(row, index, STATUS_OVERFLOW);
-        }
+        if (status < 0) return refuse(row, index, status);
+        if (value_ > std::numeric_limits<Number>::max()) return refuse(row, index, STATUS_OVERFLOW);
         return true;
     }
 
     Native native() const { return static_cast<Native>(value_); }
 
     static PyObject *result(Native value, const CallRow &) {
-        if constexpr (sizeof(Number) == sizeof(std::uint32_t)) {
+        if constexpr (sizeof(Number) == sizeof(std::uint32_t))
             return PyInt_FromSize_t(value);
-        } else {
+        else
             return PyInt_FromLong(value);
-        }
     }
 
   private:
@@ -149,9 +141,7 @@ class StrictBool {
     using Native = bool;
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
-        if (Py_TYPE(object) != &PyBool_Type) {
-            return refuse(row, index, STATUS_TYPE);
-        }
+        if (Py_TYPE(object) != &PyBool_Type) return refuse(row, index, STATUS_TYPE);
         const int status = SWIG_AsVal_bool(object, &value_);
         return status >= 0 || refuse(row, index, status);
     }
@@ -174,9 +164,7 @@ class Text {
     Text(const Text &) = delete;
     Text &operator=(const Text &) = delete;
     ~Text() {
-        if (alloc_ == STATUS_NEWOBJ) {
-            delete[] text_;
-        }
+        if (alloc_ == STATUS_NEWOBJ) delete[] text_;
     }
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
@@ -246,9 +234,7 @@ class Reference {
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
         const int status = SWIG_Python_ConvertPtrAndOwn(object, &value_, slot(row, index), 0);
-        if (status < 0) {
-            return refuse(row, index, status);
-        }
+        if (status < 0) return refuse(row, index, status);
         return value_ != nullptr || refuse_null(row, index);
     }
 
@@ -277,16 +263,10 @@ class Value {
     bool read(PyObject *object, const CallRow &row, unsigned index) {
         void *source = nullptr;
         const int status = SWIG_Python_ConvertPtrAndOwn(object, &source, slot(row, index), 0);
-        if (status < 0) {
-            return refuse(row, index, status);
-        }
-        if (source == nullptr) {
-            return refuse_null(row, index);
-        }
+        if (status < 0) return refuse(row, index, status);
+        if (source == nullptr) return refuse_null(row, index);
         std::memcpy(&value_, source, Size);
-        if ((status & STATUS_NEWOBJ) != 0) {
-            ::operator delete(source);
-        }
+        if ((status & STATUS_NEWOBJ) != 0) ::operator delete(source);
         return true;
     }
 

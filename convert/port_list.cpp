@@ -34,20 +34,15 @@ Chunks reported(const bcm_pbmp_t &pbmp) {
 }  // namespace
 
 bool ombra::add_ports(PyObject *object, bcm_pbmp_t &pbmp) {
-    if (!PyList_Check(object)) {
-        return refuse_with(PyExc_TypeError, "Expected a list");
-    }
+    if (!PyList_Check(object)) return refuse_with(PyExc_TypeError, "Expected a list");
     const Py_ssize_t count = PyList_GET_SIZE(object);
     for (Py_ssize_t i = 0; i < count; ++i) {
         PyObject *item = PyList_GET_ITEM(object, i);
-        if (!PyInt_Check(item)) {
+        if (!PyInt_Check(item))
             return refuse_with(PyExc_TypeError, "Port list must contain integers");
-        }
         // Negative numbers become large ones here: one compare refuses both ends.
         const auto port = static_cast<unsigned long>(PyInt_AS_LONG(item));
-        if (port >= kBits) {
-            return refuse_with(PyExc_ValueError, "Port number out of range");
-        }
+        if (port >= kBits) return refuse_with(PyExc_ValueError, "Port number out of range");
         pbmp.pbits[port / kWordBits] |= 1U << (port % kWordBits);
     }
     return true;
@@ -55,18 +50,14 @@ bool ombra::add_ports(PyObject *object, bcm_pbmp_t &pbmp) {
 
 void pyListToPbmp(PyObject *object, bcm_pbmp_t *out) {
     bcm_pbmp_t pbmp{};
-    if (ombra::add_ports(object, pbmp)) {
-        *out = pbmp;
-    }
+    if (ombra::add_ports(object, pbmp)) *out = pbmp;
 }
 
 PyObject *pbmpToPyList(const bcm_pbmp_t &pbmp) {
     // Most words are empty, and counting bits is a call on the baseline machine.
     const Chunks chunks = reported(pbmp);
     int count = 0;
-    for (const std::uint64_t chunk : chunks) {
-        count += chunk == 0 ? 0 : std::popcount(chunk);
-    }
+    for (const std::uint64_t chunk : chunks) count += chunk == 0 ? 0 : std::popcount(chunk);
     PyObject *list = PyList_New(count);
     Py_ssize_t next = 0;
     for (unsigned i = 0; list != nullptr && i < kChunks; ++i) {

@@ -16,9 +16,7 @@ int checked(Value value, Value *out) {
         PyErr_Clear();
         return STATUS_OVERFLOW;
     }
-    if (out != nullptr) {
-        *out = value;
-    }
+    if (out != nullptr) *out = value;
     return STATUS_OK;
 }
 
@@ -44,9 +42,7 @@ int SWIG_AsVal_bool(PyObject *object, bool *out) {
         PyErr_Clear();
         return STATUS_GENERIC;
     }
-    if (out != nullptr) {
-        *out = truth != 0;
-    }
+    if (out != nullptr) *out = truth != 0;
     return STATUS_OK;
 }
 
@@ -60,47 +56,30 @@ int text_of_string(PyObject *object, char **text, std::size_t *size, int *alloc)
     if (text != nullptr) {
         if (alloc != nullptr && *alloc == STATUS_NEWOBJ) {
             char *const copy = new (std::nothrow) char[bytes];
-            if (copy == nullptr) {
-                return STATUS_MEMORY;
-            }
+            if (copy == nullptr) return STATUS_MEMORY;
             std::memcpy(copy, storage, bytes);
             *text = copy;
         } else {
             *text = storage;
-            if (alloc != nullptr) {
-                *alloc = 0;
-            }
+            if (alloc != nullptr) *alloc = 0;
         }
     }
-    if (size != nullptr) {
-        *size = bytes;
-    }
+    if (size != nullptr) *size = bytes;
     return STATUS_OK;
 }
 
 }  // namespace
 
 int SWIG_AsCharPtrAndSize(PyObject *object, char **text, std::size_t *size, int *alloc) {
-    if (PyString_Check(object)) {
-        return text_of_string(object, text, size, alloc);
-    }
+    if (PyString_Check(object)) return text_of_string(object, text, size, alloc);
     swig_type_info *descriptor = SWIG_pchar_descriptor();
-    if (descriptor == nullptr) {
-        return STATUS_TYPE;
-    }
+    if (descriptor == nullptr) return STATUS_TYPE;
     void *pointer = nullptr;
-    if (SWIG_Python_ConvertPtrAndOwn(object, &pointer, descriptor, 0) != STATUS_OK) {
+    if (SWIG_Python_ConvertPtrAndOwn(object, &pointer, descriptor, 0) != STATUS_OK)
         return STATUS_TYPE;
-    }
     char *const characters = static_cast<char *>(pointer);
-    if (text != nullptr) {
-        *text = characters;
-    }
-    if (size != nullptr) {
-        *size = characters == nullptr ? 0 : std::strlen(characters) + 1;
-    }
-    if (alloc != nullptr) {
-        *alloc = 0;
-    }
+    if (text != nullptr) *text = characters;
+    if (size != nullptr) *size = characters == nullptr ? 0 : std::strlen(characters) + 1;
+    if (alloc != nullptr) *alloc = 0;
     return STATUS_OK;
 }

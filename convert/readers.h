@@ -20,38 +20,24 @@ int unsigned_long_long_from_long(PyObject *object, unsigned long long *out);
 }  // namespace ombra
 
 inline int SWIG_AsVal_long(PyObject *object, long *out) {
-    if (!PyInt_Check(object)) {
-        return ombra::long_from_other(object, out);
-    }
-    if (out != nullptr) {
-        *out = PyInt_AS_LONG(object);
-    }
+    if (!PyInt_Check(object)) return ombra::long_from_other(object, out);
+    if (out != nullptr) *out = PyInt_AS_LONG(object);
     return STATUS_OK;
 }
 
 inline int SWIG_AsVal_unsigned_SS_long(PyObject *object, unsigned long *out) {
-    if (!PyInt_Check(object)) {
-        return ombra::unsigned_long_from_other(object, out);
-    }
+    if (!PyInt_Check(object)) return ombra::unsigned_long_from_other(object, out);
     const long value = PyInt_AS_LONG(object);
-    if (value < 0) {
-        return STATUS_OVERFLOW;
-    }
-    if (out != nullptr) {
-        *out = static_cast<unsigned long>(value);
-    }
+    if (value < 0) return STATUS_OVERFLOW;
+    if (out != nullptr) *out = static_cast<unsigned long>(value);
     return STATUS_OK;
 }
 
 inline int SWIG_AsVal_unsigned_SS_long_SS_long(PyObject *object, unsigned long long *out) {
-    if (PyLong_Check(object)) {
-        return ombra::unsigned_long_long_from_long(object, out);
-    }
+    if (PyLong_Check(object)) return ombra::unsigned_long_long_from_long(object, out);
     unsigned long value = 0;
     const int status = SWIG_AsVal_unsigned_SS_long(object, &value);
-    if (status >= 0 && out != nullptr) {
-        *out = value;
-    }
+    if (status >= 0 && out != nullptr) *out = value;
     return status;
 }
 

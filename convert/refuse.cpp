@@ -13,9 +13,7 @@ constexpr char kNullPrefix[] = "invalid null reference ";
 
 const char *stored_text(const CallRow &row, unsigned index) {
     const char *text = row.texts;
-    for (; index > 0; --index) {
-        text += std::strlen(text) + 1;
-    }
+    for (; index > 0; --index) text += std::strlen(text) + 1;
     return text;
 }
 

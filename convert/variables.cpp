@@ -19,16 +19,12 @@ int copy_text(PyObject *object, char **copy) {
     std::size_t size = 0;
     int alloc = STATUS_NEWOBJ;
     const int status = SWIG_AsCharPtrAndSize(object, &text, &size, &alloc);
-    if (status < 0) {
-        return status;
-    }
+    if (status < 0) return status;
     if (alloc == STATUS_NEWOBJ) {
         *copy = text;
     } else if (size != 0) {
         char *const owned = new (std::nothrow) char[size];
-        if (owned == nullptr) {
-            return STATUS_MEMORY;
-        }
+        if (owned == nullptr) return STATUS_MEMORY;
         std::memcpy(owned, text, size);
         *copy = owned;
     } else {

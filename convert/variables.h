@@ -40,12 +40,8 @@ struct IntVariable {
     static int set(PyObject *object) {
         long value = 0;
         int status = SWIG_AsVal_long(object, &value);
-        if (status >= 0 && value != static_cast<int>(value)) {
-            status = STATUS_OVERFLOW;
-        }
-        if (status < 0) {
-            return refuse_variable(status, Message.text);
-        }
+        if (status >= 0 && value != static_cast<int>(value)) status = STATUS_OVERFLOW;
+        if (status < 0) return refuse_variable(status, Message.text);
         *Variable = static_cast<int>(value);
         return 0;
     }
@@ -62,10 +58,8 @@ struct TextVariable {
     static int set(PyObject *object) {
         char *copy = nullptr;
         const int status = copy_text(object, &copy);
-        if (status < 0) {
-            return refuse_variable(status, Message.text);
-        }
-        delete[] * Variable;
+        if (status < 0) return refuse_variable(status, Message.text);
+        delete[] *Variable;
         *Variable = copy;
         return 0;
     }
@@ -79,12 +73,8 @@ struct BlockVariable {
     static int set(PyObject *object) {
         void *source = nullptr;
         const int status = SWIG_Python_ConvertPtrAndOwn(object, &source, swig_type_slots[Slot], 0);
-        if (status < 0) {
-            return refuse_variable(status, NullMessage.text + kNullPrefixLength);
-        }
-        if (source == nullptr) {
-            return refuse_variable_with(PyExc_ValueError, NullMessage.text);
-        }
+        if (status < 0) return refuse_variable(status, NullMessage.text + kNullPrefixLength);
+        if (source == nullptr) return refuse_variable_with(PyExc_ValueError, NullMessage.text);
         std::memmove(Variable, source, sizeof *Variable);
         return 0;
     }
@@ -101,9 +91,7 @@ struct FunctionVariable {
     static int set(PyObject *object) {
         void *value = nullptr;
         const int status = SWIG_Python_ConvertFunctionPtr(object, &value, swig_type_slots[Slot]);
-        if (status < 0) {
-            return refuse_variable(status, Message.text);
-        }
+        if (status < 0) return refuse_variable(status, Message.text);
         std::memcpy(Variable, &value, sizeof value);
         return 0;
     }

@@ -60,9 +60,8 @@ PyObject *find_chip_memory(const FindChipMemoryRows &rows, PyObject *args) {
     PyObject *items[4] = {};
     for (Py_ssize_t i = 0; i < count && i < 4; ++i) items[i] = PyTuple_GET_ITEM(args, i);
 
-    if (count == 3 && could_be_int(items[0]) && could_be_int(items[1]) && could_be_int(items[2])) {
+    if (count == 3 && could_be_int(items[0]) && could_be_int(items[1]) && could_be_int(items[2]))
         return by_base(rows, args);
-    }
     if (count == 4 && could_be_int(items[0]) && could_be_int(items[1]) &&
         could_be_pointer(items[2], slot(rows.by_address, kAddress)) &&
         could_be_pointer(items[3], slot(rows.by_address, kSizeBytes))) {

@@ -15,13 +15,13 @@
 #include <vector>
 
 #include "generator/check/check.h"
-#include "generator/emit/emitters.h"
-#include "generator/model/faults.h"
-#include "generator/emit/output.h"
-#include "generator/read/read_catalogue.h"
-#include "generator/read/read_headers.h"
 #include "generator/check/resolve.h"
 #include "generator/check/rows.h"
+#include "generator/emit/emitters.h"
+#include "generator/emit/output.h"
+#include "generator/model/faults.h"
+#include "generator/read/read_catalogue.h"
+#include "generator/read/read_headers.h"
 
 namespace generator {
 namespace {
@@ -31,14 +31,10 @@ namespace fs = std::filesystem;
 // Headers below `folder`, as paths from `root`, in path order. A missing folder has none.
 std::vector<std::string> headers_below(const fs::path &root, const std::string &folder) {
     std::vector<std::string> headers;
-    if (!fs::exists(root / folder)) {
-        return headers;
-    }
-    for (const auto &entry : fs::recursive_directory_iterator(root / folder)) {
-        if (entry.path().extension() == ".h") {
+    if (!fs::exists(root / folder)) return headers;
+    for (const auto &entry : fs::recursive_directory_iterator(root / folder))
+        if (entry.path().extension() == ".h")
             headers.push_back(fs::relative(entry.path(), root).string());
-        }
-    }
     std::sort(headers.begin(), headers.end());
     return headers;
 }
@@ -46,23 +42,14 @@ std::vector<std::string> headers_below(const fs::path &root, const std::string &
 void read_headers(const fs::path &root, Model &model, Faults &faults) {
     const auto read = [&](const std::string &header, HeaderRole role) {
         read_header(header, read_file(root / header), role, model, faults);
-        if (role != HeaderRole::types_only) {
-            model.headers.push_back(header);
-        }
+        if (role != HeaderRole::types_only) model.headers.push_back(header);
     };
-    for (const auto &header : headers_below(root, "platform/native")) {
+    for (const auto &header : headers_below(root, "platform/native"))
         read(header, HeaderRole::types_only);
-    }
-    for (const char *folder : {"platform/helper", "platform/sdk"}) {
-        for (const auto &header : headers_below(root, folder)) {
-            read(header, HeaderRole::bound);
-        }
-    }
-    for (const char *header : {"api/exported.h", "api/native_rows.h"}) {
-        if (fs::exists(root / header)) {
-            read(header, HeaderRole::module_native);
-        }
-    }
+    for (const char *folder : {"platform/helper", "platform/sdk"})
+        for (const auto &header : headers_below(root, folder)) read(header, HeaderRole::bound);
+    for (const char *header : {"api/exported.h", "api/native_rows.h"})
+        if (fs::exists(root / header)) read(header, HeaderRole::module_native);
 }
 
 void read_catalogue(const fs::path &root, Model &model, Faults &faults) {
@@ -72,9 +59,7 @@ void read_catalogue(const fs::path &root, Model &model, Faults &faults) {
                                                     {"catalogue/constants.txt", read_constants},
                                                     {"catalogue/variables.txt", read_variables},
                                                     {"catalogue/departures.txt", read_departures}};
-    for (const auto &[table, read] : tables) {
-        read(table, read_file(root / table), model, faults);
-    }
+    for (const auto &[table, read] : tables) read(table, read_file(root / table), model, faults);
 }
 
 using Emitter = std::function<std::string(const Model &)>;
@@ -142,9 +127,7 @@ int generate(const fs::path &root, const fs::path &out) {
         }
     }
     std::size_t fields = 0;
-    for (const auto &record : model.structs) {
-        fields += record.fields.size();
-    }
+    for (const auto &record : model.structs) fields += record.fields.size();
     std::cout << "checked " << model.functions.size() << " functions, " << model.structs.size()
               << " classes with " << fields << " fields, " << model.types.size() << " types, "
               << all_rows(model).size() + 1 << " rows\n";
@@ -158,9 +141,8 @@ int list_kinds(const fs::path &root) {
     std::sort(model.kinds.begin(), model.kinds.end(), [](const KindRow &a, const KindRow &b) {
         return std::tie(a.kind, a.type) < std::tie(b.kind, b.type);
     });
-    for (const auto &row : model.kinds) {
+    for (const auto &row : model.kinds)
         std::cout << kind_name(row.kind) << "\t" << row.type << "\n";
-    }
     return 0;
 }
 
@@ -173,17 +155,14 @@ int run(const std::vector<std::string> &arguments) {
             list_rules(std::cout);
             return 0;
         }
-        if (arguments[i] == "--list-kinds") {
+        if (arguments[i] == "--list-kinds")
             kinds = true;
-        } else if (arguments[i] == "--root" && i + 1 < arguments.size()) {
+        else if (arguments[i] == "--root" && i + 1 < arguments.size())
             root = arguments[++i];
-        } else if (arguments[i] == "--out" && i + 1 < arguments.size()) {
+        else if (arguments[i] == "--out" && i + 1 < arguments.size())
             out = arguments[++i];
-        }
     }
-    if (kinds && root) {
-        return list_kinds(*root);
-    }
+    if (kinds && root) return list_kinds(*root);
     if (!root || !out) {
         std::cerr << "usage: generator --root DIR --out DIR | --list-rules | "
                      "--root DIR --list-kinds\n";

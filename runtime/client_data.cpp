@@ -42,9 +42,7 @@ void take_destroy(SwigPyClientData &data) {
 }  // namespace
 
 SwigPyClientData *SwigPyClientData_New(PyObject *proxy_class) {
-    if (proxy_class == nullptr) {
-        return nullptr;
-    }
+    if (proxy_class == nullptr) return nullptr;
     auto *data = static_cast<SwigPyClientData *>(std::malloc(sizeof(SwigPyClientData)));
     if (data == nullptr) {
         PyErr_NoMemory();
@@ -61,13 +59,9 @@ SwigPyClientData *SwigPyClientData_New(PyObject *proxy_class) {
 
 PyObject *SWIG_Python_RegisterClass(swig_type_info *type, PyObject *args) {
     PyObject *proxy_class = nullptr;
-    if (!PyArg_UnpackTuple(args, "swigregister", 1, 1, &proxy_class)) {
-        return nullptr;
-    }
+    if (!PyArg_UnpackTuple(args, "swigregister", 1, 1, &proxy_class)) return nullptr;
     SwigPyClientData *data = SwigPyClientData_New(proxy_class);
-    if (data == nullptr) {
-        return nullptr;
-    }
+    if (data == nullptr) return nullptr;
     SWIG_TypeClientData(type, data);
     type->owns_client_data = 1;
     Py_RETURN_NONE;

@@ -4,12 +4,8 @@ namespace {
 
 // -1 for a character that is no digit, the terminator included.
 int digit_value(char digit) {
-    if (digit >= '0' && digit <= '9') {
-        return digit - '0';
-    }
-    if (digit >= 'a' && digit <= 'f') {
-        return digit - 'a' + 10;
-    }
+    if (digit >= '0' && digit <= '9') return digit - '0';
+    if (digit >= 'a' && digit <= 'f') return digit - 'a' + 10;
     return -1;
 }
 
@@ -30,9 +26,7 @@ const char *SWIG_UnpackData(const char *text, void *bytes, std::size_t size) {
     for (const unsigned char *const end = byte + size; byte != end; ++byte) {
         const int high = digit_value(text[0]);
         const int low = high < 0 ? -1 : digit_value(text[1]);
-        if (low < 0) {
-            return nullptr;
-        }
+        if (low < 0) return nullptr;
         *byte = static_cast<unsigned char>(high * 16 + low);
         text += 2;
     }

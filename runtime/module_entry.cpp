@@ -14,11 +14,8 @@ namespace {
 constexpr std::string_view kMarker = "swig_ptr: ";
 
 const swig_const_row *find_named_row(const swig_const_row *rows, std::string_view text) {
-    for (const swig_const_row *row = rows; row->kind != SWIG_CONST_END; ++row) {
-        if (text.starts_with(row->name)) {
-            return row;
-        }
-    }
+    for (const swig_const_row *row = rows; row->kind != SWIG_CONST_END; ++row)
+        if (text.starts_with(row->name)) return row;
     return nullptr;
 }
 
@@ -42,22 +39,15 @@ char *callback_docstring(std::string_view before, void *pointer, std::string_vie
 }
 
 PyObject *object_of_row(const swig_const_row &row) {
-    if (row.kind == SWIG_CONST_POINTER) {
-        return SWIG_Python_NewPointerObj(row.pointer, *row.type, 0);
-    }
-    if (row.kind != SWIG_CONST_PACKED) {
-        return nullptr;
-    }
-    if (row.pointer == nullptr) {
-        Py_RETURN_NONE;
-    }
+    if (row.kind == SWIG_CONST_POINTER) return SWIG_Python_NewPointerObj(row.pointer, *row.type, 0);
+    if (row.kind != SWIG_CONST_PACKED) return nullptr;
+    if (row.pointer == nullptr) Py_RETURN_NONE;
     return SwigPyPacked_New(row.pointer, row.size, *row.type);
 }
 
 void install_constants(PyObject *dictionary, const swig_constant *first, std::size_t count) {
-    for (const swig_constant *constant = first; constant != first + count; ++constant) {
+    for (const swig_constant *constant = first; constant != first + count; ++constant)
         SWIG_Python_SetConstant(dictionary, constant->name, PyInt_FromLong(constant->value));
-    }
 }
 
 void link_variables(const swig_variable *first, std::size_t count) {
@@ -76,9 +66,7 @@ void install(PyObject *dictionary, const swig_module_definition &definition,
             install_constants(dictionary, definition.constants + step.first, step.count);
             break;
         case swig_install_kind::cvar:
-            if (PyObject *cvar = SWIG_Python_cvar()) {
-                PyDict_SetItemString(dictionary, "cvar", cvar);
-            }
+            if (PyObject *cvar = SWIG_Python_cvar()) PyDict_SetItemString(dictionary, "cvar", cvar);
             break;
         case swig_install_kind::link:
             link_variables(definition.variables + step.first, step.count);
@@ -93,16 +81,13 @@ void SWIG_Python_RunEntry(const swig_module_definition &definition) {
                                 swig_type_slots);
     PyObject *module =
         Py_InitModule4(definition.name, definition.methods, nullptr, nullptr, PYTHON_API_VERSION);
-    if (module == nullptr) {
-        return;
-    }
+    if (module == nullptr) return;
     PyObject *dictionary = PyModule_GetDict(module);
     SWIG_Python_JoinModuleList(*definition.table, swig_type_seeds, swig_cast_seeds);
     SWIG_Python_InstallRows(dictionary, definition.const_rows);
     PyEval_InitThreads();
-    for (std::size_t index = 0; index < definition.step_count; ++index) {
+    for (std::size_t index = 0; index < definition.step_count; ++index)
         install(dictionary, definition, definition.steps[index]);
-    }
 }
 
 void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *rows,
@@ -110,26 +95,20 @@ void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *row
     for (PyMethodDef *method = methods; method->ml_name != nullptr; ++method) {
         const char *marker =
             method->ml_doc != nullptr ? std::strstr(method->ml_doc, kMarker.data()) : nullptr;
-        if (marker == nullptr) {
-            continue;
-        }
+        if (marker == nullptr) continue;
         const swig_const_row *row = find_named_row(rows, marker + kMarker.size());
-        if (row == nullptr || row->kind != SWIG_CONST_POINTER || row->pointer == nullptr) {
-            continue;
-        }
+        if (row == nullptr || row->kind != SWIG_CONST_POINTER || row->pointer == nullptr) continue;
         const std::string_view before(method->ml_doc,
                                       static_cast<std::size_t>(marker - method->ml_doc));
         const swig_type_info *type = type_seeds[row->type - type_slots];
-        if (char *text = callback_docstring(before, row->pointer, type->name)) {
+        if (char *text = callback_docstring(before, row->pointer, type->name))
             method->ml_doc = text;
-        }
     }
 }
 
 void SWIG_Python_InstallRows(PyObject *dictionary, const swig_const_row *rows) {
-    for (const swig_const_row *row = rows; row->kind != SWIG_CONST_END; ++row) {
+    for (const swig_const_row *row = rows; row->kind != SWIG_CONST_END; ++row)
         SWIG_Python_SetConstant(dictionary, row->name, object_of_row(*row));
-    }
 }
 
 void SWIG_Python_SetConstant(PyObject *dictionary, const char *name, PyObject *object) {

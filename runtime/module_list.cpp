@@ -13,9 +13,7 @@ constexpr char kCapsuleName[] = "swig_runtime_data4.type_pointer_capsule";
 bool is_listed(const swig_module_table *head, const swig_module_table *wanted) {
     const swig_module_table *table = head;
     do {
-        if (table == wanted) {
-            return true;
-        }
+        if (table == wanted) return true;
         table = table->next;
     } while (table != head);
     return false;
@@ -28,12 +26,8 @@ swig_type_info *find_elsewhere(swig_module_table &table, const char *name) {
 
 swig_type_info *shared_or_own(swig_module_table &table, swig_type_info *seed) {
     swig_type_info *shared = find_elsewhere(table, seed->name);
-    if (shared == nullptr) {
-        return seed;
-    }
-    if (seed->client_data != nullptr) {
-        shared->client_data = seed->client_data;
-    }
+    if (shared == nullptr) return seed;
+    if (seed->client_data != nullptr) shared->client_data = seed->client_data;
     return shared;
 }
 
@@ -42,9 +36,7 @@ swig_type_info *shared_or_own(swig_module_table &table, swig_type_info *seed) {
 bool is_missing(swig_module_table &table, swig_type_info *type, const swig_type_info *seed,
                 swig_cast_link &row) {
     swig_type_info *source = find_elsewhere(table, row.type->name);
-    if (source == nullptr) {
-        return true;
-    }
+    if (source == nullptr) return true;
     if (type == seed) {
         row.type = source;
         return true;
@@ -79,21 +71,16 @@ void SWIG_Python_SetModule(swig_module_table *table) {
     PyObject *module =
         Py_InitModule4(kModuleName, no_methods, nullptr, nullptr, PYTHON_API_VERSION);
     PyObject *capsule = PyCapsule_New(table, kCapsuleName, SWIG_Python_DestroyModule);
-    if (capsule == nullptr) {
-        return;
-    }
+    if (capsule == nullptr) return;
     // PyModule_AddObject takes the reference over, unless it fails.
-    if (module == nullptr || PyModule_AddObject(module, kAttributeName, capsule) != 0) {
+    if (module == nullptr || PyModule_AddObject(module, kAttributeName, capsule) != 0)
         Py_DECREF(capsule);
-    }
 }
 
 void SWIG_Python_DestroyModule(PyObject *capsule) {
     const auto *table =
         static_cast<swig_module_table *>(PyCapsule_GetPointer(capsule, kCapsuleName));
-    if (table == nullptr) {
-        return;
-    }
+    if (table == nullptr) return;
     for (std::uint64_t index = 0; index < table->size; ++index) {
         const swig_type_info *type = table->types[index];
         const SwigPyClientData *data = type->client_data;
@@ -118,23 +105,16 @@ void SWIG_Python_JoinModuleList(swig_module_table &table, swig_type_info *const 
     if (head == nullptr) {
         SWIG_Python_SetModule(&table);
     } else {
-        if (is_listed(head, &table)) {
-            return;
-        }
+        if (is_listed(head, &table)) return;
         table.next = head->next;
         head->next = &table;
     }
-    if (!first_run) {
-        return;
-    }
+    if (!first_run) return;
     for (std::uint64_t index = 0; index < table.size; ++index) {
         swig_type_info *const seed = type_seeds[index];
         swig_type_info *const type = shared_or_own(table, seed);
-        for (swig_cast_link *row = cast_seeds[index]; row->type != nullptr; ++row) {
-            if (is_missing(table, type, seed, *row)) {
-                push_front(type, *row);
-            }
-        }
+        for (swig_cast_link *row = cast_seeds[index]; row->type != nullptr; ++row)
+            if (is_missing(table, type, seed, *row)) push_front(type, *row);
         table.types[index] = type;
     }
     table.types[table.size] = nullptr;

@@ -13,9 +13,7 @@ PyTypeObject SwigPyPacked_type_object;
 SwigPyPacked *as_packed(PyObject *object) { return reinterpret_cast<SwigPyPacked *>(object); }
 
 void SwigPyPacked_dealloc(PyObject *object) {
-    if (SwigPyPacked_Test(object)) {
-        std::free(as_packed(object)->pack);
-    }
+    if (SwigPyPacked_Test(object)) std::free(as_packed(object)->pack);
     PyObject_FREE(object);
 }
 
@@ -35,27 +33,23 @@ int SwigPyPacked_print(PyObject *object, FILE *file, int) {
 PyObject *SwigPyPacked_repr(PyObject *object) {
     const SwigPyPacked *self = as_packed(object);
     char text[SWIG_PACKED_TEXT_SIZE];
-    if (SWIG_PackDataName(text, self->pack, self->size) == nullptr) {
+    if (SWIG_PackDataName(text, self->pack, self->size) == nullptr)
         return PyString_FromFormat("<Swig Packed %s>", self->type->name);
-    }
     return PyString_FromFormat("<Swig Packed at %s%s>", text, self->type->name);
 }
 
 PyObject *SwigPyPacked_str(PyObject *object) {
     const SwigPyPacked *self = as_packed(object);
     char text[SWIG_PACKED_TEXT_SIZE];
-    if (SWIG_PackDataName(text, self->pack, self->size) == nullptr) {
+    if (SWIG_PackDataName(text, self->pack, self->size) == nullptr)
         return PyString_FromString(self->type->name);
-    }
     return PyString_FromFormat("%s%s", text, self->type->name);
 }
 
 int SwigPyPacked_compare(PyObject *left, PyObject *right) {
     const SwigPyPacked *a = as_packed(left);
     const SwigPyPacked *b = as_packed(right);
-    if (a->size != b->size) {
-        return a->size < b->size ? -1 : 1;
-    }
+    if (a->size != b->size) return a->size < b->size ? -1 : 1;
     // Like texts: nothing behind a common zero byte counts. The interpreter wants -1, 0 or 1.
     const int order = std::strncmp(static_cast<const char *>(a->pack),
                                    static_cast<const char *>(b->pack), a->size);
@@ -96,9 +90,7 @@ bool SwigPyPacked_Test(PyObject *object) {
 
 PyObject *SwigPyPacked_New(const void *bytes, std::size_t size, swig_type_info *type) {
     PyTypeObject *const object_type = SwigPyPacked_type();
-    if (object_type == nullptr) {
-        return nullptr;
-    }
+    if (object_type == nullptr) return nullptr;
     auto *self = static_cast<SwigPyPacked *>(PyObject_MALLOC(sizeof(SwigPyPacked)));
     void *pack = std::malloc(size != 0 ? size : 1);
     if (self == nullptr || pack == nullptr) {
@@ -115,9 +107,8 @@ PyObject *SwigPyPacked_New(const void *bytes, std::size_t size, swig_type_info *
 }
 
 char *SWIG_PackDataName(char *buffer, const void *bytes, std::size_t size) {
-    if (size > SWIG_PACKED_TEXT_SIZE / 2 - 1) {  // 2 * size + 2 > SWIG_PACKED_TEXT_SIZE
+    if (size > SWIG_PACKED_TEXT_SIZE / 2 - 1)  // 2 * size + 2 > SWIG_PACKED_TEXT_SIZE
         return nullptr;
-    }
     buffer[0] = '_';
     *SWIG_PackData(buffer + 1, bytes, size) = '\0';
     return buffer;

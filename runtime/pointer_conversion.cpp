@@ -28,15 +28,10 @@ PyObject *this_attribute(PyObject *object, PyObject *name) {
 
 // The next object on the way to a pointer object, borrowed, or null.
 PyObject *step_inward(PyObject *object, PyObject *name) {
-    if (PyInstance_Check(object)) {
-        return _PyInstance_Lookup(object, name);
-    }
-    if (PyObject **dictionary = _PyObject_GetDictPtr(object)) {
+    if (PyInstance_Check(object)) return _PyInstance_Lookup(object, name);
+    if (PyObject **dictionary = _PyObject_GetDictPtr(object))
         return *dictionary != nullptr ? PyDict_GetItem(*dictionary, name) : nullptr;
-    }
-    if (PyWeakref_CheckProxy(object)) {
-        return PyWeakref_GET_OBJECT(object);  // None once it is dead
-    }
+    if (PyWeakref_CheckProxy(object)) return PyWeakref_GET_OBJECT(object);  // None once it is dead
     return this_attribute(object, name);
 }
 
@@ -48,21 +43,14 @@ struct Match {
 };
 
 Match find_match(SwigPyObject *head, swig_type_info *wanted) {
-    if (wanted == nullptr) {
-        return {head, nullptr};
-    }
+    if (wanted == nullptr) return {head, nullptr};
     ombra::RingGuard ring;
     for (SwigPyObject *link = head; link != nullptr; link = as_pointer_object(link->next)) {
-        if (ring.closes(link)) {
-            break;
-        }
-        if (link->type == wanted) {
-            return {link, nullptr};
-        }
+        if (ring.closes(link)) break;
+        if (link->type == wanted) return {link, nullptr};
         if (link->type != nullptr) {
-            if (const swig_cast_link *cast = SWIG_TypeCheck(link->type->name, wanted)) {
+            if (const swig_cast_link *cast = SWIG_TypeCheck(link->type->name, wanted))
                 return {link, cast};
-            }
         }
     }
     return {};
@@ -71,28 +59,19 @@ Match find_match(SwigPyObject *head, swig_type_info *wanted) {
 // `condition` is what does not hold if the converter allocates: nobody here could own the result.
 void *cast_pointer(const swig_cast_link *cast, void *pointer, const char *condition,
                    const char *function) {
-    if (cast == nullptr || cast->converter == nullptr) {
-        return pointer;
-    }
+    if (cast == nullptr || cast->converter == nullptr) return pointer;
     int new_memory = 0;
     void *converted = cast->converter(pointer, &new_memory);
-    if (new_memory != 0) {
-        ombra::assertion_failed(condition, function);
-    }
+    if (new_memory != 0) ombra::assertion_failed(condition, function);
     return converted;
 }
 
 int convert_chain(SwigPyObject *head, void **out, swig_type_info *wanted, int flags) {
     const Match match = find_match(head, wanted);
-    if (match.link == nullptr) {
-        return STATUS_GENERIC;
-    }
-    if (out != nullptr) {
+    if (match.link == nullptr) return STATUS_GENERIC;
+    if (out != nullptr)
         *out = cast_pointer(match.cast, match.link->ptr, "own", "SWIG_Python_ConvertPtrAndOwn");
-    }
-    if ((flags & FLAG_DISOWN) != 0) {
-        match.link->own = 0;
-    }
+    if ((flags & FLAG_DISOWN) != 0) match.link->own = 0;
     return STATUS_OK;
 }
 
@@ -100,9 +79,8 @@ int convert_chain(SwigPyObject *head, void **out, swig_type_info *wanted, int fl
 // the ownership out of it. `converting` keeps the constructor from coming back here.
 int convert_implicitly(PyObject *object, void **out, swig_type_info *wanted) {
     SwigPyClientData *data = wanted != nullptr ? wanted->client_data : nullptr;
-    if (data == nullptr || data->converting != 0 || data->proxy_class == nullptr) {
+    if (data == nullptr || data->converting != 0 || data->proxy_class == nullptr)
         return STATUS_GENERIC;
-    }
     data->converting = 1;
     const PyRef made(PyObject_CallFunctionObjArgs(data->proxy_class, object, nullptr));
     data->converting = 0;
@@ -112,12 +90,8 @@ int convert_implicitly(PyObject *object, void **out, swig_type_info *wanted) {
     }
     SwigPyObject *inner = made != nullptr ? SWIG_Python_GetSwigThis(made.get()) : nullptr;
     void *pointer = nullptr;
-    if (inner == nullptr || convert_chain(inner, &pointer, wanted, 0) < 0) {
-        return STATUS_GENERIC;
-    }
-    if (out == nullptr) {
-        return STATUS_OK;
-    }
+    if (inner == nullptr || convert_chain(inner, &pointer, wanted, 0) < 0) return STATUS_GENERIC;
+    if (out == nullptr) return STATUS_OK;
     *out = pointer;
     inner->own = 0;
     return STATUS_NEWOBJ;
@@ -126,9 +100,7 @@ int convert_implicitly(PyObject *object, void **out, swig_type_info *wanted) {
 // Reads what stands behind the marker in a docstring. Returns the mangled name of the function's
 // type, or null.
 const char *unpack_function(const char *text, void **function, const swig_type_info *wanted) {
-    if (*text == '_') {
-        return SWIG_UnpackData(text + 1, function, sizeof *function);
-    }
+    if (*text == '_') return SWIG_UnpackData(text + 1, function, sizeof *function);
     *function = nullptr;
     return std::strcmp(text, "NULL") == 0 ? wanted->name : nullptr;
 }
@@ -160,29 +132,21 @@ SwigPyObject *SWIG_Python_GetSwigThis(PyObject *object) {
             PyErr_Clear();
             return nullptr;
         }
-        if (ring.closes(object)) {
-            return nullptr;
-        }
+        if (ring.closes(object)) return nullptr;
         object = step_inward(object, name);
     }
     return as_pointer_object(object);
 }
 
 int ombra::convert_pointer(PyObject *object, void **out, swig_type_info *wanted, int flags) {
-    if (object == nullptr) {
-        return STATUS_GENERIC;
-    }
+    if (object == nullptr) return STATUS_GENERIC;
     int status = STATUS_GENERIC;
-    if (SwigPyObject *head = SWIG_Python_GetSwigThis(object)) {
+    if (SwigPyObject *head = SWIG_Python_GetSwigThis(object))
         status = convert_chain(head, out, wanted, flags);
-    }
-    if (status < 0 && (flags & FLAG_IMPLICIT) != 0) {
+    if (status < 0 && (flags & FLAG_IMPLICIT) != 0)
         status = convert_implicitly(object, out, wanted);
-    }
     if (status < 0 && object == Py_None) {
-        if (out != nullptr) {
-            *out = nullptr;
-        }
+        if (out != nullptr) *out = nullptr;
         PyErr_Clear();
         status = STATUS_OK;
     }
@@ -190,39 +154,28 @@ int ombra::convert_pointer(PyObject *object, void **out, swig_type_info *wanted,
 }
 
 int SWIG_Python_ConvertFunctionPtr(PyObject *object, void **out, swig_type_info *wanted) {
-    if (object == nullptr || !PyCFunction_Check(object)) {
+    if (object == nullptr || !PyCFunction_Check(object))
         return SWIG_Python_ConvertPtrAndOwn(object, out, wanted, 0);
-    }
     static const char marker[] = "swig_ptr: ";
     const char *text = reinterpret_cast<PyCFunctionObject *>(object)->m_ml->ml_doc;
     text = text != nullptr ? std::strstr(text, marker) : nullptr;
-    if (text == nullptr || wanted == nullptr) {
-        return STATUS_GENERIC;
-    }
+    if (text == nullptr || wanted == nullptr) return STATUS_GENERIC;
     void *function = nullptr;
     const char *type_name = unpack_function(text + sizeof marker - 1, &function, wanted);
     const swig_cast_link *cast = type_name != nullptr ? SWIG_TypeCheck(type_name, wanted) : nullptr;
-    if (cast == nullptr) {
-        return STATUS_GENERIC;
-    }
-    if (out != nullptr) {
+    if (cast == nullptr) return STATUS_GENERIC;
+    if (out != nullptr)
         *out = cast_pointer(cast, function, "!newmemory", "SWIG_Python_ConvertFunctionPtr");
-    }
     return STATUS_OK;
 }
 
 PyObject *SWIG_Python_NewPointerObj(void *pointer, swig_type_info *type, int flags) {
-    if (pointer == nullptr) {
-        Py_RETURN_NONE;
-    }
-    if ((flags & (1 << 2)) != 0) [[unlikely]] {
+    if (pointer == nullptr) Py_RETURN_NONE;
+    if ((flags & (1 << 2)) != 0) [[unlikely]]
         ombra::assertion_failed("!(flags & (0x1 << 2))", "SWIG_Python_NewPointerObj");
-    }
     const SwigPyClientData *data = type != nullptr ? type->client_data : nullptr;
     PyObject *object = SwigPyObject_New(pointer, type, flags & FLAG_OWN);
-    if (object == nullptr || data == nullptr || (flags & FLAG_NOPROXY) != 0) {
-        return object;
-    }
+    if (object == nullptr || data == nullptr || (flags & FLAG_NOPROXY) != 0) return object;
     PyObject *instance = SWIG_Python_NewProxyInstance(data, object);
     Py_DECREF(object);
     return instance;
@@ -231,21 +184,15 @@ PyObject *SWIG_Python_NewPointerObj(void *pointer, swig_type_info *type, int fla
 PyObject *SWIG_Python_NewProxyInstance(const SwigPyClientData *data, PyObject *pointer_object) {
     if (data->raw_new == nullptr) {
         const PyRef dictionary(PyDict_New());
-        if (dictionary == nullptr || !put_this(dictionary.get(), pointer_object)) {
-            return nullptr;
-        }
+        if (dictionary == nullptr || !put_this(dictionary.get(), pointer_object)) return nullptr;
         return PyInstance_NewRaw(data->raw_new_args, dictionary.get());
     }
     PyRef instance(PyObject_Call(data->raw_new, data->raw_new_args, nullptr));
-    if (instance == nullptr) {
-        return nullptr;
-    }
+    if (instance == nullptr) return nullptr;
     PyObject **dictionary = _PyObject_GetDictPtr(instance.get());
     if (dictionary != nullptr && *dictionary == nullptr) {
         *dictionary = PyDict_New();
-        if (*dictionary == nullptr || !put_this(*dictionary, pointer_object)) {
-            return nullptr;
-        }
+        if (*dictionary == nullptr || !put_this(*dictionary, pointer_object)) return nullptr;
     }
     return instance.release();
 }

@@ -51,18 +51,12 @@ inline int SWIG_Python_ConvertPtrAndOwn(PyObject *object, void **out, swig_type_
     if (object != nullptr && Py_TYPE(object) == &SwigPyObject_type_object) [[likely]] {
         SwigPyObject *self = ombra::as_pointer_object(object);
         if (self->type == wanted) [[likely]] {
-            if (out != nullptr) {
-                *out = self->ptr;
-            }
-            if ((flags & FLAG_DISOWN) != 0) {
-                self->own = 0;
-            }
+            if (out != nullptr) *out = self->ptr;
+            if ((flags & FLAG_DISOWN) != 0) self->own = 0;
             return STATUS_OK;
         }
     } else if (object == Py_None && (flags & FLAG_IMPLICIT) == 0) {
-        if (out != nullptr) {
-            *out = nullptr;
-        }
+        if (out != nullptr) *out = nullptr;
         return STATUS_OK;
     }
     return ombra::convert_pointer(object, out, wanted, flags);

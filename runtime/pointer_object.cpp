@@ -26,9 +26,7 @@ PyObject *destroy_directly(PyObject *destroy, SwigPyObject *self) {
 // The stand-in for the dying object does not own, so its own death runs no destructor.
 PyObject *destroy_through_tuple(PyObject *destroy, const SwigPyObject *self) {
     const PyRef temporary(SwigPyObject_New(self->ptr, self->type, 0));
-    if (temporary == nullptr) {
-        return nullptr;
-    }
+    if (temporary == nullptr) return nullptr;
     return PyObject_CallFunctionObjArgs(destroy, temporary.get(), nullptr);
 }
 
@@ -41,9 +39,7 @@ void destroy_native(const SwigPyClientData &data, SwigPyObject *self) {
     PyErr_Fetch(&type, &value, &traceback);
     PyObject *result = data.destroy_takes_tuple != 0 ? destroy_through_tuple(data.destroy, self)
                                                      : destroy_directly(data.destroy, self);
-    if (result == nullptr) {
-        PyErr_WriteUnraisable(data.destroy);
-    }
+    if (result == nullptr) PyErr_WriteUnraisable(data.destroy);
     PyErr_Restore(type, value, traceback);
     Py_XDECREF(result);
 }
@@ -80,9 +76,7 @@ void SwigPyObject_dealloc(PyObject *object) {
 PyObject *SwigPyObject_format(const char *format, PyObject *object) {
     const PyRef pattern(PyString_FromString(format));
     const PyRef value(SwigPyObject_long(object));
-    if (pattern == nullptr || value == nullptr) {
-        return nullptr;
-    }
+    if (pattern == nullptr || value == nullptr) return nullptr;
     const PyRef values(PyTuple_Pack(1, value.get()));
     return values != nullptr ? PyString_Format(pattern.get(), values.get()) : nullptr;
 }
@@ -144,9 +138,8 @@ PyNumberMethods SwigPyObject_number_methods;
 PyTypeObject *SwigPyObject_type() {
     // Without a guarded static, so that it inlines into SwigPyObject_New. The lock is held.
     static PyTypeObject *type = nullptr;
-    if (type == nullptr) [[unlikely]] {
+    if (type == nullptr) [[unlikely]]
         type = SwigPyObject_TypeOnce();
-    }
     return type;
 }
 
@@ -215,17 +208,13 @@ PyObject *SwigPyObject_acquire(PyObject *object) {
 
 PyObject *SwigPyObject_own(PyObject *object, PyObject *args) {
     PyObject *value = nullptr;
-    if (!PyArg_UnpackTuple(args, "own", 0, 1, &value)) {
-        return nullptr;
-    }
+    if (!PyArg_UnpackTuple(args, "own", 0, 1, &value)) return nullptr;
     SwigPyObject *self = as_pointer_object(object);
     const long before = self->own;
     if (value != nullptr) {
         const int truth = PyObject_IsTrue(value);
         self->own = truth != 0 ? 1 : 0;
-        if (truth < 0) {
-            return nullptr;  // the value's own exception
-        }
+        if (truth < 0) return nullptr;  // the value's own exception
     }
     return PyBool_FromLong(before);
 }
@@ -244,9 +233,7 @@ PyObject *SwigPyObject_append(PyObject *object, PyObject *other) {
 
 PyObject *SwigPyObject_next(PyObject *object) {
     PyObject *next = as_pointer_object(object)->next;
-    if (next == nullptr) {
-        Py_RETURN_NONE;
-    }
+    if (next == nullptr) Py_RETURN_NONE;
     Py_INCREF(next);
     return next;
 }

@@ -77,9 +77,7 @@ class RingGuard {
   public:
     // Whether the walk was at `link` before. A ring is found out within a few rounds.
     bool closes(const void *link) {
-        if (link == mark_) {
-            return true;
-        }
+        if (link == mark_) return true;
         if (++steps_ == limit_) {
             mark_ = link;
             limit_ *= 2;

@@ -18,25 +18,20 @@ swig_varlink_object *as_link(PyObject *object) {
 
 const swig_varlink_entry *find_entry(PyObject *object, const char *name) {
     const swig_varlink_entry *entry = as_link(object)->vars;
-    while (entry != nullptr && std::strcmp(entry->name, name) != 0) {
-        entry = entry->next;
-    }
+    while (entry != nullptr && std::strcmp(entry->name, name) != 0) entry = entry->next;
     return entry;
 }
 
 // For a name that is not there, or whose accessor failed without an exception of its own.
 void raise_unknown(const char *name) {
-    if (PyErr_Occurred() == nullptr) {
+    if (PyErr_Occurred() == nullptr)
         PyErr_Format(PyExc_AttributeError, "Unknown C global variable '%s'", name);
-    }
 }
 
 PyObject *swig_varlink_getattr(PyObject *object, char *name) {
     const swig_varlink_entry *entry = find_entry(object, name);
     PyObject *value = entry != nullptr ? entry->get_attr() : nullptr;
-    if (value == nullptr) {
-        raise_unknown(name);
-    }
+    if (value == nullptr) raise_unknown(name);
     return value;
 }
 
@@ -48,9 +43,7 @@ int swig_varlink_setattr(PyObject *object, char *name, PyObject *value) {
         return 1;
     }
     const int result = entry != nullptr ? entry->set_attr(value) : 1;
-    if (result == 1) {
-        raise_unknown(name);
-    }
+    if (result == 1) raise_unknown(name);
     return result;
 }
 
@@ -63,17 +56,13 @@ PyObject *swig_varlink_str(PyObject *object) {
         const char *separator = entry->next != nullptr ? ", " : "";
         PyString_ConcatAndDel(&text, PyString_FromFormat("%s%s", entry->name, separator));
     }
-    if (text != nullptr) {
-        PyString_ConcatAndDel(&text, PyString_FromString(")"));
-    }
+    if (text != nullptr) PyString_ConcatAndDel(&text, PyString_FromString(")"));
     return text;
 }
 
 int swig_varlink_print(PyObject *object, FILE *file, int) {
     const PyRef text(swig_varlink_str(object));
-    if (text == nullptr) {
-        return -1;
-    }
+    if (text == nullptr) return -1;
     std::fprintf(file, "Swig global variables %s\n", PyString_AS_STRING(text.get()));
     return 0;
 }
@@ -112,13 +101,9 @@ PyTypeObject *swig_varlink_type() {
 
 PyObject *SWIG_Python_newvarlink() {
     PyTypeObject *const type = swig_varlink_type();
-    if (type == nullptr) {
-        return nullptr;
-    }
+    if (type == nullptr) return nullptr;
     auto *self = static_cast<swig_varlink_object *>(PyObject_MALLOC(sizeof(swig_varlink_object)));
-    if (self == nullptr) {
-        return PyErr_NoMemory();
-    }
+    if (self == nullptr) return PyErr_NoMemory();
     PyObject_INIT(&self->head, type);
     self->vars = nullptr;
     return &self->head;
@@ -141,8 +126,6 @@ bool SWIG_Python_addvarlink(PyObject *object, const char *name, swig_variable_ge
 
 PyObject *SWIG_Python_cvar() {
     static PyObject *cvar = nullptr;
-    if (cvar == nullptr) {
-        cvar = SWIG_Python_newvarlink();
-    }
+    if (cvar == nullptr) cvar = SWIG_Python_newvarlink();
     return cvar;
 }

@@ -10,7 +10,7 @@ cd "$(dirname "$0")/.."
 case "${1:-}" in
     # g++ brings the runtimes of AddressSanitizer and UBSan along.
     build)  packages=(g++ cmake ninja-build libgtest-dev libedit-dev) ;;
-    format) packages=(clang-format) ;;
+    format) packages=(clang-format-16) ;;
     tidy)   packages=(clang-tidy) ;;
     fuzz)   packages=(clang libclang-rt-dev) ;;
     *)      die "usage: setup/packages.sh build|format|tidy|fuzz" ;;

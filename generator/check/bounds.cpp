@@ -14,9 +14,7 @@ using Value = std::optional<std::int64_t>;
 // Nothing if a side is, or if the result does not fit.
 Value combined(char operation, Value left, Value right) {
     std::int64_t result = 0;
-    if (!left || !right) {
-        return std::nullopt;
-    }
+    if (!left || !right) return std::nullopt;
     switch (operation) {
         case '+':
             return __builtin_add_overflow(*left, *right, &result) ? std::nullopt : Value(result);
@@ -52,9 +50,7 @@ class Evaluator {
 
   private:
     bool accept(const char *text) {
-        if (tokens_[at_].text != text || tokens_[at_].type == Token::Type::end) {
-            return false;
-        }
+        if (tokens_[at_].text != text || tokens_[at_].type == Token::Type::end) return false;
         ++at_;
         return true;
     }
@@ -63,9 +59,7 @@ class Evaluator {
         auto value = product();
         while (value) {
             const bool plus = accept("+");
-            if (!plus && !accept("-")) {
-                break;
-            }
+            if (!plus && !accept("-")) break;
             value = combined(plus ? '+' : '-', *value, product());
         }
         return value;
@@ -75,37 +69,26 @@ class Evaluator {
         auto value = term();
         while (value) {
             const bool times = accept("*");
-            if (!times && !accept("/")) {
-                break;
-            }
+            if (!times && !accept("/")) break;
             value = combined(times ? '*' : '/', *value, term());
         }
         return value;
     }
 
     Value term() {
-        if (accept("-")) {
-            return combined('-', 0, term());
-        }
+        if (accept("-")) return combined('-', 0, term());
         if (accept("(")) {
             const auto value = sum();
             return accept(")") ? value : std::nullopt;
         }
-        if (accept("_SHR_BITDCLSIZE")) {
-            return combined('/', combined('+', term(), 31), 32);
-        }
+        if (accept("_SHR_BITDCLSIZE")) return combined('/', combined('+', term(), 31), 32);
         const Token &token = tokens_[at_];
-        if (token.type == Token::Type::end) {
-            return std::nullopt;
-        }
+        if (token.type == Token::Type::end) return std::nullopt;
         ++at_;
-        if (token.type == Token::Type::number) {
-            return number(token.text);
-        }
+        if (token.type == Token::Type::number) return number(token.text);
         const auto found = names_.find(token.text);
-        if (token.type != Token::Type::name || found == names_.end() || depth_ == kDeepest) {
+        if (token.type != Token::Type::name || found == names_.end() || depth_ == kDeepest)
             return std::nullopt;
-        }
         return Evaluator(found->second, names_, depth_ + 1).run();
     }
 

@@ -80,9 +80,7 @@ class Checker {
                 }
             }
             // Twins that the rules add have no line of their own.
-            if (row.pretty.empty() && !has_line(row)) {
-                continue;
-            }
+            if (row.pretty.empty() && !has_line(row)) continue;
             if (last != nullptr && last->mangled == row.mangled) {
                 const auto [first, second] = std::minmax(last->place.line, row.place.line);
                 faults_.add({row.place.file, second}, "type-order",
@@ -103,9 +101,7 @@ class Checker {
             check_helper_type(box, "_p_" + box.name, type_at(box.slot).mangled);
             check_helper_element(box);
         }
-        for (const auto &array : arrays(model_)) {
-            check_helper_element(array);
-        }
+        for (const auto &array : arrays(model_)) check_helper_element(array);
     }
 
     void check_helper_element(const Helper &helper) {
@@ -257,26 +253,18 @@ class Checker {
 
     void check_pairs() {
         std::map<std::string, const Function *> rows;
-        for (const auto &function : model_.functions) {
-            rows[function.row] = &function;
-        }
+        for (const auto &function : model_.functions) rows[function.row] = &function;
         for (const auto &[name, set] : rows) {
-            if (name.size() < 4 || name.compare(name.size() - 4, 4, "_set") != 0) {
-                continue;
-            }
+            if (name.size() < 4 || name.compare(name.size() - 4, 4, "_set") != 0) continue;
             const auto get = rows.find(name.substr(0, name.size() - 4) + "_get");
-            if (get != rows.end()) {
-                check_pair(*set, *get->second);
-            }
+            if (get != rows.end()) check_pair(*set, *get->second);
         }
     }
 
     void check_pair(const Function &set, const Function &get) {
         const std::string names = differing_names(set, get);
         const std::string types = names.empty() ? differing_types(set, get) : "";
-        if ((names.empty() && types.empty()) || excuse("pair", get.row)) {
-            return;
-        }
+        if ((names.empty() && types.empty()) || excuse("pair", get.row)) return;
         faults_.add(get.place, names.empty() ? "getter-types-differ" : "getter-names-differ",
                     "'" + get.row + "' " + (names.empty() ? types : names) + " ('" + set.row +
                         "' is at " + set.place.file + ":" + std::to_string(set.place.line) +
@@ -304,9 +292,8 @@ class Checker {
             const std::string given = spelled(in.type, in.bounds);
             const std::string taken = spelled(out.type, out.bounds);
             const char *const star = given.back() == '*' ? "*" : " *";
-            if (given != taken && taken != given + star) {
+            if (given != taken && taken != given + star)
                 return "takes '" + taken + "' for '" + out.name + "', its twin '" + given + "'";
-            }
         }
         return "";
     }
@@ -350,9 +337,7 @@ class Checker {
 void check(Model &model, Faults &faults) { Checker(model, faults).run(); }
 
 void list_rules(std::ostream &out) {
-    for (const auto &rule : kRules) {
-        out << rule.name << ": " << rule.says << "\n";
-    }
+    for (const auto &rule : kRules) out << rule.name << ": " << rule.says << "\n";
 }
 
 }  // namespace generator

@@ -17,24 +17,18 @@ bool ends_with(const std::string &text, const std::string &end) {
 
 // "uint8 const *" -> "uint8 *": the type table knows no qualifiers.
 std::string without_const(std::string type) {
-    for (std::size_t at = type.find(" const"); at != std::string::npos; at = type.find(" const")) {
+    for (std::size_t at = type.find(" const"); at != std::string::npos; at = type.find(" const"))
         type.erase(at, 6);
-    }
     return type;
 }
 
 // A type whose mangled name ends in a number type has a twin, named after the box of that number,
 // whose objects pass for it.
 std::string twin_of(const std::string &mangled) {
-    if (ends_with(mangled, "unsigned_int")) {
-        return mangled.substr(0, mangled.size() - 12) + "uintp";
-    }
-    if (ends_with(mangled, "int")) {
-        return mangled + "p";
-    }
-    if (ends_with(mangled, "unsigned_short")) {
+    if (ends_with(mangled, "unsigned_int")) return mangled.substr(0, mangled.size() - 12) + "uintp";
+    if (ends_with(mangled, "int")) return mangled + "p";
+    if (ends_with(mangled, "unsigned_short"))
         return mangled.substr(0, mangled.size() - 14) + "uint16p";
-    }
     return "";
 }
 
@@ -45,39 +39,26 @@ class Resolver {
     void run() {
         add_twins();
         index();
-        for (auto &record : model_.structs) {
-            lay_out(record);
-        }
-        for (const auto &departure : model_.departures) {
-            if (is_hand_written(departure) && departure.details != "-") {
+        for (auto &record : model_.structs) lay_out(record);
+        for (const auto &departure : model_.departures)
+            if (is_hand_written(departure) && departure.details != "-")
                 replaced_.insert(departure.row);
-            }
-        }
-        for (auto &function : model_.functions) {
-            resolve_function(function);
-        }
+        for (auto &function : model_.functions) resolve_function(function);
         apply_departures();
-        for (auto &variable : model_.variables) {
-            resolve_variable(variable);
-        }
+        for (auto &variable : model_.variables) resolve_variable(variable);
     }
 
   private:
     void add_twins() {
         std::set<std::string> known;
-        for (const auto &row : model_.types) {
-            known.insert(row.mangled);
-        }
+        for (const auto &row : model_.types) known.insert(row.mangled);
         const std::size_t declared = model_.types.size();
         for (std::size_t i = 0; i < declared; ++i) {
             const std::string twin = twin_of(model_.types[i].mangled);
-            if (twin.empty()) {
-                continue;
-            }
+            if (twin.empty()) continue;
             model_.types[i].twin = twin;
-            if (known.insert(twin).second) {
+            if (known.insert(twin).second)
                 model_.types.push_back({twin, {}, model_.types[i].place, ""});
-            }
         }
         std::sort(model_.types.begin(), model_.types.end(),
                   [](const TypeRow &a, const TypeRow &b) { return a.mangled < b.mangled; });
@@ -86,25 +67,15 @@ class Resolver {
     void index() {
         for (std::size_t i = 0; i < model_.types.size(); ++i) {
             mangled_[model_.types[i].mangled] = static_cast<int>(i);
-            for (const auto &name : model_.types[i].pretty) {
-                pretty_[name] = static_cast<int>(i);
-            }
+            for (const auto &name : model_.types[i].pretty) pretty_[name] = static_cast<int>(i);
         }
-        for (const auto &row : model_.kinds) {
-            kinds_[row.type] = &row;
-        }
-        for (const auto &row : model_.typedefs) {
-            typedefs_[row.name] = &row;
-        }
-        for (auto &record : model_.structs) {
-            structs_[record.name] = &record;
-        }
+        for (const auto &row : model_.kinds) kinds_[row.type] = &row;
+        for (const auto &row : model_.typedefs) typedefs_[row.name] = &row;
+        for (auto &record : model_.structs) structs_[record.name] = &record;
         names_.insert(model_.defines.begin(), model_.defines.end());
-        for (const auto &row : model_.install) {
-            if (row.what == InstallRow::What::constant) {
+        for (const auto &row : model_.install)
+            if (row.what == InstallRow::What::constant)
                 names_.emplace(row.name, std::to_string(row.value));
-            }
-        }
     }
 
     Struct *find_struct(const std::string &name) {
@@ -201,9 +172,8 @@ class Resolver {
         }
         if (row.kind == Kind::by_value || row.kind == Kind::reference) {
             std::string target = without_const(row.type);
-            if (row.kind == Kind::reference) {
+            if (row.kind == Kind::reference)
                 target.erase(std::min(target.find(" &"), target.size()));
-            }
             conversion.slot = conversion.result_slot = slot_of_pretty(target + " *", place);
         } else if (row.kind == Kind::function_pointer) {
             conversion.slot = conversion.result_slot = slot_of_pretty(row.type, place);
@@ -218,9 +188,7 @@ class Resolver {
             {"short", 2},        {"unsigned short", 2}, {"int", 4},
             {"unsigned int", 4}, {"long", 8},           {"unsigned long", 8}};
         const auto width = widths.find(type);
-        if (width != widths.end()) {
-            return width->second;
-        }
+        if (width != widths.end()) return width->second;
         const auto row = typedefs_.find(type);
         return row == typedefs_.end() || !row->second->bounds.empty()
                    ? 0
@@ -255,11 +223,10 @@ class Resolver {
             conversion.size = inner.size * inner.count;
             conversion.align = inner.align;
         }
-        if (bounds.size() == 2) {
+        if (bounds.size() == 2)
             conversion.slot = slot_of_pretty(one.type + " (*)[" + bounds[1] + "]", place);
-        } else {
+        else
             conversion.slot = slot_of_pretty(one.type + " *", place);
-        }
         conversion.result_slot = conversion.slot;
     }
 
@@ -275,9 +242,7 @@ class Resolver {
     }
 
     void lay_out(Struct &record) {
-        if (laid_out_.contains(&record)) {
-            return;
-        }
+        if (laid_out_.contains(&record)) return;
         if (!laying_out_.insert(&record).second) {
             faults_.add(record.place, "recursion", "'" + record.name + "' contains itself");
             return;
@@ -308,12 +273,8 @@ class Resolver {
     bool is_replaced(const Function &function) const { return replaced_.contains(function.row); }
 
     void resolve_function(Function &function) {
-        if (is_replaced(function)) {
-            return;
-        }
-        for (auto &parameter : function.parameters) {
-            parameter.conversion = convert(parameter);
-        }
+        if (is_replaced(function)) return;
+        for (auto &parameter : function.parameters) parameter.conversion = convert(parameter);
         function.visible = function.parameters;
         Variable result;
         result.type = function.result;
@@ -362,14 +323,10 @@ class Resolver {
 
 void Resolver::apply_departures() {
     std::unordered_multimap<std::string, Function *> rows;
-    for (auto &function : model_.functions) {
-        rows.emplace(function.row, &function);
-    }
+    for (auto &function : model_.functions) rows.emplace(function.row, &function);
     for (auto &departure : model_.departures) {
         const auto [first, last] = rows.equal_range(departure.row);
-        for (auto row = first; row != last; ++row) {
-            apply(departure, *row->second);
-        }
+        for (auto row = first; row != last; ++row) apply(departure, *row->second);
     }
 }
 
@@ -395,9 +352,7 @@ void Resolver::apply(Departure &departure, Function &function) {
 // Details of a hand-written row: "-" where Python sees the prototype, else the visible form as a
 // prototype without its name, "int unit, object pythonHam -> void".
 void Resolver::set_visible(const Departure &departure, Function &function) {
-    if (departure.details == "-") {
-        return;
-    }
+    if (departure.details == "-") return;
     const std::size_t arrow = departure.details.find("-> ");
     if (arrow == std::string::npos) {
         faults_.add(departure.place, "departure-details",
@@ -421,9 +376,7 @@ void Resolver::set_visible(const Departure &departure, Function &function) {
         parameter.place = departure.place;
         parameter.type = one.substr(0, blank);
         parameter.name = one.substr(blank + 1);
-        if (parameter.type == "object") {
-            parameter.type = "PyObject *";
-        }
+        if (parameter.type == "object") parameter.type = "PyObject *";
         parameter.conversion = convert(parameter);
         function.visible.push_back(std::move(parameter));
     }
@@ -441,9 +394,8 @@ std::string docstring_type(const Model &model, const Variable &variable) {
         });
     };
     const std::string &type = variable.type;
-    if (ends_with(type, " *") && is_class(type.substr(0, type.size() - 2))) {
+    if (ends_with(type, " *") && is_class(type.substr(0, type.size() - 2)))
         return type.substr(0, type.size() - 2);
-    }
     return is_class(type) ? type : spelled(type, variable.bounds);
 }
 

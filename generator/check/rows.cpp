@@ -23,26 +23,20 @@ void add_argument(Row &row, const std::string &name, const Conversion &conversio
                   bool null_refused) {
     RowArgument argument{name, conversion.text, "", "", conversion};
     argument.text = method_text(row.name, row.arguments.size(), conversion.text);
-    if (null_refused) {
-        argument.null_text = kNullPrefix + argument.text;
-    }
+    if (null_refused) argument.null_text = kNullPrefix + argument.text;
     row.arguments.push_back(std::move(argument));
 }
 
 void finish(Row &row) {
     row.entry = (row.role == RowRole::registration ? "" : "_wrap_") + row.name;
-    if (row.role == RowRole::registration) {
-        return;
-    }
+    if (row.role == RowRole::registration) return;
     row.doc = row.name + "(";
     for (std::size_t i = 0; i < row.arguments.size(); ++i) {
         const std::string &name = row.arguments[i].name;
         row.doc += (i == 0 ? "" : ", ") + (name.empty() ? "arg" + std::to_string(i + 1) : name);
     }
     row.doc += ")";
-    if (!row.result_type.empty()) {
-        row.doc += " -> " + row.result_type;
-    }
+    if (!row.result_type.empty()) row.doc += " -> " + row.result_type;
 }
 
 Row function_row(const Function &function) {
@@ -101,9 +95,7 @@ void add_field_rows(const Model &model, const Struct &record, const Variable &fi
 }
 
 void add_class_rows(const Model &model, const Struct &record, std::vector<Row> &rows) {
-    for (const auto &field : record.fields) {
-        add_field_rows(model, record, field, rows);
-    }
+    for (const auto &field : record.fields) add_field_rows(model, record, field, rows);
     Row create = class_row(record, RowRole::constructor, "new_" + record.name);
     create.result_type = record.name;
     create.result = pointer_to(record.tag + " *", record.slot);
@@ -145,9 +137,7 @@ const Struct *helper_struct(const Model &model, const std::string &name) {
 void add_struct_helper(const Model &model, const std::string &name, const std::string &element,
                        std::vector<Helper> &helpers) {
     const Struct *record = helper_struct(model, element);
-    if (record == nullptr) {
-        return;
-    }
+    if (record == nullptr) return;
     Conversion value = number(Kind::by_value, record->size, element);
     value.align = record->align;
     value.slot = value.result_slot = record->slot;
@@ -239,9 +229,7 @@ std::vector<Helper> boxes(const Model &model) {
         helper(model, "uintp", number(Kind::unsigned_32, 4, "unsigned int"), "_p_unsigned_int"),
         helper(model, "uint64p", number(Kind::unsigned_64, 8, "uint64"), "_p_COMPILER_UINT64")};
     add_struct_helper(model, "appl_dcmn_init_param_tp", "appl_dcmn_init_param_t", helpers);
-    for (auto &box : helpers) {
-        box.slot = slot_of(model, "_p_" + box.name);
-    }
+    for (auto &box : helpers) box.slot = slot_of(model, "_p_" + box.name);
     return helpers;
 }
 
@@ -283,37 +271,24 @@ void add_function_row(const Model &model, const Function &function, std::vector<
 
 std::vector<Row> rows_of_header(const Model &model, const std::string &header) {
     std::vector<Row> rows;
-    for (const auto &record : model.structs) {
-        if (record.place.file == header) {
-            add_class_rows(model, record, rows);
-        }
-    }
-    for (const auto &function : model.functions) {
-        if (function.place.file == header) {
-            add_function_row(model, function, rows);
-        }
-    }
+    for (const auto &record : model.structs)
+        if (record.place.file == header) add_class_rows(model, record, rows);
+    for (const auto &function : model.functions)
+        if (function.place.file == header) add_function_row(model, function, rows);
     return rows;
 }
 
 std::vector<Row> helper_rows(const Model &model) {
     std::vector<Row> rows;
-    for (const auto &array : arrays(model)) {
-        add_array_rows(model, array, rows);
-    }
-    for (const auto &box : boxes(model)) {
-        add_box_rows(model, box, rows);
-    }
+    for (const auto &array : arrays(model)) add_array_rows(model, array, rows);
+    for (const auto &box : boxes(model)) add_box_rows(model, box, rows);
     return rows;
 }
 
 std::vector<Row> all_rows(const Model &model) {
     std::vector<Row> rows = helper_rows(model);
-    for (const auto &header : model.headers) {
-        for (auto &row : rows_of_header(model, header)) {
-            rows.push_back(std::move(row));
-        }
-    }
+    for (const auto &header : model.headers)
+        for (auto &row : rows_of_header(model, header)) rows.push_back(std::move(row));
     return rows;
 }
 

@@ -5,9 +5,9 @@
 #include <map>
 #include <set>
 
+#include "generator/check/rows.h"
 #include "generator/emit/emitters.h"
 #include "generator/emit/output.h"
-#include "generator/check/rows.h"
 
 namespace generator {
 namespace {
@@ -74,20 +74,16 @@ bool ends_with(const std::string &text, const std::string &end) {
 }
 
 std::string without_const(std::string type) {
-    for (std::size_t at = type.find(" const"); at != std::string::npos; at = type.find(" const")) {
+    for (std::size_t at = type.find(" const"); at != std::string::npos; at = type.find(" const"))
         type.erase(at, 6);
-    }
     return type;
 }
 
 std::string includes(const Model &model) {
     const std::string root = "platform/";
     std::string text;
-    for (const auto &header : model.headers) {
-        if (header.rfind(root, 0) == 0) {
-            text += "#include \"" + header.substr(root.size()) + "\"\n";
-        }
-    }
+    for (const auto &header : model.headers)
+        if (header.rfind(root, 0) == 0) text += "#include \"" + header.substr(root.size()) + "\"\n";
     return text;
 }
 
@@ -95,9 +91,8 @@ std::string includes(const Model &model) {
 int slot_of_pretty(const Model &model, const std::string &name) {
     for (std::size_t i = 0; i < model.types.size(); ++i) {
         const auto &pretty = model.types[i].pretty;
-        if (std::find(pretty.begin(), pretty.end(), name) != pretty.end()) {
+        if (std::find(pretty.begin(), pretty.end(), name) != pretty.end())
             return static_cast<int>(i);
-        }
     }
     return 0;
 }
@@ -109,21 +104,12 @@ class Elements {
         for (const auto &record : model.structs) {
             structures_.insert(record.slot);
             add(record.name, record.slot);
-            for (const auto &field : record.fields) {
-                add_of(field);
-            }
+            for (const auto &field : record.fields) add_of(field);
         }
-        for (const auto &function : model.functions) {
-            for (const auto &parameter : function.visible) {
-                add_of(parameter);
-            }
-        }
-        for (const auto &value : opaque_values(model)) {
-            add(value.type, value.slot);
-        }
-        for (const auto &box : boxes(model)) {
-            add(box.element, box.element_slot);
-        }
+        for (const auto &function : model.functions)
+            for (const auto &parameter : function.visible) add_of(parameter);
+        for (const auto &value : opaque_values(model)) add(value.type, value.slot);
+        for (const auto &box : boxes(model)) add(box.element, box.element_slot);
         add("char", slot_of(model, "_p_char"));  // room for texts that the SDK writes
     }
 
@@ -157,9 +143,7 @@ class Elements {
     void add_array(const std::string &text, int slot) {
         const std::size_t second = text.find("][");
         std::string name = text.substr(0, text.find(" ["));
-        if (name == "char") {
-            return;
-        }
+        if (name == "char") return;
         if (second != std::string::npos) {
             std::string bound = text.substr(second + 1);
             bound.erase(std::remove(bound.begin(), bound.end(), '('), bound.end());
@@ -185,27 +169,20 @@ struct CallbackName {
 
 std::vector<CallbackName> callback_names(const Model &model) {
     std::vector<CallbackName> names;
-    for (const auto &row : model.kinds) {
-        if (row.kind == Kind::function_pointer) {
+    for (const auto &row : model.kinds)
+        if (row.kind == Kind::function_pointer)
             names.push_back({row.type, row.type, slot_of_pretty(model, row.type)});
-        } else if (row.kind == Kind::by_value && ends_with(row.type, "_cb_t")) {
+        else if (row.kind == Kind::by_value && ends_with(row.type, "_cb_t"))
             names.push_back({row.type, row.type, 0});
-        }
-    }
-    for (const auto &variable : model.variables) {
-        if (variable.kind == "function") {
+    for (const auto &variable : model.variables)
+        if (variable.kind == "function")
             names.push_back({variable.name, variable.type, variable.slot});
-        }
-    }
     return names;
 }
 
 std::string signature_of(const Model &model, int slot) {
-    for (const auto &name : model.types[static_cast<std::size_t>(slot)].pretty) {
-        if (name.find("(*)") != std::string::npos) {
-            return name;
-        }
-    }
+    for (const auto &name : model.types[static_cast<std::size_t>(slot)].pretty)
+        if (name.find("(*)") != std::string::npos) return name;
     return "";
 }
 
@@ -231,9 +208,8 @@ std::string emit_companion_elements(const Model &model) {
 
 std::string emit_companion_callbacks(const Model &model) {
     std::string pointees;
-    for (const auto &record : model.structs) {
+    for (const auto &record : model.structs)
         pointees += fill(kPointee, {{"class", record.name}, {"slot", std::to_string(record.slot)}});
-    }
     std::string callbacks;
     std::string rows;
     std::string methods;

@@ -1,6 +1,6 @@
+#include "generator/check/rows.h"
 #include "generator/emit/emitters.h"
 #include "generator/emit/output.h"
-#include "generator/check/rows.h"
 
 namespace generator {
 namespace {
@@ -39,18 +39,11 @@ bool ends_with(const std::string &text, const std::string &end) {
 std::string call_of(const Row &row, const Helper &helper) {
     const std::string kind = kind_class(helper.value);
     const bool box = row.role == RowRole::box;
-    if (row.name.rfind("new_", 0) == 0) {
-        return (box ? "new_box<" : "new_array<") + kind + ">";
-    }
-    if (row.name.rfind("delete_", 0) == 0) {
+    if (row.name.rfind("new_", 0) == 0) return (box ? "new_box<" : "new_array<") + kind + ">";
+    if (row.name.rfind("delete_", 0) == 0)
         return box ? "delete_struct" : "delete_array<" + kind + ">";
-    }
-    if (!box) {
-        return (ends_with(row.name, "_getitem") ? "get_item<" : "set_item<") + kind + ">";
-    }
-    if (ends_with(row.name, "_assign")) {
-        return "assign_box<" + kind + ">";
-    }
+    if (!box) return (ends_with(row.name, "_getitem") ? "get_item<" : "set_item<") + kind + ">";
+    if (ends_with(row.name, "_assign")) return "assign_box<" + kind + ">";
     return ends_with(row.name, "_value") ? "box_value<" + kind + ">" : "recast";
 }
 
@@ -84,8 +77,8 @@ std::string emit_helpers(const Model &model) {
             }
         }
     }
-    return fill(kFile,
-                {{"banner", banner("generator/check/rows.cpp", "emit_helpers.cpp")}, {"rows", text}});
+    return fill(kFile, {{"banner", banner("generator/check/rows.cpp", "emit_helpers.cpp")},
+                        {"rows", text}});
 }
 
 }  // namespace generator

@@ -1,8 +1,8 @@
 // The model as JSON, one record a line: what the tests check the module against, row by row.
 
+#include "generator/check/rows.h"
 #include "generator/emit/emitters.h"
 #include "generator/emit/output.h"
-#include "generator/check/rows.h"
 
 namespace generator {
 namespace {
@@ -74,9 +74,7 @@ Object conversion(const Model &model, const Conversion &value) {
 template <typename List, typename Format>
 std::string list(const List &items, Format format) {
     std::string text;
-    for (const auto &item : items) {
-        text += (text.empty() ? "" : ", ") + format(item);
-    }
+    for (const auto &item : items) text += (text.empty() ? "" : ", ") + format(item);
     return "[" + text + "]";
 }
 
@@ -91,18 +89,15 @@ std::string row_text(const Model &model, const Row &row) {
                            .text();
                    }));
     object.add("result_type", row.result_type);
-    if (!row.result_type.empty() || row.role == RowRole::registration) {
+    if (!row.result_type.empty() || row.role == RowRole::registration)
         object.add_raw("result", conversion(model, row.result).text());
-    }
     if (row.function != nullptr) {
         object.add("native", row.function->native);
         object.add("hand_written", row.function->hand_written);
         object.add("appended", row.function->appended);
         object.add_raw("module_native", row.function->module_native ? "true" : "false");
     }
-    if (row.record != nullptr) {
-        object.add("class", row.record->name);
-    }
+    if (row.record != nullptr) object.add("class", row.record->name);
     if (row.field != nullptr) {
         object.add("field", row.field->name).add("offset", row.field->offset);
         object.add("field_type", spelled(row.field->type, row.field->bounds));
@@ -132,9 +127,7 @@ std::string struct_text(const Model &model, const Struct &record) {
 
 std::string lines(const std::vector<std::string> &items) {
     std::string text = "[";
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        text += (i == 0 ? "\n" : ",\n") + items[i];
-    }
+    for (std::size_t i = 0; i < items.size(); ++i) text += (i == 0 ? "\n" : ",\n") + items[i];
     return text + "\n]";
 }
 
@@ -142,13 +135,9 @@ std::string lines(const std::vector<std::string> &items) {
 
 std::string emit_model(const Model &model) {
     std::vector<std::string> rows;
-    for (const auto &row : all_rows(model)) {
-        rows.push_back(row_text(model, row));
-    }
+    for (const auto &row : all_rows(model)) rows.push_back(row_text(model, row));
     std::vector<std::string> classes;
-    for (const auto &record : model.structs) {
-        classes.push_back(struct_text(model, record));
-    }
+    for (const auto &record : model.structs) classes.push_back(struct_text(model, record));
     std::vector<std::string> types;
     for (const auto &row : model.types) {
         types.push_back(

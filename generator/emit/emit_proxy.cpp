@@ -6,9 +6,9 @@
 #include <set>
 
 #include "generator/check/bounds.h"
+#include "generator/check/rows.h"
 #include "generator/emit/emitters.h"
 #include "generator/emit/output.h"
-#include "generator/check/rows.h"
 
 namespace generator {
 namespace {
@@ -46,13 +46,9 @@ const std::string kClass = R"(    ('@name@', '''\
 // "uint16 [2][4]": bounds as numbers, since a person wants the length.
 std::string with_numbers(const Variable &field) {
     const Conversion &conversion = field.conversion;
-    if (conversion.kind != Kind::fixed_array) {
-        return spelled(field.type, field.bounds);
-    }
+    if (conversion.kind != Kind::fixed_array) return spelled(field.type, field.bounds);
     const std::string element = conversion.text.substr(0, conversion.text.find(" ["));
-    if (field.bounds.size() < 2) {
-        return element + " [" + std::to_string(conversion.count) + "]";
-    }
+    if (field.bounds.size() < 2) return element + " [" + std::to_string(conversion.count) + "]";
     const auto inner = static_cast<std::size_t>(evaluate(field.bounds[1], {}).value());
     return element + " [" + std::to_string(conversion.count / inner) + "][" +
            std::to_string(inner) + "]";
@@ -62,9 +58,8 @@ std::string classes(const Model &model) {
     std::string text;
     for (const auto &record : model.structs) {
         std::string fields;
-        for (const auto &field : record.fields) {
+        for (const auto &field : record.fields)
             fields += field.name + ": " + with_numbers(field) + "\n";
-        }
         text += fill(kClass, {{"name", record.name}, {"fields", fields}});
     }
     return text;
@@ -84,9 +79,7 @@ bool is_counted_pointer(const std::string &type) { return type.find("::Ptr") != 
 
 // "Hardware::TesselApi::UnitId" -> "UnitId", "Hardware::ChipMemory::Ptr" -> "ChipMemoryPtr".
 std::string class_name(std::string type) {
-    if (is_counted_pointer(type)) {
-        type.erase(type.rfind("::"), 2);
-    }
+    if (is_counted_pointer(type)) type.erase(type.rfind("::"), 2);
     const std::size_t scope = type.rfind("::");
     return scope == std::string::npos ? type : type.substr(scope + 2);
 }
@@ -96,15 +89,12 @@ std::string value_lines(const Model &model) {
     std::map<std::string, std::string> aliases;
     std::vector<OpaqueValue> firsts;
     for (const auto &value : opaque_values(model)) {
-        if (is_counted_pointer(value.type)) {
-            continue;
-        }
+        if (is_counted_pointer(value.type)) continue;
         const auto [known, is_new] = class_of_slot.emplace(value.slot, class_name(value.type));
-        if (is_new) {
+        if (is_new)
             firsts.push_back(value);
-        } else {
+        else
             aliases[known->second] += "'" + class_name(value.type) + "', ";
-        }
     }
     std::string text;
     for (const auto &value : firsts) {
@@ -116,11 +106,9 @@ std::string value_lines(const Model &model) {
 
 std::string holder_lines(const Model &model) {
     std::string text;
-    for (const auto &value : opaque_values(model)) {
-        if (is_counted_pointer(value.type)) {
+    for (const auto &value : opaque_values(model))
+        if (is_counted_pointer(value.type))
             text += "    ('" + class_name(value.type) + "', '" + value.type + "'),\n";
-        }
-    }
     return text;
 }
 
@@ -146,9 +134,7 @@ std::string callback_lines(const Model &model) {
 
 std::vector<OpaqueValue> opaque_values(const Model &model) {
     std::set<int> structures;
-    for (const auto &record : model.structs) {
-        structures.insert(record.slot);
-    }
+    for (const auto &record : model.structs) structures.insert(record.slot);
     std::map<std::string, int> found;
     const auto add = [&](const Conversion &conversion) {
         if (conversion.kind == Kind::by_value && !structures.contains(conversion.slot)) {
@@ -156,21 +142,14 @@ std::vector<OpaqueValue> opaque_values(const Model &model) {
             found.emplace(text.substr(0, text.find(" const")), conversion.slot);
         }
     };
-    for (const auto &record : model.structs) {
-        for (const auto &field : record.fields) {
-            add(field.conversion);
-        }
-    }
+    for (const auto &record : model.structs)
+        for (const auto &field : record.fields) add(field.conversion);
     for (const auto &row : all_rows(model)) {
-        for (const auto &argument : row.arguments) {
-            add(argument.conversion);
-        }
+        for (const auto &argument : row.arguments) add(argument.conversion);
         add(row.result);
     }
     std::vector<OpaqueValue> values;
-    for (const auto &[type, slot] : found) {
-        values.push_back({type, slot});
-    }
+    for (const auto &[type, slot] : found) values.push_back({type, slot});
     return values;
 }
 

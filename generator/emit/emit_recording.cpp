@@ -39,9 +39,7 @@ std::string parameters_of(const Function &function) {
     for (std::size_t i = 0; i < function.parameters.size(); ++i) {
         const Variable &parameter = function.parameters[i];
         text += (i == 0 ? "" : ", ") + parameter.type + " " + parameter_name(i);
-        for (const auto &bound : parameter.bounds) {
-            text += "[" + bound + "]";
-        }
+        for (const auto &bound : parameter.bounds) text += "[" + bound + "]";
     }
     return text;
 }
@@ -83,11 +81,8 @@ std::string recording_file(const std::string &header) {
 
 std::string emit_recording(const Model &model, const std::string &header) {
     std::string functions;
-    for (const auto &function : model.functions) {
-        if (function.place.file == header) {
-            functions += function_text(function);
-        }
-    }
+    for (const auto &function : model.functions)
+        if (function.place.file == header) functions += function_text(function);
     const std::string root = "platform/";
     return fill(kFile, {{"banner", banner(header, "emit_recording.cpp")},
                         {"header", header.substr(root.size())},

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "generator/check/rows.h"
 #include "generator/emit/emitters.h"
 #include "generator/emit/output.h"
-#include "generator/check/rows.h"
 
 namespace generator {
 namespace {
@@ -36,9 +36,8 @@ std::string title_of(const std::string &header) {
 
 // Types stand in tables: a pipe would end the cell.
 std::string cell(std::string text) {
-    for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at + 2)) {
+    for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at + 2))
         text.insert(at, "\\");
-    }
     return "`" + text + "`";
 }
 
@@ -54,9 +53,7 @@ std::string class_text(const Struct &record) {
 
 std::string function_text(const Row &row) {
     std::string types;
-    for (const auto &argument : row.arguments) {
-        types += (types.empty() ? "" : ", ") + argument.type;
-    }
+    for (const auto &argument : row.arguments) types += (types.empty() ? "" : ", ") + argument.type;
     std::string call = row.doc;
     std::replace(call.begin(), call.end(), '\n', ' ');
     return "| " + cell(call) + " | " + (types.empty() ? "none" : cell(types)) + " |\n";
@@ -70,20 +67,13 @@ std::string reference_file(const std::string &header) {
 
 std::string emit_reference(const Model &model, const std::string &header) {
     std::string classes;
-    for (const auto &record : model.structs) {
-        if (record.place.file == header) {
-            classes += class_text(record);
-        }
-    }
+    for (const auto &record : model.structs)
+        if (record.place.file == header) classes += class_text(record);
     std::string functions;
-    for (const auto &row : rows_of_header(model, header)) {
-        if (row.function != nullptr) {
-            functions += function_text(row);
-        }
-    }
-    if (!functions.empty()) {
+    for (const auto &row : rows_of_header(model, header))
+        if (row.function != nullptr) functions += function_text(row);
+    if (!functions.empty())
         functions = "## functions\n\n| call | argument types |\n|---|---|\n" + functions;
-    }
     const auto purpose = model.purposes.find(header);
     return fill(kPage, {{"title", title_of(header)},
                         {"purpose", purpose == model.purposes.end() ? "" : purpose->second},

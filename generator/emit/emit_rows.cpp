@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <set>
 
+#include "generator/check/rows.h"
 #include "generator/emit/emitters.h"
 #include "generator/emit/output.h"
-#include "generator/check/rows.h"
 
 namespace generator {
 namespace {
@@ -88,9 +88,8 @@ const std::string kFieldProof = R"(static_assert(offsetof(@class@, @field@) == @
 std::string shape_of(const Row &row) {
     const bool body = row.function->hand_written == "body";
     std::string shape = (body ? "Object" : kind_class(row.result)) + "(";
-    for (std::size_t i = 0; i < row.arguments.size(); ++i) {
+    for (std::size_t i = 0; i < row.arguments.size(); ++i)
         shape += (i == 0 ? "" : ", ") + kind_class(row.arguments[i].conversion);
-    }
     return shape + ")";
 }
 
@@ -204,19 +203,14 @@ std::string proof(const Struct &record) {
 
 std::string texts_of(const Row &row) {
     std::vector<std::string> texts;
-    for (const auto &argument : row.arguments) {
+    for (const auto &argument : row.arguments)
         texts.push_back(argument.null_text.empty() ? argument.text : argument.null_text);
-    }
-    if (!row.field_null_text.empty()) {
-        texts.push_back(row.field_null_text);
-    }
+    if (!row.field_null_text.empty()) texts.push_back(row.field_null_text);
     std::string literal;
     for (std::size_t i = 0; i < texts.size(); ++i) {
         literal += i == 0 ? "" : "\n    ";
         literal += quoted(texts[i]);
-        if (i + 1 < texts.size()) {
-            literal.insert(literal.size() - 1, "\\0");
-        }
+        if (i + 1 < texts.size()) literal.insert(literal.size() - 1, "\\0");
     }
     return literal.empty() ? "\"\"" : literal;
 }
@@ -242,11 +236,8 @@ std::string emit_shapes(const Model &model, unsigned part) {
     std::string text = banner("all declarations", "emit_rows.cpp") +
                        "\n#include \"convert/frame_body.h\"\n\nnamespace ombra {\n\n";
     std::size_t index = 0;
-    for (const auto &shape : shapes) {
-        if (index++ % kShapeParts == part) {
-            text += "template struct " + shape + ";\n";
-        }
-    }
+    for (const auto &shape : shapes)
+        if (index++ % kShapeParts == part) text += "template struct " + shape + ";\n";
     return text + "\n}  // namespace ombra\n";
 }
 
@@ -308,14 +299,9 @@ std::string banner(const std::string &source, const std::string &emitter) {
 
 std::string emit_rows(const Model &model, const std::string &header) {
     std::string text;
-    for (const auto &record : model.structs) {
-        if (record.place.file == header) {
-            text += proof(record);
-        }
-    }
-    for (const auto &row : rows_of_header(model, header)) {
-        text += row_text(row);
-    }
+    for (const auto &record : model.structs)
+        if (record.place.file == header) text += proof(record);
+    for (const auto &row : rows_of_header(model, header)) text += row_text(row);
     const bool hand =
         std::any_of(model.functions.begin(), model.functions.end(), [&](const Function &function) {
             return function.place.file == header && !function.hand_written.empty();

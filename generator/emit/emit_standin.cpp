@@ -55,26 +55,21 @@ std::string parameters_of(const Function &function, const std::set<std::size_t> 
         text += i == 0 ? "" : ", ";
         text += parameter.type;
         text += named.contains(i) ? " " + name_of(parameter, i) : "";
-        for (const auto &bound : parameter.bounds) {
-            text += "[" + bound + "]";
-        }
+        for (const auto &bound : parameter.bounds) text += "[" + bound + "]";
     }
     return text;
 }
 
 std::set<std::size_t> all_of(const Function &function) {
     std::set<std::size_t> all;
-    for (std::size_t i = 0; i < function.parameters.size(); ++i) {
-        all.insert(i);
-    }
+    for (std::size_t i = 0; i < function.parameters.size(); ++i) all.insert(i);
     return all;
 }
 
 std::string addresses_of(const Function &function) {
     std::string text;
-    for (std::size_t i = 0; i < function.parameters.size(); ++i) {
+    for (std::size_t i = 0; i < function.parameters.size(); ++i)
         text += (i == 0 ? "&" : ", &") + name_of(function.parameters[i], i);
-    }
     return text;
 }
 
@@ -84,16 +79,13 @@ std::string unit_of(const Function &function) {
 }
 
 std::string bindings_of(const Plan &plan) {
-    if (plan.bindings.empty()) {
-        return "";
-    }
+    if (plan.bindings.empty()) return "";
     std::string text = "    static constexpr Binding bindings[] = {";
     for (const auto &binding : plan.bindings) {
         text += "\n        {" + number(binding.argument) + ", Role::" + binding.role + ", " +
                 (binding.memory ? "true" : "false");
-        for (const std::size_t value : {binding.at, binding.stride, binding.row, binding.size}) {
+        for (const std::size_t value : {binding.at, binding.stride, binding.row, binding.size})
             text += ", " + number(value);
-        }
         text += "},";
     }
     text.back() = '}';
@@ -111,9 +103,7 @@ std::string columns_of(const Plan &plan) {
 }
 
 std::string number_argument(const Shapes &shapes, const Function &function, std::size_t parameter) {
-    if (parameter == 0) {
-        return "{}";
-    }
+    if (parameter == 0) return "{}";
     const Shape shape = shapes.of(function.parameters[parameter]);
     return "{" + number(parameter) + ", " + number(shape.size) + "}";
 }
@@ -185,9 +175,7 @@ std::string default_text(const Function &function) {
 }
 
 std::string function_text(const Shapes &shapes, const Function &function, const Plan &plan) {
-    if (plan.operation.empty()) {
-        return default_text(function);
-    }
+    if (plan.operation.empty()) return default_text(function);
     return plan.operation == "init" ? init_text(function, plan)
                                     : answer_text(shapes, function, plan);
 }
@@ -199,9 +187,8 @@ std::string proofs_of(const Shapes &shapes, const Function &function, const Plan
     for (const auto &binding : plan.bindings) {
         const Variable &parameter = function.parameters[binding.argument];
         const Shape shape = shapes.of(parameter);
-        if (parameter.bounds.empty() && shape.size != 0 && proved.insert(shape.type).second) {
+        if (parameter.bounds.empty() && shape.size != 0 && proved.insert(shape.type).second)
             text += "static_assert(sizeof(" + shape.type + ") == " + number(shape.size) + ");\n";
-        }
     }
     return text;
 }
@@ -231,9 +218,7 @@ std::string emit_standin(const Model &model, const std::string &header) {
     std::set<std::string> proved;
     bool walks = false;
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
-        if (model.functions[i].place.file != header) {
-            continue;
-        }
+        if (model.functions[i].place.file != header) continue;
         functions += function_text(shapes, model.functions[i], plans[i]);
         proofs += proofs_of(shapes, model.functions[i], plans[i], proved);
         walks = walks || !plans[i].columns.empty();
@@ -252,11 +237,9 @@ std::string emit_standin(const Model &model, const std::string &header) {
 std::string emit_standin_layers(const Model &model) {
     const std::vector<Plan> &plans = plans_of(model);
     std::string text;
-    for (std::size_t i = 0; i < model.functions.size(); ++i) {
-        if (!model.functions[i].module_native) {
+    for (std::size_t i = 0; i < model.functions.size(); ++i)
+        if (!model.functions[i].module_native)
             text += model.functions[i].native + "\t" + plans[i].layer + "\n";
-        }
-    }
     return text;
 }
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "generator/check/rows.h"
 #include "generator/emit/emitters.h"
 #include "generator/emit/output.h"
-#include "generator/check/rows.h"
 
 namespace generator {
 namespace {
@@ -108,9 +108,8 @@ std::string emit_entries(const Model &model) {
         "// An entry ends in a jump, so it has no frame to unwind: what the frame lets "
         "pass\n// passes it by.\n"
         "#define OMBRA_ENTRY [[gnu::nothrow]] PyObject *\n\n";
-    for (const auto &row : all_rows(model)) {
+    for (const auto &row : all_rows(model))
         text += "OMBRA_ENTRY " + row.entry + "(PyObject *, PyObject *);\n";
-    }
     return text;
 }
 
@@ -120,9 +119,7 @@ std::string emit_type_table(const Model &model) {
     std::string casts;
     for (const auto &row : model.types) {
         std::string pretty;
-        for (const auto &name : row.pretty) {
-            pretty += (pretty.empty() ? "" : "|") + name;
-        }
+        for (const auto &name : row.pretty) pretty += (pretty.empty() ? "" : "|") + name;
         records += "static swig_type_info type" + row.mangled + "{\"" + row.mangled + "\", " +
                    (pretty.empty() ? "nullptr" : quoted(pretty)) +
                    ", nullptr, nullptr, nullptr, 0};\n";
@@ -153,9 +150,8 @@ std::string emit_type_table(const Model &model) {
 std::string emit_type_slots(const Model &model) {
     std::string text = banner("catalogue/types.txt", "emit_tables.cpp") +
                        "\n#pragma once\n\nnamespace slots {\n\n";
-    for (std::size_t i = 0; i < model.types.size(); ++i) {
+    for (std::size_t i = 0; i < model.types.size(); ++i)
         text += "inline constexpr unsigned " + model.types[i].mangled + " = " + number(i) + ";\n";
-    }
     text += "inline constexpr unsigned any_pointer = " + number(model.types.size()) + ";\n";
     return text + "\n}  // namespace slots\n";
 }
@@ -173,9 +169,8 @@ std::string emit_install_table(const Model &model) {
     };
     std::size_t run_begin = 0;
     const auto end_run = [&] {
-        if (constant_count > run_begin) {
+        if (constant_count > run_begin)
             add_step("constants", run_begin, constant_count - run_begin);
-        }
         run_begin = constant_count;
     };
     for (const auto &row : model.install) {
@@ -194,9 +189,7 @@ std::string emit_install_table(const Model &model) {
         add_step("link", static_cast<std::size_t>(found - model.variables.begin()), 1);
     }
     end_run();
-    for (const auto &variable : model.variables) {
-        variables += variable_text(variable);
-    }
+    for (const auto &variable : model.variables) variables += variable_text(variable);
     return fill(kInstall, {{"banner", banner("catalogue/constants.txt", "emit_tables.cpp")},
                            {"constants", constants},
                            {"variables", variables},

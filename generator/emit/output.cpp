@@ -12,9 +12,7 @@ std::string fill(std::string text, const std::map<std::string, std::string> &hol
     while (true) {
         const std::size_t open = text.find('@', at);
         const std::size_t close = open == std::string::npos ? open : text.find('@', open + 1);
-        if (close == std::string::npos) {
-            return result + text.substr(at);
-        }
+        if (close == std::string::npos) return result + text.substr(at);
         const auto hole = holes.find(text.substr(open + 1, close - open - 1));
         if (hole == holes.end()) {
             result += text.substr(at, close - at);
@@ -33,9 +31,7 @@ std::string quoted(const std::string &text) {
             literal += "\\n";
             continue;
         }
-        if (c == '"' || c == '\\') {
-            literal += '\\';
-        }
+        if (c == '"' || c == '\\') literal += '\\';
         literal += c;
     }
     return literal + "\"";
@@ -49,9 +45,7 @@ std::string read_file(const std::string &path) {
 }
 
 bool write_if_changed(const std::string &path, const std::string &text) {
-    if (std::filesystem::exists(path) && read_file(path) == text) {
-        return true;
-    }
+    if (std::filesystem::exists(path) && read_file(path) == text) return true;
     std::error_code error;
     std::filesystem::create_directories(std::filesystem::path(path).parent_path(), error);
     std::ofstream file(path, std::ios::binary);

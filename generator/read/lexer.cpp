@@ -53,16 +53,13 @@ class Lexer {
         const char first = source_[at_];
         if (first == '#') {
             std::size_t end = source_.find('\n', at_);
-            while (end != std::string::npos && source_[end - 1] == '\\') {
+            while (end != std::string::npos && source_[end - 1] == '\\')
                 end = source_.find('\n', end + 1);
-            }
             advance_to(std::min(end, source_.size()));
             return Token::Type::directive;
         }
         if (is_name(first)) {
-            while (at_ < source_.size() && is_name(source_[at_])) {
-                ++at_;
-            }
+            while (at_ < source_.size() && is_name(source_[at_])) ++at_;
             return std::isdigit(static_cast<unsigned char>(first)) != 0 ? Token::Type::number
                                                                         : Token::Type::name;
         }

@@ -14,17 +14,12 @@ using ReadRow = std::function<void(const Place &, const Columns &)>;
 void for_each_row(const std::string &file, const std::string &source, const ReadRow &read) {
     std::istringstream lines(source);
     std::string line;
-    for (int number = 1; std::getline(lines, line); ++number) {
-        if (!line.empty() && line[0] != '#') {
-            read({file, number}, split(line, '\t'));
-        }
-    }
+    for (int number = 1; std::getline(lines, line); ++number)
+        if (!line.empty() && line[0] != '#') read({file, number}, split(line, '\t'));
 }
 
 bool has_columns(const Place &place, const Columns &columns, std::size_t least, Faults &faults) {
-    if (columns.size() >= least) {
-        return true;
-    }
+    if (columns.size() >= least) return true;
     faults.add(place, "columns",
                "the line has " + std::to_string(columns.size()) + " of its " +
                    std::to_string(least) + " columns; separate them by tabs");
@@ -38,11 +33,8 @@ bool read_number(const std::string &text, Number &value) {
 }
 
 Kind kind_of_name(const std::string &name) {
-    for (int i = 1; i <= static_cast<int>(Kind::nothing); ++i) {
-        if (name == kind_name(static_cast<Kind>(i))) {
-            return static_cast<Kind>(i);
-        }
-    }
+    for (int i = 1; i <= static_cast<int>(Kind::nothing); ++i)
+        if (name == kind_name(static_cast<Kind>(i))) return static_cast<Kind>(i);
     return Kind::none;
 }
 
@@ -52,18 +44,14 @@ std::vector<std::string> split(const std::string &text, char separator) {
     std::vector<std::string> pieces;
     std::istringstream stream(text);
     std::string piece;
-    while (std::getline(stream, piece, separator)) {
-        pieces.push_back(piece);
-    }
+    while (std::getline(stream, piece, separator)) pieces.push_back(piece);
     return pieces;
 }
 
 void read_types(const std::string &file, const std::string &source, Model &model, Faults &) {
     for_each_row(file, source, [&](const Place &place, const Columns &columns) {
         TypeRow row{columns[0], {}, place, ""};
-        if (columns.size() > 1) {
-            row.pretty = split(columns[1], '|');
-        }
+        if (columns.size() > 1) row.pretty = split(columns[1], '|');
         model.types.push_back(std::move(row));
     });
 }
@@ -109,9 +97,7 @@ void read_constants(const std::string &file, const std::string &source, Model &m
             row.name = columns[0].substr(6);
         } else {
             row.name = columns[0];
-            if (!has_columns(place, columns, 2, faults)) {
-                return;
-            }
+            if (!has_columns(place, columns, 2, faults)) return;
             if (!read_number(columns[1], row.value) || row.value < INT32_MIN ||
                 row.value > INT32_MAX) {
                 faults.add(place, "constant-value",

@@ -34,17 +34,14 @@ class Parser {
           tokens_(tokenize(source)) {}
 
     void run() {
-        if (role_ != HeaderRole::types_only) {
-            read_purpose();
-        }
+        if (role_ != HeaderRole::types_only) read_purpose();
         while (peek().type != Token::Type::end) {
             const std::size_t before = at_;
             try {
                 statement();
             } catch (const SyntaxError &error) {
-                if (role_ != HeaderRole::types_only) {
+                if (role_ != HeaderRole::types_only)
                     faults_.add({file_, error.line}, "grammar", error.message);
-                }
                 at_ = before;
                 skip_statement();
             }
@@ -60,16 +57,12 @@ class Parser {
 
     Token take() {
         const Token token = peek();
-        if (token.type != Token::Type::end) {
-            ++at_;
-        }
+        if (token.type != Token::Type::end) ++at_;
         return token;
     }
 
     bool accept(const char *text) {
-        if (!next_is(text)) {
-            return false;
-        }
+        if (!next_is(text)) return false;
         take();
         return true;
     }
@@ -98,9 +91,7 @@ class Parser {
             depth += text == "{" ? 1 : 0;
             depth -= text == "}" ? 1 : 0;
             const bool body_ends = text == "}" && !next_is(";") && peek(1).text != ";";
-            if (depth <= 0 && (text == ";" || body_ends)) {
-                return;
-            }
+            if (depth <= 0 && (text == ";" || body_ends)) return;
         }
     }
 
@@ -116,9 +107,8 @@ class Parser {
         std::string text = source_.substr(2, source_.find(line_comment ? "\n" : "*/", 2) - 2);
         text.erase(0, text.find_first_not_of(" *\n"));
         text.erase(text.find_last_not_of(" \n") + 1);
-        for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n')) {
+        for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n'))
             text.replace(end, text.find_first_not_of(" *\n/", end) - end, " ");
-        }
         model_.purposes[file_] = text;
     }
 
@@ -149,13 +139,10 @@ class Parser {
     }
 
     void directive(const std::string &line) {
-        if (line.rfind("#define ", 0) != 0) {
-            return;
-        }
+        if (line.rfind("#define ", 0) != 0) return;
         const std::size_t name_end = line.find_first_of(" (", 8);
-        if (name_end == std::string::npos || line[name_end] == '(') {
+        if (name_end == std::string::npos || line[name_end] == '(')
             return;  // a marker or a macro with arguments
-        }
         model_.defines[line.substr(8, name_end - 8)] = line.substr(name_end + 1);
     }
 
@@ -189,9 +176,7 @@ class Parser {
                 take();
                 const std::string tag = expect_name();
                 const std::string name = expect_name();
-                if (tag != name) {
-                    model_.aliases[name] = tag;
-                }
+                if (tag != name) model_.aliases[name] = tag;
                 expect(";");
                 return;
             }
@@ -202,19 +187,15 @@ class Parser {
         }
         const Variable declared = declarator();
         expect(";");
-        if (declared.name.empty()) {
+        if (declared.name.empty())
             throw SyntaxError{declared.place.line, "a typedef without a name"};
-        }
         model_.typedefs.push_back({declared.name, declared.type, declared.bounds, declared.place});
     }
 
     // typedef RESULT (*NAME)(...): the type table and the kinds know it by its name.
     bool is_callback() const {
-        for (std::size_t i = 0; peek(i).text != ";" && peek(i).type != Token::Type::end; ++i) {
-            if (peek(i).text == "(") {
-                return peek(i + 1).text == "*";
-            }
-        }
+        for (std::size_t i = 0; peek(i).text != ";" && peek(i).type != Token::Type::end; ++i)
+            if (peek(i).text == "(") return peek(i + 1).text == "*";
         return false;
     }
 
@@ -231,9 +212,7 @@ class Parser {
     }
 
     void add_struct(Struct record) {
-        if (role_ != HeaderRole::types_only) {
-            model_.structs.push_back(std::move(record));
-        }
+        if (role_ != HeaderRole::types_only) model_.structs.push_back(std::move(record));
     }
 
     Struct struct_body(const Place &place) {
@@ -242,9 +221,7 @@ class Parser {
         expect("{");
         while (!accept("}")) {
             Variable field = declarator();
-            if (field.name.empty()) {
-                throw SyntaxError{field.place.line, "a field without a name"};
-            }
+            if (field.name.empty()) throw SyntaxError{field.place.line, "a field without a name"};
             record.fields.push_back(std::move(field));
             expect(";");
         }
@@ -256,9 +233,8 @@ class Parser {
         Variable variable;
         variable.place = here();
         std::vector<std::string> words;
-        while (peek().type == Token::Type::name || next_is("::") || next_is("*") || next_is("&")) {
+        while (peek().type == Token::Type::name || next_is("::") || next_is("*") || next_is("&"))
             words.push_back(take().text);
-        }
         if (words.empty()) {
             throw SyntaxError{peek().line, "found '" + peek().text +
                                                "' where a type is expected; see "
@@ -269,17 +245,13 @@ class Parser {
             words.pop_back();
         }
         variable.type = joined(words);
-        while (next_is("[")) {
-            variable.bounds.push_back(bound());
-        }
+        while (next_is("[")) variable.bounds.push_back(bound());
         return variable;
     }
 
     static bool has_name(const std::vector<std::string> &words) {
         const std::string &last = words.back();
-        if (words.size() < 2 || last == "*" || last == "&" || is_type_word(last)) {
-            return false;
-        }
+        if (words.size() < 2 || last == "*" || last == "&" || is_type_word(last)) return false;
         const std::string &before = words[words.size() - 2];
         return before != "::" && before != "struct" && before != "enum";
     }
@@ -302,9 +274,8 @@ class Parser {
         int depth = 1;
         Token close = open;
         while (depth > 0) {
-            if (peek().type == Token::Type::end || next_is(";")) {
+            if (peek().type == Token::Type::end || next_is(";"))
                 throw SyntaxError{open.line, "an array bound without its closing bracket"};
-            }
             close = take();
             depth += close.text == "[" ? 1 : 0;
             depth -= close.text == "]" ? 1 : 0;
@@ -324,26 +295,20 @@ class Parser {
         function.result = head.type;
         function.place = head.place;
         function.module_native = role_ == HeaderRole::module_native;
-        for (const auto &name : namespaces_) {
-            function.native += name + "::";
-        }
+        for (const auto &name : namespaces_) function.native += name + "::";
         function.native += head.name;
         take();
         if (!(next_is("void") && peek(1).text == ")")) {
             while (!next_is(")")) {
                 function.parameters.push_back(declarator());
-                if (!accept(",")) {
-                    break;
-                }
+                if (!accept(",")) break;
             }
         } else {
             take();
         }
         expect(")");
         expect(";");
-        if (role_ != HeaderRole::types_only) {
-            model_.functions.push_back(std::move(function));
-        }
+        if (role_ != HeaderRole::types_only) model_.functions.push_back(std::move(function));
     }
 
     std::string file_;

@@ -33,24 +33,14 @@ bool is_control_word(const std::string &name) {
 std::string Part::role_of(const Member &member, const Shape &shape, const PlanColumn &column,
                           bool element) const {
     const bool by_value = shape.form != Form::memory;
-    if (shape.form == Form::callback) {
-        return "callback";
-    }
-    if (column.list) {
-        return comes_in(member.verb) ? "list_in" : "list_out";
-    }
+    if (shape.form == Form::callback) return "callback";
+    if (column.list) return comes_in(member.verb) ? "list_in" : "list_out";
     if (comes_in(member.verb)) {
-        if (!by_value && !shape.array && gives_id(member, column)) {
-            return "id";
-        }
+        if (!by_value && !shape.array && gives_id(member, column)) return "id";
         return column.key && !element ? "select" : "write";
     }
-    if (by_value) {
-        return "select";
-    }
-    if (removes(member.verb)) {
-        return column.key ? "select" : "";
-    }
+    if (by_value) return "select";
+    if (removes(member.verb)) return column.key ? "select" : "";
     const bool sought =
         member.verb == "find" && shape.record != nullptr && member.shapes.size() > 2;
     const bool wide = shape.array || shape.record != nullptr || keyed_by_arrays();
@@ -63,16 +53,11 @@ const PlanColumn *Part::column_of(const Member &member, std::size_t i,
                                   const std::set<const PlanColumn *> &bound) {
     const Shape &shape = member.shapes[i];
     const PlanColumn *column = column_for(member, shape);
-    if (column == nullptr && is_element(member, i)) {
-        return column_for_element(shape, bound);
-    }
+    if (column == nullptr && is_element(member, i)) return column_for_element(shape, bound);
     const bool makes = member.verb == "create" || member.verb == "add";
     if (column == nullptr && makes && shape.form == Form::memory && shape.number) {
-        for (const auto &candidate : columns_) {  // where the id goes, whatever its name
-            if (gives_id(member, candidate) && candidate.type == shape.type) {
-                column = &candidate;
-            }
-        }
+        for (const auto &candidate : columns_)  // where the id goes, whatever its name
+            if (gives_id(member, candidate) && candidate.type == shape.type) column = &candidate;
     }
     return column;
 }
@@ -89,39 +74,30 @@ std::optional<bool> Part::bind_aside(const Member &member, std::size_t i, Plan &
         plan.context = i;
         return true;
     }
-    if (shape.form == Form::opaque || (member.verb == "traverse" && shape.form == Form::memory)) {
+    if (shape.form == Form::opaque || (member.verb == "traverse" && shape.form == Form::memory))
         return false;
-    }
-    if (is_control(member, i)) {
-        return shape.form != Form::text || plan.layer == "registration";
-    }
+    if (is_control(member, i)) return shape.form != Form::text || plan.layer == "registration";
     return std::nullopt;
 }
 
 // False if the parameter is one that no rule covers.
 bool Part::bind_parameter(const Member &member, std::size_t i, Plan &plan,
                           std::set<const PlanColumn *> &bound) {
-    if (const auto aside = bind_aside(member, i, plan)) {
-        return *aside;
-    }
+    if (const auto aside = bind_aside(member, i, plan)) return *aside;
     const Shape &shape = member.shapes[i];
     const PlanColumn *column = column_of(member, i, bound);
     if (column == nullptr && shape.form == Form::callback) {
         plan.bindings.push_back({i, "callback"});  // no part of the key, but it has to be there
         return true;
     }
-    if (column == nullptr) {
-        return shape.form != Form::memory || shape.record != nullptr;
-    }
+    if (column == nullptr) return shape.form != Form::memory || shape.record != nullptr;
     if (!comes_in(member.verb) && is_control_word(shape.name) && shape.form == Form::value &&
         !column->key) {
         return true;  // flags of this call, not those of the row
     }
     const bool element = is_element(member, i);
     const std::string role = role_of(member, shape, *column, element);
-    if (role.empty()) {
-        return true;
-    }
+    if (role.empty()) return true;
     const bool scalar = comes_in(member.verb) && shape.form == Form::memory && shape.number &&
                         !shape.array && !element;
     if ((element && !column->list && !enumerates_ && !keyed_by_arrays()) ||
@@ -153,24 +129,19 @@ const Variable *Part::field_for(const Member &member, const Shape &shape,
 
 // Keys that are fields of a struct behind an address.
 void Part::bind_embedded(const Member &member, Plan &plan, std::set<const PlanColumn *> &bound) {
-    if (member.verb == "remove_all" || member.verb == "traverse") {
-        return;
-    }
+    if (member.verb == "remove_all" || member.verb == "traverse") return;
     const auto is_open = [&](const auto &column) { return column.key && !bound.contains(&column); };
     const bool alone = std::count_if(columns_.begin(), columns_.end(), is_open) == 1;
     for (const auto &column : columns_) {
         for (std::size_t i = 1; i < member.shapes.size() && is_open(column); ++i) {
             const Variable *field = field_for(member, member.shapes[i], column);
-            if (field == nullptr) {
-                continue;
-            }
+            if (field == nullptr) continue;
             const bool element = is_element(member, i);
             PlanBinding binding{i, "select", true, field->offset};
-            if (element && comes_in(member.verb)) {
+            if (element && comes_in(member.verb))
                 binding.role = "write";
-            } else if (alone && gives_id(member, column)) {
+            else if (alone && gives_id(member, column))
                 binding.role = "id";
-            }
             binding.stride = element ? member.shapes[i].size : 0;
             binding.row = column.row;
             binding.size = column.size;
@@ -183,9 +154,7 @@ void Part::bind_embedded(const Member &member, Plan &plan, std::set<const PlanCo
 // The flags of a call, which may ask for an id or for replacement: an argument, or else a field of
 // the record that holds the key or that an id is given to.
 void Part::bind_flags(const Member &member, Plan &plan) const {
-    if (member.verb != "create" && member.verb != "add") {
-        return;
-    }
+    if (member.verb != "create" && member.verb != "add") return;
     const auto holds_key = [&](std::size_t i) {
         return std::any_of(plan.bindings.begin(), plan.bindings.end(), [&](const auto &binding) {
             const bool id = binding.role == "id";
@@ -221,9 +190,7 @@ void Part::bind_flags(const Member &member, Plan &plan) const {
 // stands for all of them.
 bool Part::sets_one_of_several(const Member &member) const {
     const Member *get = first("get", false);
-    if (form(member).any() || get == nullptr) {
-        return form(member).any();
-    }
+    if (form(member).any() || get == nullptr) return form(member).any();
     return std::any_of(columns_.begin(), columns_.end(), [&](const PlanColumn &column) {
         return column.key && column.number &&
                std::any_of(get->shapes.begin(), get->shapes.end(), [&](const Shape &shape) {
@@ -238,24 +205,16 @@ std::string Part::operation_of(const Member &member, const Plan &plan) const {
                            [&](const PlanBinding &binding) { return binding.role == role; });
     };
     const bool made = has("create") || has("add");
-    if (member.verb == "create" || member.verb == "add") {
-        return has_role("id") ? "create" : "add";
-    }
+    if (member.verb == "create" || member.verb == "add") return has_role("id") ? "create" : "add";
     if (member.verb == "set") {
-        if (enumerates_ && has("add") && sets_one_of_several(member)) {
-            return "replace";
-        }
+        if (enumerates_ && has("add") && sets_one_of_several(member)) return "replace";
         return made ? "update" : "store";
     }
     if (member.verb == "get") {
-        if (enumerates_ && form(member).any()) {
-            return "list";
-        }
+        if (enumerates_ && form(member).any()) return "list";
         return has("set") && !made ? "read" : "find";
     }
-    if (member.verb == "destroy") {
-        return "remove";
-    }
+    if (member.verb == "destroy") return "remove";
     return member.verb == "traverse" ? "list" : member.verb;
 }
 
@@ -264,17 +223,13 @@ bool Part::complete(const Member &member, const Plan &plan,
     const bool keyed = std::all_of(columns_.begin(), columns_.end(), [&](const auto &column) {
         return !column.key || bound.contains(&column);
     });
-    if (comes_in(member.verb)) {
-        return keyed;
-    }
+    if (comes_in(member.verb)) return keyed;
     if (goes_out(member.verb)) {
         return std::any_of(plan.bindings.begin(), plan.bindings.end(), [](const auto &binding) {
             return binding.role == "read" || binding.role == "list_out";
         });
     }
-    if (member.verb == "traverse") {
-        return plan.callback != 0;
-    }
+    if (member.verb == "traverse") return plan.callback != 0;
     return member.verb == "remove_all" || key_ == 0 || !plan.bindings.empty();
 }
 
@@ -283,9 +238,8 @@ bool Part::bind(Member &member, Plan &plan) {
     const auto &list = form(member);
     plan.family = name_;
     plan.owner = owner_;
-    for (const auto &column : owner_.empty() ? std::vector<PlanColumn>{} : owner_keys_) {
+    for (const auto &column : owner_.empty() ? std::vector<PlanColumn>{} : owner_keys_)
         plan.owner_key += column.size;
-    }
     plan.key = key_;
     plan.row = row_;
     plan.count = list.count;
@@ -300,9 +254,7 @@ bool Part::bind(Member &member, Plan &plan) {
         }
     }
     bind_embedded(member, plan, bound);
-    if (!complete(member, plan, bound)) {
-        return false;
-    }
+    if (!complete(member, plan, bound)) return false;
     bind_flags(member, plan);
     plan.operation = operation_of(member, plan);
     const Member *get = first("get", false);
@@ -315,11 +267,8 @@ bool Part::bind(Member &member, Plan &plan) {
             binding.role = "write";
         }
     }
-    for (const auto &column : columns_) {
-        if (member.verb == "traverse" && !column.list) {
-            plan.columns.push_back(column);
-        }
-    }
+    for (const auto &column : columns_)
+        if (member.verb == "traverse" && !column.list) plan.columns.push_back(column);
     return true;
 }
 
@@ -328,9 +277,7 @@ void Part::drop_if_mute() {
     const bool speaks = std::any_of(members_.begin(), members_.end(), [](const Member &member) {
         return !member.plan->operation.empty() && (!comes_in(member.verb) || member.verb == "set");
     });
-    for (auto &member : members_) {
-        *member.plan = speaks ? *member.plan : Plan{};
-    }
+    for (auto &member : members_) *member.plan = speaks ? *member.plan : Plan{};
 }
 
 void Part::bind_members(const std::string &layer) {
@@ -341,25 +288,18 @@ void Part::bind_members(const std::string &layer) {
     };
     for (const bool in : {true, false}) {
         for (auto &member : members_) {
-            if (comes_in(member.verb) != in || (!in && written.empty() && key_ + row_ != 0)) {
+            if (comes_in(member.verb) != in || (!in && written.empty() && key_ + row_ != 0))
                 continue;
-            }
             Plan plan;
             plan.layer = layer;
-            if (!bind(member, plan)) {
-                continue;
-            }
+            if (!bind(member, plan)) continue;
             bool tells = !goes_out(member.verb);
             for (const auto &binding : plan.bindings) {
-                if (in) {
-                    written.insert(place(binding));
-                }
+                if (in) written.insert(place(binding));
                 const bool out = binding.role == "read" || binding.role == "list_out";
                 tells = tells || (out && written.contains(place(binding)));
             }
-            if (tells) {
-                *member.plan = plan;
-            }
+            if (tells) *member.plan = plan;
         }
     }
     drop_if_mute();

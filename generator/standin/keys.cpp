@@ -83,9 +83,7 @@ std::vector<PlanColumn> key_columns(const Shapes &shapes, const Shape &shape) {
     std::istringstream names(known == kKeyFields.end() ? "" : known->second);
     for (std::string name; names >> name;) {
         const Variable *field = shapes.field(*shape.record, name, "");
-        if (field == nullptr) {
-            continue;
-        }
+        if (field == nullptr) continue;
         PlanColumn column{name, field->type, shapes.field_size(*field)};
         column.number = column.size <= 8 && field->bounds.empty();
         column.key = column.given = true;

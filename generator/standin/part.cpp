@@ -37,11 +37,8 @@ bool goes_out(const std::string &verb) { return verb == "get" || verb == "find";
 // Whether one of the words of a name is that word: "max" of "port_max".
 bool has_word(const std::string &name, const std::set<std::string> &words) {
     std::istringstream rest(name);
-    for (std::string word; std::getline(rest, word, '_');) {
-        if (words.contains(word)) {
-            return true;
-        }
-    }
+    for (std::string word; std::getline(rest, word, '_');)
+        if (words.contains(word)) return true;
     return false;
 }
 
@@ -58,11 +55,8 @@ bool is_flags(const std::string &name) {
 }
 
 const Shape *named(const Member &member, const std::string &name) {
-    for (std::size_t i = 1; i < member.shapes.size(); ++i) {
-        if (member.shapes[i].name == name) {
-            return &member.shapes[i];
-        }
-    }
+    for (std::size_t i = 1; i < member.shapes.size(); ++i)
+        if (member.shapes[i].name == name) return &member.shapes[i];
     return nullptr;
 }
 
@@ -85,11 +79,8 @@ bool Part::given_back(const std::string &name) const {
 }
 
 std::string Part::same_column(const std::string &name) const {
-    for (const auto &[of, one, other] : kSameColumn) {
-        if (name_ == of && name == one) {
-            return other;
-        }
-    }
+    for (const auto &[of, one, other] : kSameColumn)
+        if (name_ == of && name == one) return other;
     return "";
 }
 
@@ -100,11 +91,8 @@ Part::Part(const Shapes &shapes, std::string name, std::vector<Member> members)
 }
 
 void Part::belongs_to(const Part &owner) {
-    for (const auto &column : owner.columns()) {
-        if (column.key) {
-            owner_keys_.push_back(column);
-        }
-    }
+    for (const auto &column : owner.columns())
+        if (column.key) owner_keys_.push_back(column);
     owner_ = owner.name_;
 }
 
@@ -114,11 +102,8 @@ bool Part::has(const std::string &verb) const {
 }
 
 const Member *Part::first(const std::string &verb, bool list) const {
-    for (const auto &member : members_) {
-        if (member.verb == verb && (form(member).filled != 0) == list) {
-            return &member;
-        }
-    }
+    for (const auto &member : members_)
+        if (member.verb == verb && (form(member).filled != 0) == list) return &member;
     return nullptr;
 }
 
@@ -130,10 +115,8 @@ void Part::align_names() {
     };
     const auto set = by_verb("set");
     const auto get = by_verb("get");
-    if (set == members_.end() || get == members_.end() ||
-        set->shapes.size() != get->shapes.size()) {
+    if (set == members_.end() || get == members_.end() || set->shapes.size() != get->shapes.size())
         return;
-    }
     for (std::size_t i = 1; i < get->shapes.size(); ++i) {
         Shape &shape = get->shapes[i];
         if (named(*set, shape.name) == nullptr && named(*get, set->shapes[i].name) == nullptr &&
@@ -158,14 +141,11 @@ ListForm Part::find_form(const Member &member) const {
             form.count = i;
         }
     }
-    if (goes_out(member.verb) && form.count == 0 && (form.max == 0 || form.filled == 0)) {
-        return {};
-    }
+    if (goes_out(member.verb) && form.count == 0 && (form.max == 0 || form.filled == 0)) return {};
     for (std::size_t i = 1; i < member.shapes.size(); ++i) {
         const Shape &shape = member.shapes[i];
-        if (shape.form == Form::memory && !shape.array && i != form.filled) {
+        if (shape.form == Form::memory && !shape.array && i != form.filled)
             form.arrays.push_back(i);
-        }
     }
     return form.max == 0 && form.filled == 0 && form.count == 0 ? ListForm{} : form;
 }
@@ -192,16 +172,12 @@ bool Part::taken_alone(const std::string &name,
 // array; otherwise it is a number like others.
 void Part::find_forms() {
     std::map<const Function *, ListForm> found;
-    for (const auto &member : members_) {
-        found[member.function] = find_form(member);
-    }
+    for (const auto &member : members_) found[member.function] = find_form(member);
     std::set<std::string> taken;
     std::set<std::string> given;
-    for (const auto &member : members_) {
-        for (const std::size_t i : found[member.function].arrays) {
+    for (const auto &member : members_)
+        for (const std::size_t i : found[member.function].arrays)
             (goes_out(member.verb) ? given : taken).insert(member.shapes[i].name);
-        }
-    }
     for (const auto &member : members_) {
         ListForm form = found[member.function];
         const bool out = goes_out(member.verb);
@@ -256,9 +232,7 @@ void Part::keys_of_removal(const Member &member) {
     });
     for (std::size_t i = 1; i < member.shapes.size(); ++i) {
         const Shape &shape = member.shapes[i];
-        if (is_control(member, i) || is_flags(shape.name) || shape.form == Form::opaque) {
-            continue;
-        }
+        if (is_control(member, i) || is_flags(shape.name) || shape.form == Form::opaque) continue;
         const Shape *twin = get == nullptr ? nullptr : named(*get, shape.name);
         if (shape.form == Form::memory && shape.record != nullptr && !has_key_fields(shape) &&
             get != nullptr && named(*get, shape.name) != nullptr && get->shapes.size() > 2) {
@@ -272,9 +246,7 @@ void Part::keys_of_removal(const Member &member) {
             continue;
         }
         if (shape.form == Form::memory && !shape.array) {
-            for (const auto &column : key_columns(shapes_, shape)) {
-                add_key(column);
-            }
+            for (const auto &column : key_columns(shapes_, shape)) add_key(column);
             continue;
         }
         if (!listed && !several && shape.form == Form::value && twin != nullptr &&
@@ -299,13 +271,9 @@ bool Part::keys_of_pair(const Member *set, const Member *get) {
     for (std::size_t i = 1; i < asks.shapes.size(); ++i) {
         const Shape &shape = asks.shapes[i];
         const Shape *twin = set == nullptr ? &shape : named(*set, shape.name);
-        if (is_control(asks, i)) {
-            continue;
-        }
+        if (is_control(asks, i)) continue;
         const bool by_value = shape.form == Form::value || shape.form == Form::callback;
-        if (by_value && (twin == nullptr || twin->form != shape.form)) {
-            return false;
-        }
+        if (by_value && (twin == nullptr || twin->form != shape.form)) return false;
         const bool array_key = shape.array && others && twin != nullptr && !twin->constant;
         if (by_value || array_key) {
             add_key({shape.name, shape.type, shape.size, shape.number, shape.record, true, true});
@@ -313,11 +281,8 @@ bool Part::keys_of_pair(const Member *set, const Member *get) {
                    twin->form == Form::memory) {
             const auto columns = key_columns(shapes_, shape);
             const bool whole = columns.size() == 1 && columns.front().record != nullptr;
-            for (const auto &column : columns) {
-                if (!whole || others || asks.shapes.size() > 2) {
-                    add_key(column);
-                }
-            }
+            for (const auto &column : columns)
+                if (!whole || others || asks.shapes.size() > 2) add_key(column);
         }
     }
     return true;
@@ -331,12 +296,8 @@ void Part::key_of_listing(const Member &get) {
 
 bool Part::find_columns() {
     const Member *remove = first("destroy", false);
-    if (remove == nullptr || remove->shapes.size() < 2) {
-        remove = first("remove", false);
-    }
-    if (remove != nullptr && remove->shapes.size() < 2) {
-        remove = nullptr;
-    }
+    if (remove == nullptr || remove->shapes.size() < 2) remove = first("remove", false);
+    if (remove != nullptr && remove->shapes.size() < 2) remove = nullptr;
     const Member *listing = first("get", true);
     const Member *set = first("set", false);
     const Member *get = first("get", false);
@@ -349,31 +310,22 @@ bool Part::find_columns() {
     enumerates_ = listing != nullptr && (has("add") || (has("set") && set_by_ones));
     if (remove != nullptr) {
         keys_of_removal(*remove);
-        if (keyed_by_arrays()) {
-            return false;
-        }
+        if (keyed_by_arrays()) return false;
     } else {
         const Member *in = set != nullptr ? set : first("add", false);
         in = in != nullptr ? in : first("create", false);
         const Member *out = get != nullptr ? get : listing;
-        if ((in == nullptr && out == nullptr) || !keys_of_pair(in, out)) {
-            return false;
-        }
+        if ((in == nullptr && out == nullptr) || !keys_of_pair(in, out)) return false;
         if (enumerates_ || (keyed_by_arrays() && get != nullptr && form(*get).any())) {
             enumerates_ = listing != nullptr;
             key_of_listing(listing != nullptr ? *listing : *get);
         }
     }
     for (const char *verb : {"get", "set", "update", "create", "add"}) {
-        for (const auto &member : members_) {
-            if (member.verb == verb && form(member).filled == 0) {
-                add_values(member);
-            }
-        }
+        for (const auto &member : members_)
+            if (member.verb == verb && form(member).filled == 0) add_values(member);
     }
-    if (listing != nullptr && !enumerates_) {
-        add_values(*listing);
-    }
+    if (listing != nullptr && !enumerates_) add_values(*listing);
     order_keys(owner_keys_);
     lay_out();
     return true;
@@ -389,9 +341,8 @@ void Part::add_values(const Member &member) {
             continue;
         }
         const bool element = is_element(member, i);
-        if ((member.verb == "get" && shape.form == Form::value) || (enumerates_ && element)) {
+        if ((member.verb == "get" && shape.form == Form::value) || (enumerates_ && element))
             continue;
-        }
         PlanColumn column{shape.name, shape.type, shape.size, shape.number, shape.record};
         column.list = element && !keyed_by_arrays();
         columns_.push_back(column);
@@ -401,9 +352,7 @@ void Part::add_values(const Member &member) {
 // Keys come first, those of the owner before the others.
 void Part::order_keys(const std::vector<PlanColumn> &first) {
     const auto rank = [&](const PlanColumn &column) {
-        if (!column.key) {
-            return 2;
-        }
+        if (!column.key) return 2;
         return std::any_of(first.begin(), first.end(),
                            [&](const PlanColumn &key) { return key.name == column.name; })
                    ? 0
@@ -415,9 +364,7 @@ void Part::order_keys(const std::vector<PlanColumn> &first) {
     const auto owned = static_cast<std::size_t>(
         std::count_if(columns_.begin(), columns_.end(),
                       [&](const PlanColumn &column) { return rank(column) == 0; }));
-    if (owned != first.size()) {
-        owner_.clear();
-    }
+    if (owned != first.size()) owner_.clear();
 }
 
 void Part::lay_out() {
@@ -436,19 +383,14 @@ void Part::lay_out() {
 // By name, else the only one of that struct.
 PlanColumn *Part::column_for(const Member &member, const Shape &shape) {
     PlanColumn *found = nullptr;
-    for (auto &column : columns_) {
-        if (column.name == shape.name || column.name == same_column(shape.name)) {
-            return &column;
-        }
-    }
+    for (auto &column : columns_)
+        if (column.name == shape.name || column.name == same_column(shape.name)) return &column;
     for (auto &column : columns_) {
         if (shape.record == nullptr || column.record != shape.record ||
             named(member, column.name) != nullptr) {
             continue;
         }
-        if (found != nullptr) {
-            return nullptr;
-        }
+        if (found != nullptr) return nullptr;
         found = &column;
     }
     return found;
@@ -461,9 +403,7 @@ PlanColumn *Part::column_for_element(const Shape &shape,
         for (auto &column : columns_) {
             const bool same = by_type ? column.type == shape.type
                                       : shape.number && column.number && column.size == shape.size;
-            if (same && !bound.contains(&column)) {
-                return &column;
-            }
+            if (same && !bound.contains(&column)) return &column;
         }
     }
     return nullptr;

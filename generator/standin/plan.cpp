@@ -72,16 +72,10 @@ std::pair<std::string, std::string> family_of(const Function &function) {
     const std::string &name = function.row;
     const bool chapter = function.parameters.size() == 1 && takes_unit(function);
     for (const auto &row : kEndings) {
-        if (!ends_with(name, row.ending)) {
-            continue;
-        }
+        if (!ends_with(name, row.ending)) continue;
         const std::string stem = name.substr(0, name.size() - std::string(row.ending).size());
-        if (std::string(row.verb) == "forget" && !chapter) {
-            continue;
-        }
-        if (chapter && std::string(row.ending) == "_detach") {
-            return {stem + "_", "forget"};
-        }
+        if (std::string(row.verb) == "forget" && !chapter) continue;
+        if (chapter && std::string(row.ending) == "_detach") return {stem + "_", "forget"};
         const auto other = kFamilies.find(stem);
         return {(other == kFamilies.end() ? stem : other->second) + row.table, row.verb};
     }
@@ -101,9 +95,7 @@ void plan_init(const Shapes &shapes, Member &member) {
             plan.row = member.shapes[i].size;
         }
     }
-    if (plan.row == 0) {
-        return;
-    }
+    if (plan.row == 0) return;
     const Struct &record = *member.shapes[plan.callback].record;
     for (std::size_t i = 0; i < member.shapes.size(); ++i) {
         const Shape &shape = member.shapes[i];
@@ -130,12 +122,8 @@ bool any_verb(const std::vector<Member> &members, const std::set<std::string> &v
 }
 
 std::string layer_of(const std::vector<Member> &members, const std::string &family) {
-    if (ends_with(family, "_register")) {
-        return "registration";
-    }
-    if (any_verb(members, {"create", "destroy"})) {
-        return "generic-object";
-    }
+    if (ends_with(family, "_register")) return "registration";
+    if (any_verb(members, {"create", "destroy"})) return "generic-object";
     return any_verb(members, {"add", "remove"}) ? "generic-table" : "generic-pair";
 }
 
@@ -171,9 +159,7 @@ bool tells_of_rows(const std::vector<Member> &members) {
 }  // namespace
 
 bool takes_unit(const Function &function) {
-    if (function.parameters.empty()) {
-        return false;
-    }
+    if (function.parameters.empty()) return false;
     const Variable &first = function.parameters.front();
     const bool number = first.type == "int" || first.type == "uint32" || first.type == "uint";
     return number && (first.name == "unit" || (first.name.empty() && first.type == "int" &&
@@ -181,17 +167,14 @@ bool takes_unit(const Function &function) {
 }
 
 void plan_family(const Shapes &shapes, const std::string &family, std::vector<Member> members) {
-    if (kUnfit.contains(family)) {
-        return;
-    }
+    if (kUnfit.contains(family)) return;
     const std::string layer = layer_of(members, family);
     std::vector<Member> objects;
     std::vector<Member> rows;
     const bool both = any_verb(members, {"destroy"}) && any_verb(members, {"add"});
     for (const auto &member : members) {
-        if (any_verb(members, {"destroy"}) && !both && member.verb == "remove") {
+        if (any_verb(members, {"destroy"}) && !both && member.verb == "remove")
             continue;  // takes the object out of the hardware only
-        }
         static const std::set<std::string> of_rows = {"add", "remove", "remove_all"};
         (both && of_rows.contains(member.verb) ? rows : objects).push_back(member);
     }
@@ -210,18 +193,13 @@ void plan_family(const Shapes &shapes, const std::string &family, std::vector<Me
             objects.erase(accessors, objects.end());
         }
     }
-    for (auto &member : objects) {
+    for (auto &member : objects)
         member.verb = member.verb == "destroy_all" ? "remove_all" : member.verb;
-    }
     Part part(shapes, family, objects);
-    if (part.find_columns()) {
-        part.bind_members(layer);
-    }
+    if (part.find_columns()) part.bind_members(layer);
     Part inner(shapes, family + "/members", rows);
     inner.belongs_to(part);
-    if (!rows.empty() && inner.find_columns()) {
-        inner.bind_members(layer_of(rows, family));
-    }
+    if (!rows.empty() && inner.find_columns()) inner.bind_members(layer_of(rows, family));
 }
 
 std::vector<Plan> plan_standin(const Model &model) {
@@ -232,23 +210,19 @@ std::vector<Plan> plan_standin(const Model &model) {
         const Function &function = model.functions[i];
         const auto [family, verb] = family_of(function);
         Member member{&function, verb, {}, &plans[i]};
-        for (const auto &parameter : function.parameters) {
+        for (const auto &parameter : function.parameters)
             member.shapes.push_back(shapes.of(parameter));
-        }
         const bool status = function.result == "int" || function.result == "void";
-        if (verb == "init") {
+        if (verb == "init")
             plan_init(shapes, member);
-        } else if (function.module_native || !status || !takes_unit(function)) {
+        else if (function.module_native || !status || !takes_unit(function))
             continue;
-        } else if (verb == "forget") {
+        else if (verb == "forget")
             plan_forget(family, member);
-        } else if (!plan_statistic(shapes, member) && !verb.empty()) {
+        else if (!plan_statistic(shapes, member) && !verb.empty())
             families[family].push_back(member);
-        }
     }
-    for (const auto &[family, members] : families) {
-        plan_family(shapes, family, members);
-    }
+    for (const auto &[family, members] : families) plan_family(shapes, family, members);
     return plans;
 }
 

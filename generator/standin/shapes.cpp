@@ -18,21 +18,13 @@ bool ends_with(const std::string &text, const std::string &end) {
 }  // namespace
 
 Shapes::Shapes(const Model &model) : model_(model) {
-    for (const auto &record : model.structs) {
-        structs_[record.name] = &record;
-    }
-    for (const auto &row : model.typedefs) {
-        typedefs_[row.name] = &row;
-    }
-    for (const auto &row : model.kinds) {
-        kinds_[row.type] = &row;
-    }
+    for (const auto &record : model.structs) structs_[record.name] = &record;
+    for (const auto &row : model.typedefs) typedefs_[row.name] = &row;
+    for (const auto &row : model.kinds) kinds_[row.type] = &row;
     names_.insert(model.defines.begin(), model.defines.end());
-    for (const auto &row : model.install) {
-        if (row.what == InstallRow::What::constant) {
+    for (const auto &row : model.install)
+        if (row.what == InstallRow::What::constant)
             names_.emplace(row.name, std::to_string(row.value));
-        }
-    }
 }
 
 std::size_t Shapes::elements(const std::vector<std::string> &bounds) const {
@@ -59,12 +51,9 @@ Shapes::Layout Shapes::layout(const std::string &type) const {
         return layout;
     }
     const auto kind = kinds_.find(type);
-    if (kind != kinds_.end() && kind->second->kind == Kind::by_value) {
+    if (kind != kinds_.end() && kind->second->kind == Kind::by_value)
         layout.size = kind->second->size;
-    }
-    if (kind != kinds_.end() && kind->second->kind == Kind::port_bitmap) {
-        layout.size = 72;
-    }
+    if (kind != kinds_.end() && kind->second->kind == Kind::port_bitmap) layout.size = 72;
     if (const auto row = typedefs_.find(type); row != typedefs_.end()) {
         const Layout base = this->layout(row->second->type);
         layout.array = base.array || !row->second->bounds.empty();
@@ -101,17 +90,14 @@ Shape Shapes::of(const Variable &parameter) const {
         return shape;
     }
     const bool pointer = ends_with(type, " *");
-    if (pointer) {
-        shape.type.erase(type.size() - 2);
-    }
+    if (pointer) shape.type.erase(type.size() - 2);
     const Layout layout = this->layout(shape.type);
     shape.size = layout.size * elements(parameter.bounds);
     shape.record = parameter.bounds.empty() ? layout.record : nullptr;
     shape.number = layout.number && parameter.bounds.empty();
     shape.array = !pointer && (layout.array || !parameter.bounds.empty());
-    if (shape.size != 0) {
+    if (shape.size != 0)
         shape.form = pointer || shape.array ? Shape::Form::memory : Shape::Form::value;
-    }
     return shape;
 }
 
@@ -120,9 +106,7 @@ const Variable *Shapes::field(const Struct &record, const std::string &name,
     const Variable *found = nullptr;
     std::size_t of_type = 0;
     for (const auto &field : record.fields) {
-        if (field.name == name) {
-            return &field;
-        }
+        if (field.name == name) return &field;
         if (field.type == type && field.bounds.empty()) {
             found = &field;
             ++of_type;

@@ -47,11 +47,8 @@ constexpr std::array<StatisticForm, 23> kForms = {{
 constexpr std::size_t kCounterBytes = 8;
 
 const StatisticForm *form_of(const std::string &name) {
-    for (const auto &form : kForms) {
-        if (name.ends_with(form.ending)) {
-            return &form;
-        }
-    }
+    for (const auto &form : kForms)
+        if (name.ends_with(form.ending)) return &form;
     return nullptr;
 }
 
@@ -60,9 +57,7 @@ bool is_number(const Shape &shape, Form form) { return shape.form == form && sha
 // Whether the parameters behind the key are those of the form.
 bool fits(const Member &member, const StatisticForm &form) {
     const auto &shapes = member.shapes;
-    if (shapes.size() < form.behind + 2) {
-        return false;
-    }
+    if (shapes.size() < form.behind + 2) return false;
     const auto behind = [&](std::size_t i) -> const Shape & {
         return shapes[shapes.size() - form.behind + i];
     };
@@ -104,9 +99,7 @@ bool append_keys(const Shapes &shapes, Plan &plan, const Member &member, std::si
             append(plan, member, i, "select", false);
             continue;
         }
-        if (shape.form != Form::memory || shape.record == nullptr) {
-            return false;
-        }
+        if (shape.form != Form::memory || shape.record == nullptr) return false;
         for (const auto &column : key_columns(shapes, shape)) {
             const Variable *field =
                 column.record != nullptr ? nullptr : shapes.field(*shape.record, column.name, "");
@@ -126,9 +119,7 @@ bool append_keys(const Shapes &shapes, Plan &plan, const Member &member, std::si
 bool plan_statistic(const Shapes &shapes, Member &member) {
     const std::string &name = member.function->row;
     const StatisticForm *form = form_of(name);
-    if (form == nullptr || !fits(member, *form)) {
-        return false;
-    }
+    if (form == nullptr || !fits(member, *form)) return false;
     const std::size_t key_end = member.shapes.size() - form->behind;
     const bool attached = std::string(form->table) == "_stat_attach";
     const char *out = std::string(form->operation) == "store" ? "write" : "read";
@@ -136,21 +127,16 @@ bool plan_statistic(const Shapes &shapes, Member &member) {
     plan.layer = "generic-statistic";
     plan.operation = form->operation;
     plan.family = name.substr(0, name.size() - std::string(form->ending).size()) + form->table;
-    if (!append_keys(shapes, plan, member, key_end)) {
-        return false;
-    }
-    if (form->behind == 3) {
+    if (!append_keys(shapes, plan, member, key_end)) return false;
+    if (form->behind == 3)
         plan.count = key_end;
-    } else if (form->behind == 4) {
+    else if (form->behind == 4)
         plan.count = key_end + 1;
-    }
     if (form->behind >= 2 && !attached) {  // the number of the statistic
         append(plan, member, form->behind == 3 ? key_end + 1 : key_end, "select",
                form->behind == 3);
     }
-    if (form->behind == 4) {
-        append(plan, member, key_end + 2, "select", true);
-    }
+    if (form->behind == 4) append(plan, member, key_end + 2, "select", true);
     plan.key = plan.row;
     if (form->behind != 0) {
         append(plan, member, member.shapes.size() - 1,

@@ -97,8 +97,8 @@ class Ptr {
     Ptr(Ptr &&other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
 
     template <class Derived>
-    requires std::is_convertible_v<Derived *, T *> Ptr(const Ptr<Derived> &other)
-    noexcept : Ptr(other.get()) {}
+        requires std::is_convertible_v<Derived *, T *>
+    Ptr(const Ptr<Derived> &other) noexcept : Ptr(other.get()) {}
 
     // Adds a reference to `object`, which may be null.
     explicit Ptr(T *object) noexcept : object_(object) {

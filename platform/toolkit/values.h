@@ -46,9 +46,8 @@ class ExternalPhyId : public Value<std::uint16_t> {
     constexpr ExternalPhyId() = default;
     // Throws by Lumo::throwRangeException() for a number above 0x3FF.
     constexpr explicit ExternalPhyId(std::uint16_t phy) : Value(phy) {
-        if (phy > 0x3FF) {
+        if (phy > 0x3FF)
             Lumo::throwRangeException("ExternalPhyId::value < 0 or > 0x03ff not allowed");
-        }
     }
 };
 
@@ -85,8 +84,8 @@ class PortAddr : public Value<std::uint8_t> {
 
 // How the values travel: a change here changes the binary interface of every library.
 template <class T, std::size_t size>
-inline constexpr bool travelsInRegister = std::is_trivially_copyable_v<T> && sizeof(T) == size &&
-                                          alignof(T) == size;
+inline constexpr bool travelsInRegister =
+    std::is_trivially_copyable_v<T> && sizeof(T) == size && alignof(T) == size;
 
 static_assert(travelsInRegister<TesselApi::UnitId, 4>);
 static_assert(travelsInRegister<TesselApi::ExternalPhyId, 2>);

@@ -32,35 +32,28 @@ unsigned char *item_place(const Array *self, Py_ssize_t index) {
 PyObject *new_array(const Element &element, unsigned char *data, std::size_t count) {
     PyTypeObject *type = array_type();
     PyObject *object = type != nullptr ? type->tp_alloc(type, 0) : nullptr;
-    if (object == nullptr) {
-        return nullptr;
-    }
+    if (object == nullptr) return nullptr;
     Array *self = as_array(object);
     self->element = &element;
     self->data = data;
     self->length = static_cast<Py_ssize_t>(count);
     self->is_view = true;  // until the memory is handed over
     self->pointer = SWIG_Python_NewPointerObj(data, swig_type_slots[element.slot], FLAG_NOPROXY);
-    if (self->pointer == nullptr) {
-        Py_CLEAR(object);
-    }
+    if (self->pointer == nullptr) Py_CLEAR(object);
     return object;
 }
 
 PyObject *new_zeroes(const Element &element, std::size_t count) {
-    if (count > PY_SSIZE_T_MAX / element.size) {
-        return PyErr_NoMemory();
-    }
+    if (count > PY_SSIZE_T_MAX / element.size) return PyErr_NoMemory();
     // An empty array has an address as well.
     void *data = std::calloc(count == 0 ? 1 : count, element.size);
     PyObject *object = data != nullptr
                            ? new_array(element, static_cast<unsigned char *>(data), count)
                            : PyErr_NoMemory();
-    if (object == nullptr) {
+    if (object == nullptr)
         std::free(data);
-    } else {
+    else
         as_array(object)->is_view = false;
-    }
     return object;
 }
 
@@ -77,16 +70,12 @@ int store_item(Array *self, Py_ssize_t index, PyObject *value);
 
 PyObject *new_filled(const Element &element, PyObject *values) {
     const ombra::PyRef items(as_items(element, values));
-    if (items == nullptr) {
-        return nullptr;
-    }
+    if (items == nullptr) return nullptr;
     const Py_ssize_t count = PySequence_Fast_GET_SIZE(items.get());
     ombra::PyRef object(new_zeroes(element, static_cast<std::size_t>(count)));
-    for (Py_ssize_t i = 0; object != nullptr && i < count; ++i) {
-        if (store_item(as_array(object.get()), i, PySequence_Fast_GET_ITEM(items.get(), i)) != 0) {
+    for (Py_ssize_t i = 0; object != nullptr && i < count; ++i)
+        if (store_item(as_array(object.get()), i, PySequence_Fast_GET_ITEM(items.get(), i)) != 0)
             return nullptr;
-        }
-    }
     return object.release();
 }
 
@@ -94,23 +83,14 @@ PyObject *new_filled(const Element &element, PyObject *values) {
 PyObject *array_new(PyTypeObject *, PyObject *args, PyObject *keywords) {
     const char *name = nullptr;
     PyObject *content = nullptr;
-    if (keywords != nullptr && PyDict_Size(keywords) != 0) {
+    if (keywords != nullptr && PyDict_Size(keywords) != 0)
         return PyErr_Format(PyExc_TypeError, "Array takes no keywords");
-    }
-    if (!PyArg_ParseTuple(args, "sO:Array", &name, &content)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "sO:Array", &name, &content)) return nullptr;
     const Element *element = find_element(name);
-    if (element == nullptr) {
-        return nullptr;
-    }
-    if (!PyInt_Check(content) && !PyLong_Check(content)) {
-        return new_filled(*element, content);
-    }
+    if (element == nullptr) return nullptr;
+    if (!PyInt_Check(content) && !PyLong_Check(content)) return new_filled(*element, content);
     const Py_ssize_t count = PyNumber_AsSsize_t(content, PyExc_OverflowError);
-    if (count >= 0) {
-        return new_zeroes(*element, static_cast<std::size_t>(count));
-    }
+    if (count >= 0) return new_zeroes(*element, static_cast<std::size_t>(count));
     return PyErr_Occurred() != nullptr
                ? nullptr
                : PyErr_Format(PyExc_ValueError, "the element count is negative");
@@ -118,13 +98,9 @@ PyObject *array_new(PyTypeObject *, PyObject *args, PyObject *keywords) {
 
 void array_dealloc(PyObject *object) {
     Array *self = as_array(object);
-    if (self->weak_references != nullptr) {
-        PyObject_ClearWeakRefs(object);
-    }
+    if (self->weak_references != nullptr) PyObject_ClearWeakRefs(object);
     unsigned char *own_memory = self->is_view ? nullptr : self->data;
-    if (self->pointer != nullptr) {
-        forget_view(object);  // whoever holds `this` finds a null pointer
-    }
+    if (self->pointer != nullptr) forget_view(object);  // whoever holds `this` finds a null pointer
     std::free(own_memory);
     Py_CLEAR(self->pointer);
     Py_CLEAR(self->kept);
@@ -148,15 +124,9 @@ PyObject *array_item(PyObject *object, Py_ssize_t index) {
 }
 
 int store_item(Array *self, Py_ssize_t index, PyObject *value) {
-    if (!store(*self->element, item_place(self, index), value)) {
-        return -1;
-    }
-    if (!needs_keeping(*self->element)) {
-        return 0;
-    }
-    if (self->kept == nullptr) {
-        self->kept = PyDict_New();
-    }
+    if (!store(*self->element, item_place(self, index), value)) return -1;
+    if (!needs_keeping(*self->element)) return 0;
+    if (self->kept == nullptr) self->kept = PyDict_New();
     const ombra::PyRef key(PyInt_FromSsize_t(index));
     return self->kept != nullptr && key != nullptr ? PyDict_SetItem(self->kept, key.get(), value)
                                                    : -1;
@@ -189,9 +159,7 @@ PyObject *array_subscript(PyObject *object, PyObject *key) {
     Py_ssize_t count = 0;
     if (!PySlice_Check(key)) {
         Py_ssize_t index = PyNumber_AsSsize_t(key, PyExc_IndexError);
-        if (index == -1 && PyErr_Occurred() != nullptr) {
-            return nullptr;
-        }
+        if (index == -1 && PyErr_Occurred() != nullptr) return nullptr;
         return array_item(object, index < 0 ? index + self->length : index);
     }
     if (PySlice_GetIndicesEx(reinterpret_cast<PySliceObject *>(key), self->length, &start, &stop,
@@ -201,9 +169,7 @@ PyObject *array_subscript(PyObject *object, PyObject *key) {
     ombra::PyRef list(PyList_New(count));
     for (Py_ssize_t i = 0; list != nullptr && i < count; ++i) {
         PyObject *item = array_item(object, start + i * step);
-        if (item == nullptr) {
-            return nullptr;
-        }
+        if (item == nullptr) return nullptr;
         PyList_SET_ITEM(list.get(), i, item);
     }
     return list.release();
@@ -217,27 +183,19 @@ int array_set_subscript(PyObject *object, PyObject *key, PyObject *value) {
     Py_ssize_t count = 0;
     if (!PySlice_Check(key)) {
         const Py_ssize_t index = PyNumber_AsSsize_t(key, PyExc_IndexError);
-        if (index == -1 && PyErr_Occurred() != nullptr) {
-            return -1;
-        }
+        if (index == -1 && PyErr_Occurred() != nullptr) return -1;
         return array_set_item(object, index < 0 ? index + self->length : index, value);
     }
     if (value == nullptr || PySlice_GetIndicesEx(reinterpret_cast<PySliceObject *>(key),
                                                  self->length, &start, &stop, &step, &count) != 0) {
-        if (value == nullptr) {
-            PyErr_SetString(PyExc_TypeError, "elements cannot be deleted");
-        }
+        if (value == nullptr) PyErr_SetString(PyExc_TypeError, "elements cannot be deleted");
         return -1;
     }
     const ombra::PyRef items(as_items(*self->element, value));
-    if (items == nullptr || !has_length(items.get(), count)) {
-        return -1;
-    }
-    for (Py_ssize_t i = 0; i < count; ++i) {
-        if (store_item(self, start + i * step, PySequence_Fast_GET_ITEM(items.get(), i)) != 0) {
+    if (items == nullptr || !has_length(items.get(), count)) return -1;
+    for (Py_ssize_t i = 0; i < count; ++i)
+        if (store_item(self, start + i * step, PySequence_Fast_GET_ITEM(items.get(), i)) != 0)
             return -1;
-        }
-    }
     return 0;
 }
 
@@ -246,9 +204,7 @@ PyObject *array_repr(PyObject *object) {
     const Array *self = as_array(object);
     const ombra::PyRef items(PySequence_GetSlice(object, 0, most));
     const ombra::PyRef text(items != nullptr ? PyObject_Repr(items.get()) : nullptr);
-    if (text == nullptr) {
-        return nullptr;
-    }
+    if (text == nullptr) return nullptr;
     return self->length <= most
                ? PyString_FromFormat("Array('%s', %s)", self->element->name,
                                      PyString_AS_STRING(text.get()))
@@ -258,9 +214,8 @@ PyObject *array_repr(PyObject *object) {
 
 // Equal to a sequence of equal items. No order.
 PyObject *array_compare(PyObject *object, PyObject *other, int operation) {
-    if ((operation != Py_EQ && operation != Py_NE) || !PySequence_Check(other)) {
+    if ((operation != Py_EQ && operation != Py_NE) || !PySequence_Check(other))
         return ombra::new_ref(Py_NotImplemented).release();
-    }
     const ombra::PyRef left(PySequence_List(object));
     const ombra::PyRef right(PySequence_List(other));
     return left != nullptr && right != nullptr
@@ -369,9 +324,7 @@ void forget_view(PyObject *array) {
 
 bool store_items(const Element &element, void *place, std::size_t count, PyObject *values) {
     const ombra::PyRef items(as_items(element, values));
-    if (items == nullptr || !has_length(items.get(), static_cast<Py_ssize_t>(count))) {
-        return false;
-    }
+    if (items == nullptr || !has_length(items.get(), static_cast<Py_ssize_t>(count))) return false;
     auto *item = static_cast<unsigned char *>(place);
     for (std::size_t i = 0; i < count; ++i, item += element.size) {
         if (!store(element, item,

@@ -90,13 +90,9 @@ ombra::PyRef make_tuple(const Argument *arguments, std::size_t count, const Argu
     ombra::PyRef tuple(PyTuple_New(static_cast<Py_ssize_t>(count - (cookie != nullptr ? 1 : 0))));
     Py_ssize_t index = 0;
     for (const Argument *one = arguments; tuple != nullptr && one != arguments + count; ++one) {
-        if (one == cookie) {
-            continue;
-        }
+        if (one == cookie) continue;
         PyObject *object = to_python(*one);
-        if (object == nullptr) {
-            return nullptr;
-        }
+        if (object == nullptr) return nullptr;
         PyTuple_SET_ITEM(tuple.get(), index++, object);
     }
     return tuple;
@@ -109,9 +105,7 @@ void empty_objects(PyObject *tuple) {
         if (Py_TYPE(object) == array_type()) {
             forget_view(object);
         } else if (!PyInt_Check(object) && !PyString_Check(object) && object != Py_None) {
-            if (SwigPyObject *pointer = SWIG_Python_GetSwigThis(object)) {
-                pointer->ptr = nullptr;
-            }
+            if (SwigPyObject *pointer = SWIG_Python_GetSwigThis(object)) pointer->ptr = nullptr;
         }
     }
 }
@@ -134,19 +128,14 @@ bool read_answer(const Callback &callback, PyObject *result, int &answer) {
 int call_python(const Callback &callback, const Argument *arguments, std::size_t count) {
     const Argument *cookie = nullptr;
     const ombra::PyRef callable = find_callable(callback, arguments, count, cookie);
-    if (callable == nullptr) {
-        return callback.answers.failure;
-    }
+    if (callable == nullptr) return callback.answers.failure;
     int answer = callback.answers.failure;
     const ombra::PyRef tuple = make_tuple(arguments, count, cookie);
     const ombra::PyRef result(tuple != nullptr ? PyObject_Call(callable.get(), tuple.get(), nullptr)
                                                : nullptr);
-    if (result == nullptr || !read_answer(callback, result.get(), answer)) {
+    if (result == nullptr || !read_answer(callback, result.get(), answer))
         PyErr_WriteUnraisable(callable.get());
-    }
-    if (tuple != nullptr && !callback.keeps_arguments) {
-        empty_objects(tuple.get());
-    }
+    if (tuple != nullptr && !callback.keeps_arguments) empty_objects(tuple.get());
     return answer;
 }
 
@@ -169,9 +158,7 @@ const Callback *callback_of_object(PyObject *object) {
     const Callback *callback = name != nullptr && PyString_Check(name.get())
                                    ? find_callback(PyString_AS_STRING(name.get()))
                                    : nullptr;
-    if (callback == nullptr) {
-        PyErr_SetString(PyExc_ValueError, "no native callback has this name");
-    }
+    if (callback == nullptr) PyErr_SetString(PyExc_ValueError, "no native callback has this name");
     return callback;
 }
 
@@ -186,9 +173,7 @@ bool check_callable(PyObject *object) {
 }  // namespace
 
 int run_callback(const Callback &callback, const Argument *arguments, std::size_t count) {
-    if (Py_IsInitialized() == 0) {
-        return callback.answers.failure;
-    }
+    if (Py_IsInitialized() == 0) return callback.answers.failure;
     const PyGILState_STATE state = PyGILState_Ensure();
     const int answer = call_python(callback, arguments, count);
     PyGILState_Release(state);
@@ -196,11 +181,8 @@ int run_callback(const Callback &callback, const Argument *arguments, std::size_
 }
 
 const Callback *find_callback(const char *name) {
-    for (const Callback *one = callbacks; one != callbacks + callback_count; ++one) {
-        if (std::strcmp(one->name, name) == 0) {
-            return one;
-        }
-    }
+    for (const Callback *one = callbacks; one != callbacks + callback_count; ++one)
+        if (std::strcmp(one->name, name) == 0) return one;
     return nullptr;
 }
 
@@ -210,15 +192,11 @@ PyObject *refuse_call(PyObject *, PyObject *) {
 }
 
 PyObject *new_cookie(PyObject *, PyObject *callable) {
-    if (!check_callable(callable)) {
-        return nullptr;
-    }
+    if (!check_callable(callable)) return nullptr;
     const std::uint64_t number = next_cookie();
     PyObject *object = SWIG_Python_NewPointerObj(reinterpret_cast<void *>(number),
                                                  swig_type_slots[slots::_p_void], FLAG_NOPROXY);
-    if (object != nullptr && !enter(cookies(), number, callable)) {
-        Py_CLEAR(object);
-    }
+    if (object != nullptr && !enter(cookies(), number, callable)) Py_CLEAR(object);
     return object;
 }
 
@@ -236,17 +214,11 @@ PyObject *release_cookie(PyObject *, PyObject *cookie) {
 PyObject *bind(PyObject *, PyObject *args) {
     PyObject *name = nullptr;
     PyObject *callable = nullptr;
-    if (!PyArg_ParseTuple(args, "OO:bind", &name, &callable)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "OO:bind", &name, &callable)) return nullptr;
     const Callback *callback = callback_of_object(name);
-    if (callback == nullptr || (callable != Py_None && !check_callable(callable))) {
-        return nullptr;
-    }
+    if (callback == nullptr || (callable != Py_None && !check_callable(callable))) return nullptr;
     auto node = bindings().extract(callback);
-    if (callable != Py_None && !enter(bindings(), callback, callable)) {
-        return nullptr;
-    }
+    if (callable != Py_None && !enter(bindings(), callback, callable)) return nullptr;
     return node.empty() ? ombra::new_ref(Py_None).release() : node.mapped().release();
 }
 

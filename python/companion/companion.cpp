@@ -35,9 +35,7 @@ void *value_place(PyObject *object, const Element *&element) {
         PyErr_SetString(PyExc_TypeError, "a value object is wanted");
         return nullptr;
     }
-    if (pointer->ptr == nullptr) {
-        PyErr_SetString(PyExc_ValueError, "the value is gone");
-    }
+    if (pointer->ptr == nullptr) PyErr_SetString(PyExc_ValueError, "the value is gone");
     return pointer->ptr;
 }
 
@@ -56,30 +54,21 @@ bool store_own_callback(const Element &element, void *place) {
 PyObject *new_value(PyObject *, PyObject *args) {
     const char *name = nullptr;
     PyObject *value = Py_None;
-    if (!PyArg_ParseTuple(args, "s|O:new_value", &name, &value)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "s|O:new_value", &name, &value)) return nullptr;
     const Element *element = find_element(name);
-    if (element == nullptr) {
-        return nullptr;
-    }
+    if (element == nullptr) return nullptr;
     void *place = ::operator new(element->size, std::nothrow);
-    if (place == nullptr) {
-        return PyErr_NoMemory();
-    }
+    if (place == nullptr) return PyErr_NoMemory();
     std::memset(place, 0, element->size);
     bool stored = true;
-    if (value != Py_None) {
+    if (value != Py_None)
         stored = store(*element, place, value);
-    } else if (element->form == Form::code_pointer) {
+    else if (element->form == Form::code_pointer)
         stored = store_own_callback(*element, place);
-    }
     PyObject *object = stored ? SWIG_Python_NewPointerObj(place, swig_type_slots[element->slot],
                                                           FLAG_OWN | FLAG_NOPROXY)
                               : nullptr;
-    if (object == nullptr) {
-        ::operator delete(place);
-    }
+    if (object == nullptr) ::operator delete(place);
     return object;
 }
 
@@ -93,14 +82,10 @@ PyObject *get_value(PyObject *, PyObject *object) {
 PyObject *set_value(PyObject *, PyObject *args) {
     PyObject *object = nullptr;
     PyObject *value = nullptr;
-    if (!PyArg_ParseTuple(args, "OO:set_value", &object, &value)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "OO:set_value", &object, &value)) return nullptr;
     const Element *element = nullptr;
     void *place = value_place(object, element);
-    if (place == nullptr || !store(*element, place, value)) {
-        return nullptr;
-    }
+    if (place == nullptr || !store(*element, place, value)) return nullptr;
     Py_RETURN_NONE;
 }
 
@@ -108,16 +93,11 @@ PyObject *set_value(PyObject *, PyObject *args) {
 PyObject *delete_value(PyObject *, PyObject *args) {
     PyObject *object = nullptr;
     const Element *element = nullptr;
-    if (!PyArg_UnpackTuple(args, "delete_value", 1, 1, &object)) {
-        return nullptr;
-    }
+    if (!PyArg_UnpackTuple(args, "delete_value", 1, 1, &object)) return nullptr;
     void *place = value_place(object, element);
-    if (place == nullptr) {
-        return nullptr;
-    }
-    if (Py_TYPE(object) == array_type()) {
+    if (place == nullptr) return nullptr;
+    if (Py_TYPE(object) == array_type())
         return PyErr_Format(PyExc_TypeError, "an Array frees its memory by itself");
-    }
     SWIG_Python_GetSwigThis(object)->own = 0;
     ::operator delete(place);
     Py_RETURN_NONE;
@@ -139,13 +119,9 @@ Counted *held(PyObject *object) {
 // The __swig_destroy__ of holders: drops the reference and the holder.
 PyObject *delete_holder(PyObject *, PyObject *args) {
     PyObject *object = nullptr;
-    if (!PyArg_UnpackTuple(args, "delete_holder", 1, 1, &object)) {
-        return nullptr;
-    }
+    if (!PyArg_UnpackTuple(args, "delete_holder", 1, 1, &object)) return nullptr;
     Counted *holder = held(object);
-    if (holder == nullptr) {
-        return nullptr;
-    }
+    if (holder == nullptr) return nullptr;
     SWIG_Python_GetSwigThis(object)->own = 0;
     delete holder;
     Py_RETURN_NONE;
@@ -155,9 +131,7 @@ PyObject *delete_holder(PyObject *, PyObject *args) {
 // one, else of `void *`; None for null.
 PyObject *held_pointer(PyObject *, PyObject *object) {
     const Counted *holder = held(object);
-    if (holder == nullptr) {
-        return nullptr;
-    }
+    if (holder == nullptr) return nullptr;
     const char *name = SWIG_Python_GetSwigThis(object)->type->name;
     std::vector<char> target(name, name + std::strlen(name) - (sizeof "__Ptr" - 1));
     target.push_back('\0');
@@ -172,20 +146,14 @@ PyObject *view(PyObject *, PyObject *args) {
     PyObject *object = nullptr;
     Py_ssize_t count = 1;
     PyObject *owner = nullptr;
-    if (!PyArg_ParseTuple(args, "sO|nO:view", &name, &object, &count, &owner)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "sO|nO:view", &name, &object, &count, &owner)) return nullptr;
     const Element *element = find_element(name);
-    if (element == nullptr) {
-        return nullptr;
-    }
+    if (element == nullptr) return nullptr;
     void *place = nullptr;
-    if (SWIG_Python_ConvertPtrAndOwn(object, &place, swig_type_slots[element->slot], 0) < 0) {
+    if (SWIG_Python_ConvertPtrAndOwn(object, &place, swig_type_slots[element->slot], 0) < 0)
         return PyErr_Format(PyExc_TypeError, "a pointer of type '%s *' is wanted", name);
-    }
-    if (place == nullptr || count < 0) {
+    if (place == nullptr || count < 0)
         return PyErr_Format(PyExc_ValueError, "a view of a null pointer or of a negative count");
-    }
     return new_view(*element, place, static_cast<std::size_t>(count),
                     owner != nullptr ? owner : object);
 }
@@ -194,15 +162,12 @@ PyObject *view(PyObject *, PyObject *args) {
 PyObject *register_class(PyObject *, PyObject *args) {
     const char *name = nullptr;
     PyObject *proxy_class = nullptr;
-    if (!PyArg_ParseTuple(args, "sO:register_class", &name, &proxy_class)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "sO:register_class", &name, &proxy_class)) return nullptr;
     std::vector<char> pretty(name, name + std::strlen(name));
     pretty.insert(pretty.end(), {' ', '*', '\0'});
     swig_type_info *type = SWIG_Python_TypeQuery(pretty.data());
-    if (type == nullptr) {
+    if (type == nullptr)
         return PyErr_Format(PyExc_ValueError, "no native type is called '%s'", name);
-    }
     const ombra::PyRef unpacked(PyTuple_Pack(1, proxy_class));
     return unpacked != nullptr ? SWIG_Python_RegisterClass(type, unpacked.get()) : nullptr;
 }
@@ -212,9 +177,7 @@ PyObject *native_types(PyObject *, PyObject *) {
     ombra::PyRef list(PyList_New(static_cast<Py_ssize_t>(element_count)));
     for (std::size_t i = 0; list != nullptr && i < element_count; ++i) {
         PyObject *name = PyString_FromString(elements[i].name);
-        if (name == nullptr) {
-            return nullptr;
-        }
+        if (name == nullptr) return nullptr;
         PyList_SET_ITEM(list.get(), static_cast<Py_ssize_t>(i), name);
     }
     return list.release();

@@ -26,13 +26,9 @@ bool refuse(const Element &element, int status) {
 
 // Whether `bits` is in the range of a number of the element's size and sign.
 bool in_range(const Element &element, std::uint64_t bits) {
-    if (element.size == sizeof bits) {
-        return true;
-    }
+    if (element.size == sizeof bits) return true;
     const unsigned width = element.size * 8;
-    if (!element.is_signed) {
-        return bits >> width == 0;
-    }
+    if (!element.is_signed) return bits >> width == 0;
     return (bits + (std::uint64_t{1} << (width - 1))) >> width == 0;
 }
 
@@ -48,12 +44,8 @@ bool store_number(const Element &element, void *place, PyObject *value) {
         status = SWIG_AsVal_unsigned_SS_long_SS_long(value, &number);
         bits = number;
     }
-    if (status >= 0 && !in_range(element, bits)) {
-        status = STATUS_OVERFLOW;
-    }
-    if (status < 0) {
-        return refuse(element, status);
-    }
+    if (status >= 0 && !in_range(element, bits)) status = STATUS_OVERFLOW;
+    if (status < 0) return refuse(element, status);
     if (element.check != nullptr) {
         try {
             element.check(bits);
@@ -82,9 +74,7 @@ bool store_text(const Element &element, void *place, PyObject *value) {
     char *text = nullptr;
     int borrowed = 0;
     const int status = SWIG_AsCharPtrAndSize(value, &text, nullptr, &borrowed);
-    if (status < 0) {
-        return refuse(element, status);
-    }
+    if (status < 0) return refuse(element, status);
     std::memcpy(place, &text, sizeof text);
     return true;
 }
@@ -93,17 +83,14 @@ bool store_text(const Element &element, void *place, PyObject *value) {
 bool store_address(const Element &element, void *place, PyObject *value) {
     unsigned long address = 0;
     const int status = value == Py_None ? STATUS_OK : SWIG_AsVal_unsigned_SS_long(value, &address);
-    if (status < 0) {
-        return refuse(element, status);
-    }
+    if (status < 0) return refuse(element, status);
     std::memcpy(place, &address, sizeof address);
     return true;
 }
 
 bool store_pointer(const Element &element, void *place, PyObject *value) {
-    if (element.form == Form::code_pointer && element.inner == 0) {
+    if (element.form == Form::code_pointer && element.inner == 0)
         return store_address(element, place, value);
-    }
     swig_type_info *type = swig_type_slots[element.inner];
     void *pointer = nullptr;
     int status = STATUS_OK;
@@ -113,9 +100,7 @@ bool store_pointer(const Element &element, void *place, PyObject *value) {
         const bool any = std::strcmp(type->name, "_p_void") == 0;
         status = SWIG_Python_ConvertPtrAndOwn(value, &pointer, any ? nullptr : type, 0);
     }
-    if (status < 0) {
-        return refuse(element, status);
-    }
+    if (status < 0) return refuse(element, status);
     std::memcpy(place, &pointer, sizeof pointer);
     return true;
 }
@@ -123,12 +108,9 @@ bool store_pointer(const Element &element, void *place, PyObject *value) {
 PyObject *load_pointer(const Element &element, const void *place) {
     void *pointer = nullptr;
     std::memcpy(&pointer, place, sizeof pointer);
-    if (element.form == Form::text) {
-        return ombra::text_result(static_cast<const char *>(pointer));
-    }
-    if (element.form == Form::code_pointer && element.inner == 0) {
+    if (element.form == Form::text) return ombra::text_result(static_cast<const char *>(pointer));
+    if (element.form == Form::code_pointer && element.inner == 0)
         return PyLong_FromVoidPtr(pointer);
-    }
     return SWIG_Python_NewPointerObj(pointer, swig_type_slots[element.inner], 0);
 }
 
@@ -139,9 +121,7 @@ ombra::PyRef with_ints(PyObject *ports) {
         PyObject *port = PyList_GET_ITEM(list.get(), i);
         if (PyLong_Check(port)) {
             PyObject *number = PyNumber_Int(port);
-            if (number == nullptr || PyList_SetItem(list.get(), i, number) != 0) {
-                return nullptr;
-            }
+            if (number == nullptr || PyList_SetItem(list.get(), i, number) != 0) return nullptr;
         }
     }
     return list;
@@ -157,9 +137,7 @@ PyObject *load_ports(const void *place) {
 bool store_ports(void *place, PyObject *value) {
     const ombra::PyRef list = with_ints(value);
     bcm_pbmp_t ports;
-    if (list == nullptr) {
-        return false;
-    }
+    if (list == nullptr) return false;
     pyListToPbmp(list.get(), &ports);
     return PyErr_Occurred() == nullptr && std::memcpy(place, &ports, sizeof ports) != nullptr;
 }
@@ -174,9 +152,7 @@ bool store_structure(const Element &element, void *place, PyObject *value) {
     void *source = nullptr;
     const int status =
         SWIG_Python_ConvertPtrAndOwn(value, &source, swig_type_slots[element.slot], 0);
-    if (status < 0 || source == nullptr) {
-        return refuse(element, STATUS_TYPE);
-    }
+    if (status < 0 || source == nullptr) return refuse(element, STATUS_TYPE);
     std::memmove(place, source, element.size);
     return true;
 }
@@ -212,9 +188,8 @@ const Element *element_behind(const swig_type_info *type) {
         std::unordered_map<const swig_type_info *, const Element *> shortest;
         for (const Element *element = elements; element != elements + element_count; ++element) {
             const Element *&best = shortest[swig_type_slots[element->slot]];
-            if (best == nullptr || std::strlen(element->name) < std::strlen(best->name)) {
+            if (best == nullptr || std::strlen(element->name) < std::strlen(best->name))
                 best = element;
-            }
         }
         return shortest;
     }();

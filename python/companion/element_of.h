@@ -17,15 +17,14 @@ inline constexpr std::uint32_t kUnknownRecordSize = 16384;
 // The slot of the pointer to a number.
 template <typename Number>
 constexpr unsigned number_slot() {
-    if constexpr (sizeof(Number) == 1) {
+    if constexpr (sizeof(Number) == 1)
         return slots::_p_unsigned_char;
-    } else if constexpr (sizeof(Number) == 2) {
+    else if constexpr (sizeof(Number) == 2)
         return slots::_p_unsigned_short;
-    } else if constexpr (sizeof(Number) == 4) {
+    else if constexpr (sizeof(Number) == 4)
         return std::is_signed_v<Number> ? slots::_p_int : slots::_p_unsigned_int;
-    } else {
+    else
         return slots::_p_COMPILER_UINT64;
-    }
 }
 
 template <typename Type>
@@ -43,15 +42,14 @@ constexpr void set_array(Element &element, std::size_t size) {
 
 template <typename Type>
 constexpr void set_class(Element &element) {
-    if constexpr (requires(Type value) { value.value(); }) {
+    if constexpr (requires(Type value) { value.value(); })
         element.check = check_number<Type>;
-    } else if constexpr (std::is_same_v<Type, _shr_pbmp_t>) {
+    else if constexpr (std::is_same_v<Type, _shr_pbmp_t>)
         element.form = Form::port_list;
-    } else if constexpr (alignof(Type) == sizeof(std::uint64_t)) {
+    else if constexpr (alignof(Type) == sizeof(std::uint64_t))
         set_array<std::uint64_t>(element, sizeof(Type));
-    } else {
+    else
         set_array<std::uint32_t>(element, sizeof(Type));
-    }
 }
 
 template <typename Type>
@@ -63,9 +61,7 @@ constexpr void set_pointer(Element &element) {
         element.form = Form::text;
     } else {
         element.form = Form::data_pointer;
-        if constexpr (std::is_same_v<Type, soc_block_types_t>) {
-            element.inner = slots::_p_int;
-        }
+        if constexpr (std::is_same_v<Type, soc_block_types_t>) element.inner = slots::_p_int;
     }
 }
 

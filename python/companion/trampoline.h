@@ -56,13 +56,12 @@ Argument argument(Type value) {
 
 template <typename Result>
 constexpr Answers answers_of() {
-    if constexpr (std::is_same_v<Result, bcm_rx_t>) {
+    if constexpr (std::is_same_v<Result, bcm_rx_t>)
         return {BCM_RX_NOT_HANDLED, BCM_RX_NOT_HANDLED};
-    } else if constexpr (std::is_same_v<Result, cmd_result_t>) {
+    else if constexpr (std::is_same_v<Result, cmd_result_t>)
         return {CMD_OK, CMD_FAIL};
-    } else {
+    else
         return {BCM_E_NONE, BCM_E_FAIL};
-    }
 }
 
 template <unsigned Index, typename Signature>
@@ -76,9 +75,7 @@ struct Trampoline<Index, Result (*)(Args...)> {
     static Result call(Args... args) {
         const Argument arguments[] = {argument(args)...};
         const int answer = run_callback(callbacks[Index], arguments, sizeof...(Args));
-        if constexpr (!std::is_void_v<Result>) {
-            return static_cast<Result>(answer);
-        }
+        if constexpr (!std::is_void_v<Result>) return static_cast<Result>(answer);
     }
 };
 

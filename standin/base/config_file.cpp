@@ -13,7 +13,6 @@
 
 namespace standin {
 
-
 namespace {
 
 constexpr std::string_view kNameSigns = "_.-/:{}[]*";
@@ -122,18 +121,16 @@ void read_line(std::string_view text, int line, ConfigText &out) {
         bool quoted = !rest.empty() && rest.front() == '"';
         value = quoted ? read_quoted(rest, fault) : read_plain(rest);
     }
-    if (fault.empty()) {
+    if (fault.empty())
         out.entries.push_back({std::string(name), std::move(value), line});
-    } else {
+    else
         out.faults.push_back({line, std::move(fault)});
-    }
 }
 
 bool plain_survives(std::string_view value) {
     if (value != trim(value)) return false;
-    for (char sign : value) {
+    for (char sign : value)
         if (sign == '"' || sign == '#' || sign == '\\' || !is_printable(sign)) return false;
-    }
     return true;
 }
 
@@ -169,9 +166,8 @@ bool write_all(int fd, std::string_view text) {
 }  // namespace
 
 bool config_name_ok(std::string_view name) {
-    for (char sign : name) {
+    for (char sign : name)
         if (!is_alnum(sign) && kNameSigns.find(sign) == std::string_view::npos) return false;
-    }
     return !name.empty();
 }
 

@@ -17,7 +17,6 @@
 
 namespace standin {
 
-
 namespace {
 
 struct Setting {
@@ -108,9 +107,8 @@ std::vector<ConfigEntry> config_entries(std::string_view pattern) {
     Store &all = store();
     std::shared_lock hold(all.lock);
     std::vector<ConfigEntry> out;
-    for (const auto &[name, setting] : all.settings) {
+    for (const auto &[name, setting] : all.settings)
         if (matches(pattern, name)) out.push_back({name, setting.value, setting.line});
-    }
     return out;
 }
 
@@ -125,9 +123,8 @@ std::optional<std::pair<std::string, std::string>> config_next(std::string_view 
 void config_load_defaults() {
     Store &all = store();
     std::unique_lock hold(all.lock);
-    for (const Default &entry : kDefaults) {
+    for (const Default &entry : kDefaults)
         all.settings.try_emplace(std::string(entry.name), Setting{std::string(entry.value), 0});
-    }
     ++all.generation;
 }
 
@@ -143,9 +140,8 @@ int config_load(const std::string &path, bool replace) {
         Store &all = store();
         std::unique_lock hold(all.lock);
         if (replace) all.settings.clear();
-        for (ConfigEntry &entry : parsed.entries) {
+        for (ConfigEntry &entry : parsed.entries)
             all.settings.insert_or_assign(entry.name, Setting{entry.value, entry.line});
-        }
         ++all.generation;
     }
     for (const ConfigFault &fault : parsed.faults) report(path, fault.line, fault.text);
@@ -156,9 +152,8 @@ int config_save(const std::string &path, std::string_view pattern, bool append) 
     std::string text;
     if (append && !read_file(path, text) && errno != ENOENT) return not_saved(path);
     if (!text.empty() && text.back() != '\n') text += '\n';
-    for (const ConfigEntry &entry : config_entries(pattern)) {
+    for (const ConfigEntry &entry : config_entries(pattern))
         text += format_config_line(entry.name, entry.value);
-    }
     ConfigFiles files = config_files();
     std::string temporary = path == files.file ? files.temporary : path + ".tmp";
     return write_file(path, temporary, text) ? BCM_E_NONE : not_saved(path);

@@ -89,15 +89,13 @@ int fault_check(std::string_view function) {
     if (!fault) return 0;
     if (fault->count > 0) {
         --fault->count;
-        if (fault->count == 0) {
+        if (fault->count == 0)
             config_remove(name);
-        } else {
+        else
             config_set(name, written(*fault));
-        }
     }
-    if (fault->delay_us > 0) {
+    if (fault->delay_us > 0)
         std::this_thread::sleep_for(std::chrono::microseconds(fault->delay_us));
-    }
     return fault->status;
 }
 

@@ -15,7 +15,6 @@
 
 namespace standin {
 
-
 namespace {
 
 constexpr std::array<const char *, kSeverities> kSeverityNames = {
@@ -61,9 +60,8 @@ const char *name_in(std::span<const char *const> names, int number) {
 }
 
 std::optional<int> number_in(std::span<const char *const> names, std::string_view text) {
-    for (std::size_t at = 0; at < names.size(); ++at) {
+    for (std::size_t at = 0; at < names.size(); ++at)
         if (same_word(names[at], text)) return static_cast<int>(at);
-    }
     std::optional<std::int32_t> number = read_i32(text);
     if (number && name_in(names, *number) != nullptr) return *number;
     return std::nullopt;
@@ -99,9 +97,8 @@ void capture_line(Log &log, std::string_view line) {
 std::string message_line(int severity, int layer, int source, int unit, std::string_view text,
                          const LogOrigin &origin) {
     std::string line = name_or_number(severity_name(severity), severity);
-    for (char &sign : line) {
+    for (char &sign : line)
         if (is_alpha(sign)) sign = static_cast<char>(to_lower(sign) - 'a' + 'A');
-    }
     line += ' ' + name_or_number(layer_name(layer), layer);
     line += '.' + name_or_number(source_name(source), source);
     if (unit >= 0) line += " u" + std::to_string(unit);

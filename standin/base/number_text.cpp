@@ -19,9 +19,8 @@ bool commas_ok(std::string_view text) {
     std::size_t first = text.find(',');
     if (first == std::string_view::npos) return true;
     if (first < 1 || first > 3 || (text.size() - first) % 4 != 0) return false;
-    for (std::size_t at = first; at < text.size(); ++at) {
+    for (std::size_t at = first; at < text.size(); ++at)
         if ((text[at] == ',') != ((at - first) % 4 == 0)) return false;
-    }
     return true;
 }
 
@@ -91,12 +90,10 @@ std::optional<std::int32_t> read_i32(std::string_view text) {
 
 std::optional<bool> read_truth(std::string_view text) {
     text = trim(text);
-    for (std::string_view word : {"yes", "on", "true", "enable"}) {
+    for (std::string_view word : {"yes", "on", "true", "enable"})
         if (same_word(text, word)) return true;
-    }
-    for (std::string_view word : {"no", "off", "false", "disable"}) {
+    for (std::string_view word : {"no", "off", "false", "disable"})
         if (same_word(text, word)) return false;
-    }
     std::optional<std::uint64_t> number = read_u64(text);
     if (!number) return std::nullopt;
     return *number != 0;
@@ -130,18 +127,16 @@ std::string words_text(std::span<const std::uint32_t> words) {
     while (words.size() > 1 && words.back() == 0) words = words.first(words.size() - 1);
     if (words.empty()) return "0x0";
     std::string out = text_of("0x%x", words.back());
-    for (std::size_t left = words.size() - 1; left > 0; --left) {
+    for (std::size_t left = words.size() - 1; left > 0; --left)
         out += text_of("%08x", words[left - 1]);
-    }
     return out;
 }
 
 std::string spec_words_text(std::span<const std::uint32_t> words) {
     if (words.empty()) return "0x0";
     std::string out = text_of("0x%08x", words.back());
-    for (std::size_t left = words.size() - 1; left > 0; --left) {
+    for (std::size_t left = words.size() - 1; left > 0; --left)
         out += text_of("_%08x", words[left - 1]);
-    }
     return out;
 }
 

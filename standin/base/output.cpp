@@ -50,11 +50,10 @@ void out(std::string_view text) {
         innermost->text_ += text;
         return;
     }
-    if (pager.lines > 0 && pager.more != nullptr) {
+    if (pager.lines > 0 && pager.more != nullptr)
         page(text);
-    } else {
+    else
         std::fwrite(text.data(), 1, text.size(), stdout);
-    }
     std::fflush(stdout);
 }
 

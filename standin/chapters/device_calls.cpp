@@ -5,8 +5,8 @@
 #include "helper/device.h"
 #include "helper/platform.h"
 #include "sdk/soc/init.h"
-#include "standin/model/device_table.h"
 #include "standin/chapters/hooks.h"
+#include "standin/model/device_table.h"
 #include "standin/model/model.h"
 
 using namespace standin;
@@ -166,9 +166,8 @@ int KorvelBasicInit(void) { return fault_check(__func__); }
 
 int KorvelInit(tridentPortMap_t *portMap, int numPorts) {
     if (const int fault = fault_check(__func__); fault != BCM_E_NONE) return fault;
-    if (!within(numPorts, 0, kFrontPorts) || (portMap == nullptr && numPorts > 0)) {
+    if (!within(numPorts, 0, kFrontPorts) || (portMap == nullptr && numPorts > 0))
         return BCM_E_PARAM;
-    }
     const std::lock_guard<std::mutex> guard(model_lock());
     std::vector<int> &speeds = platform().port_speeds;
     speeds.clear();

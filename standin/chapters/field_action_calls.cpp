@@ -94,9 +94,8 @@ int bcm_field_action_delete(int unit, bcm_field_entry_t entry, bcm_field_action_
                             uint32 param0, uint32 param1) {
     return on_rule(__func__, unit, entry, [&](FieldEntry &rule) {
         const FieldAction *const one = find_in(rule.actions, action);
-        if (one == nullptr || one->param0 != param0 || one->param1 != param1) {
+        if (one == nullptr || one->param0 != param0 || one->param1 != param1)
             return BCM_E_NOT_FOUND;
-        }
         rule.actions.erase(action);
         return BCM_E_NONE;
     });

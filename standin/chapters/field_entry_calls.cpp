@@ -129,9 +129,8 @@ int bcm_field_entry_multi_get(int unit, bcm_field_group_t group, int entry_size,
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
         std::vector<bcm_field_entry_t> ids;
-        for (const auto &[id, rule] : entries_of(chip)) {
+        for (const auto &[id, rule] : entries_of(chip))
             if (rule.group == group) ids.push_back(id);
-        }
         return give_array(ids, entry_size, entry_array, entry_count);
     });
 }

@@ -48,16 +48,14 @@ int create_on_port(const char *function, int unit, bool given, bcm_field_group_t
 
 std::vector<bcm_field_entry_t> entries_in(Switch &chip, bcm_field_group_t group) {
     std::vector<bcm_field_entry_t> found;
-    for (const auto &[id, entry] : entries_of(chip)) {
+    for (const auto &[id, entry] : entries_of(chip))
         if (entry.group == group) found.push_back(id);
-    }
     return found;
 }
 
 bool has_stats(Switch &chip, bcm_field_group_t group) {
-    for (const auto &[id, stat] : stats_of(chip)) {
+    for (const auto &[id, stat] : stats_of(chip))
         if (stat.group == group) return true;
-    }
     return false;
 }
 
@@ -74,9 +72,8 @@ int clear_engine(const char *function, int unit) {
 int mark_installed(const char *function, int unit, bcm_field_group_t group, bool installed) {
     return on_switch(function, unit, [&](Switch &chip) {
         if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
-        for (const bcm_field_entry_t id : entries_in(chip, group)) {
+        for (const bcm_field_entry_t id : entries_in(chip, group))
             entries_of(chip)[id].installed = installed;
-        }
         return BCM_E_NONE;
     });
 }

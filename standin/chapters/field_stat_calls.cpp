@@ -15,9 +15,8 @@ int create(const char *function, int unit, bcm_field_group_t group, int count,
     return on_switch(function, unit, [&](Switch &chip) {
         if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
         if (count < 1 || kinds == nullptr) return BCM_E_PARAM;
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < count; ++i)
             if (!within<int>(kinds[i], 0, bcmFieldStatCount - 1)) return BCM_E_PARAM;
-        }
         int status = BCM_E_NONE;
         FieldStat *const made = new_entry(stats_of(chip), kNumbers, given, id, status);
         if (made == nullptr) return status;

@@ -114,13 +114,11 @@ int bcm_l2_addr_delete_by_vlan_trunk(int unit, bcm_vlan_t vid, bcm_trunk_t tid, 
 // Each VLAN with the gport at the same place of the other array.
 int bcm_l2_addr_delete_by_vlan_gport_multi(int unit, uint32 flags, int count, bcm_vlan_t *vid_arr,
                                            bcm_gport_t *gport_arr) {
-    if (count < 0 || (count > 0 && (vid_arr == nullptr || gport_arr == nullptr))) {
+    if (count < 0 || (count > 0 && (vid_arr == nullptr || gport_arr == nullptr)))
         return on_l2(__func__, unit, [](L2Chapter &) { return BCM_E_PARAM; });
-    }
     return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < count; ++i)
             if (entry.vid == vid_arr[i] && points_at(entry, 0, gport_arr[i])) return true;
-        }
         return false;
     });
 }

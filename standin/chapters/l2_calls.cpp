@@ -76,9 +76,8 @@ bool limit_reached(L2Chapter &l2, const bcm_l2_addr_t &entry) {
         if (!in_scope(scope, entry)) continue;
         int count = 0;
         L2Table::Cursor cursor;
-        while (const L2Row *const row = l2.table.next(cursor)) {
+        while (const L2Row *const row = l2.table.next(cursor))
             if (!row->is_static() && in_scope(scope, row->entry)) ++count;
-        }
         if (count >= limit) return true;
     }
     return false;
@@ -92,9 +91,8 @@ int learn(Switch &chip, const bcm_mac_t mac, bcm_vlan_t vid, int port) {
     entry.port = port;
     if (const int status = settle_destination(entry); status != BCM_E_NONE) return status;
     const Port *const source = chip.ports.find(entry.port);
-    if ((entry.flags & kL2Trunk) == 0 && source != nullptr && source->learn == 0) {
+    if ((entry.flags & kL2Trunk) == 0 && source != nullptr && source->learn == 0)
         return BCM_E_DISABLED;
-    }
     if (l2.freezes > 0) return BCM_E_DISABLED;
     L2Row *const row = l2.table.find(mac, vid);
     if (row != nullptr && row->is_static()) return BCM_E_DISABLED;
@@ -109,9 +107,8 @@ int learn(Switch &chip, const bcm_mac_t mac, bcm_vlan_t vid, int port) {
 template <class One>
 int for_each_given(const bcm_l2_addr_t *entries, int count, One &&one) {
     if (count < 0 || (entries == nullptr && count > 0)) return BCM_E_PARAM;
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i)
         if (const int status = one(entries[i]); status != BCM_E_NONE) return status;
-    }
     return BCM_E_NONE;
 }
 
@@ -185,9 +182,7 @@ int bcm_l2_addr_get(int unit, bcm_mac_t mac_addr, bcm_vlan_t vid, bcm_l2_addr_t 
 }
 
 int bcm_l2_traverse(int unit, bcm_l2_traverse_cb trav_fn, void *user_data) {
-    if (trav_fn == nullptr) {
-        return on_l2(__func__, unit, [](L2Chapter &) { return BCM_E_PARAM; });
-    }
+    if (trav_fn == nullptr) return on_l2(__func__, unit, [](L2Chapter &) { return BCM_E_PARAM; });
     return walk_l2(__func__, unit, {kMatchStatic, {}, {}},
                    [&](bcm_l2_addr_t &entry) { return trav_fn(unit, &entry, user_data); });
 }
@@ -240,11 +235,10 @@ int bcm_l2_learn_limit_set(int unit, bcm_l2_learn_limit_t *limit) {
     return on_l2(__func__, unit, [&](L2Chapter &l2) {
         L2Scope scope;
         if (limit == nullptr || limit->limit < -1 || !scope_of(*limit, scope)) return BCM_E_PARAM;
-        if (limit->limit < 0) {
+        if (limit->limit < 0)
             l2.limits.erase(scope);
-        } else {
+        else
             l2.limits[scope] = limit->limit;
-        }
         return BCM_E_NONE;
     });
 }

@@ -6,9 +6,8 @@ namespace standin {
 namespace {
 
 bool macs_agree(const bcm_mac_t one, const bcm_mac_t other, const bcm_mac_t mask) {
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 6; ++i)
         if (((one[i] ^ other[i]) & mask[i]) != 0) return false;
-    }
     return true;
 }
 
@@ -81,11 +80,9 @@ void tell_l2_watchers(int unit) {
         events.swap(chip->l2.events);
         watchers = chip->l2.watchers;
     }
-    for (L2Chapter::Event &event : events) {
-        for (const L2Watcher &watcher : watchers) {
+    for (L2Chapter::Event &event : events)
+        for (const L2Watcher &watcher : watchers)
             watcher.call(unit, &event.entry, event.operation, watcher.user_data);
-        }
-    }
 }
 
 int walk_l2(const char *function, int unit, const L2Match &match,

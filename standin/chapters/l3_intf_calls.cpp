@@ -33,9 +33,8 @@ template <class Pick>
 int find_interface(const char *function, int unit, bcm_l3_intf_t *intf, Pick &&pick) {
     return on_switch(function, unit, [&](Switch &chip) {
         if (intf == nullptr) return BCM_E_PARAM;
-        for (const auto &[id, one] : chip.l3.interfaces) {
+        for (const auto &[id, one] : chip.l3.interfaces)
             if (pick(one)) return give(intf, one);
-        }
         return int{BCM_E_NOT_FOUND};
     });
 }
@@ -98,11 +97,9 @@ int bcm_l3_intf_create(int unit, bcm_l3_intf_t *intf) {
         if (given && (intf->l3a_flags & kReplace) != 0) {
             if (auto *const one = find_in(interfaces, intf->l3a_intf_id)) return give(one, *intf);
         }
-        for (const auto &[id, one] : interfaces) {
-            if (one.l3a_vid == intf->l3a_vid && same_mac(one.l3a_mac_addr, intf->l3a_mac_addr)) {
+        for (const auto &[id, one] : interfaces)
+            if (one.l3a_vid == intf->l3a_vid && same_mac(one.l3a_mac_addr, intf->l3a_mac_addr))
                 return int{BCM_E_EXISTS};
-            }
-        }
         int status = BCM_E_NONE;
         auto *const made = new_entry(interfaces, kInterfaces, given, &intf->l3a_intf_id, status);
         if (made != nullptr) *made = *intf;
@@ -162,9 +159,8 @@ int bcm_l3_egress_get(int unit, bcm_if_t if_id, bcm_l3_egress_t *egr) {
 int bcm_l3_egress_find(int unit, bcm_l3_egress_t *egr, bcm_if_t *if_id) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (egr == nullptr || if_id == nullptr) return BCM_E_PARAM;
-        for (const auto &[id, one] : chip.l3.egresses) {
+        for (const auto &[id, one] : chip.l3.egresses)
             if (same_egress(one, *egr)) return give(if_id, id);
-        }
         return int{BCM_E_NOT_FOUND};
     });
 }

@@ -36,9 +36,8 @@ int create_multipath(L3 &l3, bool given, int count, const bcm_if_t *interfaces, 
     if (count < 1 || interfaces == nullptr) return BCM_E_PARAM;
     Paths paths;
     int status = BCM_E_NONE;
-    for (int i = 0; i < count && status == BCM_E_NONE; ++i) {
+    for (int i = 0; i < count && status == BCM_E_NONE; ++i)
         status = add_path(l3, paths, interfaces[i]);
-    }
     Paths *made = nullptr;
     if (status == BCM_E_NONE) made = new_entry(l3.multipaths, kMultipaths, given, id, status);
     if (made == nullptr) {
@@ -72,9 +71,8 @@ int change_multipath(L3 &l3, bcm_if_t id, bcm_if_t intf, bool add) {
 int find_multipath(const L3 &l3, int count, const bcm_if_t *interfaces, bcm_if_t *id) {
     if (count < 1 || interfaces == nullptr) return BCM_E_PARAM;
     const Paths wanted(interfaces, interfaces + count);
-    for (const auto &[number, paths] : l3.multipaths) {
+    for (const auto &[number, paths] : l3.multipaths)
         if (paths == wanted) return give(id, number);
-    }
     return BCM_E_NOT_FOUND;
 }
 

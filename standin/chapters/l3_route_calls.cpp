@@ -56,9 +56,8 @@ int add(const char *function, int unit, const typename Kind::Entry *info) {
         if (!l3.can_point_at(info->l3a_intf)) return BCM_E_NOT_FOUND;
         auto *const there = find_in(table, key);
         if (there != nullptr && (info->l3a_flags & kReplace) == 0) return BCM_E_EXISTS;
-        if (there == nullptr && table.size() >= table_capacity(Kind::kName, Kind::kCapacity)) {
+        if (there == nullptr && table.size() >= table_capacity(Kind::kName, Kind::kCapacity))
             return BCM_E_FULL;
-        }
         if (there != nullptr) l3.release(there->l3a_intf);
         if (info->l3a_intf != 0) l3.hold(info->l3a_intf);
         auto &entry = table[key];

@@ -147,12 +147,10 @@ int bcm_mirror_destination_traverse(int unit, bcm_mirror_destination_traverse_cb
 int bcm_mirror_port_dest_add(int unit, bcm_port_t port, uint32 flags, bcm_gport_t mirror_dest_id) {
     return on_port_list(__func__, unit, port, flags,
                         [&](Mirrors &mirrors, std::vector<bcm_gport_t> &list) {
-                            if (!mirrors.destinations.contains(mirror_dest_id)) {
+                            if (!mirrors.destinations.contains(mirror_dest_id))
                                 return BCM_E_NOT_FOUND;
-                            }
-                            if (std::ranges::find(list, mirror_dest_id) != list.end()) {
+                            if (std::ranges::find(list, mirror_dest_id) != list.end())
                                 return BCM_E_EXISTS;
-                            }
                             list.push_back(mirror_dest_id);
                             return BCM_E_NONE;
                         });

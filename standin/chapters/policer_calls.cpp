@@ -12,9 +12,8 @@ std::map<bcm_policer_t, Policer> &policers_of(Switch &chip) { return chip.groups
 
 int clear_policers(const char *function, int unit) {
     return on_switch(function, unit, [](Switch &chip) {
-        for (const auto &[id, policer] : policers_of(chip)) {
+        for (const auto &[id, policer] : policers_of(chip))
             if (policer.users > 0) return BCM_E_BUSY;
-        }
         policers_of(chip).clear();
         forget_generic(chip, "bcm_policer_");
         return BCM_E_NONE;

@@ -180,9 +180,8 @@ int bcm_port_stp_set(int unit, bcm_port_t port, int stp_state) {
         const int number = local_port(port);
         if (number < 0) return BCM_E_PORT;
         if (!within(stp_state, 0, BCM_STG_STP_COUNT - 1)) return BCM_E_PARAM;
-        for (auto &[id, stg] : chip.vlans.stgs) {
+        for (auto &[id, stg] : chip.vlans.stgs)
             stg.state[static_cast<std::size_t>(number)] = stp_state;
-        }
         return BCM_E_NONE;
     });
 }

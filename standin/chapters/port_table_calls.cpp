@@ -58,9 +58,8 @@ int bcm_port_get(int unit, bcm_port_t port, uint32 *flags,
     return on_switch(__func__, unit, [&](Switch &) {
         const int number = local_port(port);
         if (number < 0) return BCM_E_PORT;
-        if (flags == nullptr || interface_info == nullptr || mapping_info == nullptr) {
+        if (flags == nullptr || interface_info == nullptr || mapping_info == nullptr)
             return BCM_E_PARAM;
-        }
         *flags = 0;
         *interface_info = bcm_port_interface_info_t{};
         interface_info->phy_port = static_cast<uint32>(number);

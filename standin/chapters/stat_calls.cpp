@@ -54,9 +54,8 @@ extern "C" {
 
 int bcm_stat_init(int unit) {
     return on_switch(__func__, unit, [](Switch &chip) {
-        for (int port = 0; port < kPorts; ++port) {
+        for (int port = 0; port < kPorts; ++port)
             chip.ports.find(port)->in = chip.ports.find(port)->out = PortCounters{};
-        }
         return BCM_E_NONE;
     });
 }

@@ -18,9 +18,8 @@ int create(Vlans &vlans, bcm_stg_t stg) {
 
 // VLANs that lose their group go to the default group.
 void leave(Vlans &vlans, bcm_stg_t stg) {
-    for (auto &[vid, vlan] : vlans.vlans) {
+    for (auto &[vid, vlan] : vlans.vlans)
         if (vlan.stg == stg) vlan.stg = vlans.default_stg;
-    }
 }
 
 template <class Body>
@@ -127,9 +126,8 @@ int bcm_stg_vlan_remove_all(int unit, bcm_stg_t stg) {
 int bcm_stg_vlan_list(int unit, bcm_stg_t stg, bcm_vlan_t **list, int *count) {
     return on_stg(__func__, unit, stg, [&](Vlans &all) {
         std::vector<bcm_vlan_t> vids;
-        for (const auto &[vid, vlan] : all.vlans) {
+        for (const auto &[vid, vlan] : all.vlans)
             if (vlan.stg == stg) vids.push_back(vid);
-        }
         return give_list(vids, list, count);
     });
 }

@@ -160,9 +160,8 @@ int bcm_trunk_find(int unit, bcm_module_t modid, bcm_port_t port, bcm_trunk_t *t
         if (tid == nullptr) return BCM_E_PARAM;
         const bcm_gport_t gport = member_gport(port);
         if (gport == 0) return BCM_E_PORT;
-        for (auto &[id, trunk] : trunks_of(chip)) {
+        for (auto &[id, trunk] : trunks_of(chip))
             if (modid == 0 && is_member(trunk, gport)) return give(tid, id);
-        }
         return int{BCM_E_NOT_FOUND};
     });
 }
@@ -252,9 +251,8 @@ void SOC_PPC_LAG_MEMBER_clear(SOC_PPC_LAG_MEMBER *member) {
 int soc_ppd_lag_member_add(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member, int *success) {
     const auto tid = static_cast<bcm_trunk_t>(lag_ndx);
     const int status = on_trunk(__func__, unit, tid, [&](Switch &chip, Trunk &trunk) {
-        if (member == nullptr || success == nullptr || member->sys_port > 0xffffff) {
+        if (member == nullptr || success == nullptr || member->sys_port > 0xffffff)
             return BCM_E_PARAM;
-        }
         bcm_trunk_member_t added{};
         added.gport = kGportSystemPort << kGportTypeShift | static_cast<int>(member->sys_port);
         const int answer = add_member(chip, tid, trunk, added);

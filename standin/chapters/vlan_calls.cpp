@@ -178,9 +178,8 @@ int bcm_vlan_gport_get(int unit, bcm_vlan_t vlan, bcm_gport_t port, int *flags) 
     return on_vlan(__func__, unit, vlan, [&](const Vlan &one) {
         const int number = local_port(port);
         const bcm_gport_t wanted = number < 0 ? port : local_gport(number);
-        for (const auto &[gport, its_flags] : members_of(one)) {
+        for (const auto &[gport, its_flags] : members_of(one))
             if (gport == wanted) return give(flags, its_flags);
-        }
         return int{BCM_E_NOT_FOUND};
     });
 }

@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
+#include "standin/generic/selection.h"
 #include "standin/model/model.h"
 #include "standin/model/switch.h"
 #include "standin/model/tables.h"
-#include "standin/generic/selection.h"
 
 namespace standin {
 namespace {
@@ -136,14 +136,12 @@ int remove(const Invocation &invocation, GenericTables &tables, GenericTable &ta
 int replace(const Invocation &invocation, GenericTables &tables, GenericTable &table) {
     std::string bytes(invocation.call().row, '\0');
     invocation.each([&](const Binding &binding) {
-        if (binding.role == Role::select) {
+        if (binding.role == Role::select)
             std::memcpy(bytes.data() + binding.row, invocation.source(binding, 0), binding.size);
-        }
     });
     if (const int status = check_owner(tables, invocation.call(), bytes); status < 0) return status;
-    for (const RowPlace &place : selected(invocation, table, 0)) {
+    for (const RowPlace &place : selected(invocation, table, 0))
         erase(tables, invocation.call(), table, place);
-    }
     for (int i = 0; i < invocation.count(); ++i) {
         const int status = put(table, invocation.call(), new_row(invocation, i), true);
         if (status < 0) return status;
@@ -166,9 +164,8 @@ int read(const Invocation &invocation, GenericTable &table, bool needed) {
 int list(const Invocation &invocation, GenericTable &table) {
     const auto places = selected(invocation, table, 0);
     const int count = static_cast<int>(places.size());
-    for (int i = 0; i < count && i < invocation.max(); ++i) {
+    for (int i = 0; i < count && i < invocation.max(); ++i)
         invocation.give(&places[static_cast<std::size_t>(i)]->second, i);
-    }
     invocation.give_count(count);
     return BCM_E_NONE;
 }

@@ -31,9 +31,8 @@ bool Invocation::is_null(const Binding &binding) const {
 }
 
 int Invocation::check() const {
-    for (const int elements : {count(), max()}) {
+    for (const int elements : {count(), max()})
         if (elements < 0 || elements > kMostElements) return BCM_E_PARAM;
-    }
     int status = BCM_E_NONE;
     each([&](const Binding &binding) {
         const bool address = binding.memory || binding.role == Role::callback;
@@ -101,11 +100,10 @@ std::vector<std::string> Invocation::lists() const {
 void Invocation::give(const GenericRow *row, int element) const {
     each([&](const Binding &binding) {
         if (binding.role != Role::read) return;
-        if (row == nullptr) {
+        if (row == nullptr)
             std::memset(target(binding, element), 0, binding.size);
-        } else {
+        else
             std::memcpy(target(binding, element), row->bytes.data() + binding.row, binding.size);
-        }
     });
 }
 
@@ -120,9 +118,8 @@ void Invocation::give_lists(const GenericRow *row) const {
         if (room == 0) return;
         const std::size_t length = std::min(room, list.size());
         std::memcpy(target(binding, 0), list.data(), length);
-        if (call_.filled.argument == 0) {  // the caller takes all elements for filled
+        if (call_.filled.argument == 0)  // the caller takes all elements for filled
             std::memset(target(binding, 0) + length, 0, room - length);
-        }
     });
     give_count(static_cast<int>(most));
 }
@@ -150,9 +147,8 @@ std::vector<RowPlace> selected(const Invocation &invocation, GenericTable &table
     for (auto row = table.rows.lower_bound(prefix);
          row != table.rows.end() && row->first.starts_with(prefix); ++row) {
         bool meant = true;
-        for (std::size_t i = prefix.size(); meant && i < call.row; ++i) {
+        for (std::size_t i = prefix.size(); meant && i < call.row; ++i)
             meant = mask[i] == 0 || row->second.bytes[i] == probe[i];
-        }
         if (meant) places.push_back(row);
     }
     std::sort(places.begin(), places.end(), [](const RowPlace &one, const RowPlace &other) {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "standin/generic/selection.h"
 #include "standin/model/model.h"
 #include "standin/model/switch.h"
-#include "standin/generic/selection.h"
 
 namespace standin {
 
@@ -16,9 +16,8 @@ int collect_rows(const Call &call, int unit, const void *const *arguments, bool 
         if (const int status = invocation.check(); status < 0) return status;
         const auto table = chip.generic.find(std::string_view(call.family));
         if (table == chip.generic.end()) return int{BCM_E_NONE};
-        for (const RowPlace &place : selected(invocation, table->second, 0)) {
+        for (const RowPlace &place : selected(invocation, table->second, 0))
             rows.push_back(place->second.bytes);
-        }
         return int{BCM_E_NONE};
     });
 }

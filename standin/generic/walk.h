@@ -33,9 +33,8 @@ class CallbackArguments {
             return static_cast<A>(memory(sizeof(std::remove_pointer_t<A>)));
         } else {
             A value{};
-            if (const Column *const column = take(true, sizeof(A))) {
+            if (const Column *const column = take(true, sizeof(A)))
                 std::memcpy(&value, row_.data() + column->row, sizeof(A));
-            }
             return value;
         }
     }

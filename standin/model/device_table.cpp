@@ -25,9 +25,8 @@ Device *DeviceTable::find(int unit) {
 }
 
 Device *DeviceTable::find(const PciAddress &address) {
-    for (const auto &device : devices_) {
+    for (const auto &device : devices_)
         if (device->address == address) return device.get();
-    }
     return nullptr;
 }
 

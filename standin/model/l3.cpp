@@ -17,9 +17,8 @@ void L3::release(bcm_if_t intf) {
 
 IpAddress ip4_address(bcm_ip_t address) {
     IpAddress made;
-    for (std::size_t i = 0; i < 4; ++i) {
+    for (std::size_t i = 0; i < 4; ++i)
         made.bytes[i] = static_cast<std::uint8_t>(address >> (24 - 8 * i));
-    }
     return made;
 }
 

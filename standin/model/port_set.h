@@ -54,15 +54,13 @@ constexpr void remove_ports(bcm_pbmp_t &set, const bcm_pbmp_t &others) {
     for (int i = 0; i < _SHR_PBMP_WORDS; ++i) set.pbits[i] &= ~others.pbits[i];
 }
 constexpr bool is_subset(const bcm_pbmp_t &part, const bcm_pbmp_t &whole) {
-    for (int i = 0; i < _SHR_PBMP_WORDS; ++i) {
+    for (int i = 0; i < _SHR_PBMP_WORDS; ++i)
         if ((part.pbits[i] & ~whole.pbits[i]) != 0) return false;
-    }
     return true;
 }
 constexpr bool any_common(const bcm_pbmp_t &one, const bcm_pbmp_t &other) {
-    for (int i = 0; i < _SHR_PBMP_WORDS; ++i) {
+    for (int i = 0; i < _SHR_PBMP_WORDS; ++i)
         if ((one.pbits[i] & other.pbits[i]) != 0) return true;
-    }
     return false;
 }
 

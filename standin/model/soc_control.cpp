@@ -38,14 +38,12 @@ ControlRecord::~ControlRecord() {
 void ControlRecord::attach(int unit) {
     words_.assign(kControlRecordBytes / sizeof words_[0], 0);
     for (const BlockCells &block : kBlocks) {
-        for (int core = 0; core < kCores; ++core) {
+        for (int core = 0; core < kCores; ++core)
             put(block.per_core + 4 * static_cast<std::size_t>(core), block.first_copy + core);
-        }
         put(block.all_cores, block.first_copy + kCores);
     }
-    for (int mem = 0; mem < kMemories; ++mem) {
+    for (int mem = 0; mem < kMemories; ++mem)
         put(kMemoryCells + 4 * static_cast<std::size_t>(mem), mem % kCopies);
-    }
     unit_ = unit;
     soc_control[unit] = reinterpret_cast<soc_control_t *>(words_.data());
 }

@@ -2,12 +2,12 @@
 // anew when the chip is reset. All of it stands under the model's lock.
 #pragma once
 #include "standin/model/field.h"
+#include "standin/model/generic_tables.h"
 #include "standin/model/groups.h"
 #include "standin/model/l2_chapter.h"
 #include "standin/model/l3.h"
 #include "standin/model/ports.h"
 #include "standin/model/vlans.h"
-#include "standin/model/generic_tables.h"
 
 namespace standin {
 

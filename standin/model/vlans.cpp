@@ -22,9 +22,8 @@ Stg *Vlans::find_stg(bcm_stg_t stg) {
 }
 
 bcm_stg_t Vlans::free_stg() const {
-    for (bcm_stg_t stg = kFirstStg; stg <= kLastStg; ++stg) {
+    for (bcm_stg_t stg = kFirstStg; stg <= kLastStg; ++stg)
         if (!stgs.contains(stg)) return stg;
-    }
     return -1;
 }
 

@@ -50,9 +50,8 @@ extern "C" {
 void TesselApiInternalPhyRead(int unit, int port, int lane, uint32 addr, uint16 *data) {
     if (data == nullptr || fault_check(__func__) != BCM_E_NONE) return;
     uint32 value = 0;
-    if (soc_phyctrl_lane_reg_read(unit, port, lane, 0, addr, &value) == BCM_E_NONE) {
+    if (soc_phyctrl_lane_reg_read(unit, port, lane, 0, addr, &value) == BCM_E_NONE)
         *data = static_cast<uint16>(value);
-    }
 }
 
 void TesselApiInternalPhyWrite(int unit, int port, int lane, uint32 addr, uint16 data) {

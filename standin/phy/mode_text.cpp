@@ -51,9 +51,8 @@ static_assert(SOC_PHY_CONTROL_LONGREACH_ABILITY_PAUSE_TX == 1 << (kLongReach.siz
 using ModeList = std::span<const Mode>;
 
 std::optional<std::uint32_t> bit_of(ModeList modes, std::string_view item) {
-    for (std::size_t at = 0; at < modes.size(); ++at) {
+    for (std::size_t at = 0; at < modes.size(); ++at)
         if (same_word(item, modes[at].name) || same_word(item, modes[at].brief)) return 1U << at;
-    }
     return std::nullopt;
 }
 
@@ -95,9 +94,8 @@ std::string port_mode_text(std::uint32_t mode, bool abbreviated) {
 
 void ability_words(std::uint32_t mode, std::span<std::uint32_t> words) {
     std::fill(words.begin(), words.end(), 0U);
-    for (std::size_t at = 0; at < kModes.size(); ++at) {
+    for (std::size_t at = 0; at < kModes.size(); ++at)
         words[static_cast<std::size_t>(kModes[at].sort)] |= mode & 1U << at;
-    }
     words[static_cast<std::size_t>(Sort::kOther)] |= mode & ~((1U << kModes.size()) - 1U);
 }
 

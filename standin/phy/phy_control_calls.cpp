@@ -76,11 +76,10 @@ int get_switch(const PhyPart &part, const Settings &all, int otherwise) {
 int set_loopback(const char *function, int unit, soc_port_t port, int enable) {
     return on_phy(function, unit, port, [&](PhyView &view) {
         if (!within(enable, 0, 1)) return BCM_E_PARAM;
-        if (enable != 0) {
+        if (enable != 0)
             view.port.loopback = BCM_PORT_LOOPBACK_PHY;
-        } else if (view.port.loopback == BCM_PORT_LOOPBACK_PHY) {  // not one of the MAC's
+        else if (view.port.loopback == BCM_PORT_LOOPBACK_PHY)  // not one of the MAC's
             view.port.loopback = BCM_PORT_LOOPBACK_NONE;
-        }
         std::erase_if(view.phy.loopback,
                       [](const auto &one) { return belongs(one.first, PhyPart{}); });
         return BCM_E_NONE;
@@ -196,9 +195,8 @@ int soc_phyctrl_redirect_loopback_get(int unit, soc_port_t port, int phyn, int p
 // says which PHY, and is not looked at.
 int soc_phyctrl_diag_ctrl(int unit, soc_port_t port, uint32, int op_type, int op_cmd, void *arg) {
     return on_phy(__func__, unit, port, [&](PhyView &view) {
-        if (!within(op_cmd, PHY_DIAG_CTRL_START, PHY_DIAG_CTRL_LAST) || !within(op_type, 0, 3)) {
+        if (!within(op_cmd, PHY_DIAG_CTRL_START, PHY_DIAG_CTRL_LAST) || !within(op_type, 0, 3))
             return BCM_E_PARAM;
-        }
         const auto key = static_cast<std::uint32_t>(op_cmd);
         if (op_type == 1) {
             if (arg == nullptr) return BCM_E_PARAM;

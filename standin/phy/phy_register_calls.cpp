@@ -169,9 +169,8 @@ int soc_phyctrl_firmware_set(int unit, soc_port_t port, uint32, int offset, uint
     return on_phy(__func__, unit, port, [&](PhyView &view) {
         std::vector<std::uint8_t> &firmware = view.phy.firmware;
         const int size = static_cast<int>(firmware.size());
-        if (array == nullptr || !within(len, 1, most) || !within(offset, 0, size)) {
+        if (array == nullptr || !within(len, 1, most) || !within(offset, 0, size))
             return BCM_E_PARAM;
-        }
         if (offset > most - len) return BCM_E_FULL;
         firmware.resize(static_cast<std::size_t>(std::max(size, offset + len)));
         std::copy_n(array, len, firmware.begin() + offset);

@@ -137,9 +137,8 @@ int soc_phy_reset(int unit, soc_port_t port) {
         return BCM_E_NONE;
     });
     if (status < 0) return status;
-    for (const auto &one : callbacks) {
+    for (const auto &one : callbacks)
         if (const int answer = one.call(unit, port, one.user); answer < 0) return answer;
-    }
     return BCM_E_NONE;
 }
 
@@ -150,9 +149,8 @@ int soc_phy_reset_register(int unit, soc_port_t port, soc_port_phy_reset_cb_t ca
     return on_phy(__func__, unit, port, [&](PhyView &view) {
         if (callback == nullptr) return BCM_E_PARAM;
         auto &all = view.phy.on_reset;
-        if (std::ranges::find(all, ResetCallback{callback, user_data}) != all.end()) {
+        if (std::ranges::find(all, ResetCallback{callback, user_data}) != all.end())
             return BCM_E_EXISTS;
-        }
         all.push_back({callback, user_data});
         view.phy.default_reset = reg_default != 0;
         return BCM_E_NONE;

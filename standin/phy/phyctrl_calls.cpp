@@ -60,9 +60,8 @@ bool is_speed(int speed) {
 
 std::uint32_t supported(const Port &port) {
     std::uint32_t mode = kAlways;
-    for (const SpeedBit &one : kSpeeds) {
+    for (const SpeedBit &one : kSpeeds)
         if (one.speed <= port.speed_max) mode |= 1u << one.bit;
-    }
     return mode;
 }
 

@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "sdk/variables.h"
-#include "standin/model/soc_control.h"
-#include "standin/base/output.h"
 #include "standin/base/number_text.h"
+#include "standin/base/output.h"
+#include "standin/model/soc_control.h"
 #include "standin/regs/words.h"
 
 namespace standin {
@@ -85,7 +85,7 @@ int run_access(const Unit &unit, const RegisterLayout &layout, const Instances &
 void watch(const char *what, int unit, Direction direction, const std::string &name,
            std::span<const std::uint32_t> value) {
     outf("u%d %s %s %s = %s\n", unit, what, direction == Direction::kWrite ? "write" : "read",
-               name.c_str(), words_text(value).c_str());
+         name.c_str(), words_text(value).c_str());
 }
 
 void tell_observers(const Afterwards &after, const RegisterLayout &layout, int instance,
@@ -145,9 +145,8 @@ int run_access(const Unit &unit, const MemoryLayout &layout, const Instances &co
 // Whether the shadow keeps the word of whatever lies at an address.
 bool keeps_word(const UnitState &state, std::uint32_t address) {
     if (const auto place = find_register_at(address)) return !place->layout->is_volatile;
-    if (const auto place = find_memory_at(address)) {
+    if (const auto place = find_memory_at(address))
         return keeps_entry(state, *place->layout, place->array, place->index);
-    }
     return false;
 }
 
@@ -166,10 +165,8 @@ int find_instances(const RegisterLayout &layout, int port, Instances &found) {
 int find_copies(int unit, const MemoryLayout &layout, int copyno, Instances &found) {
     found = {0, layout.block->count};
     const std::size_t memory = 4 * static_cast<std::size_t>(layout.id);
-    if (copyno == kEveryCopy || copyno == 0 ||
-        copyno == control_cell(unit, kMemoryCells + memory)) {
+    if (copyno == kEveryCopy || copyno == 0 || copyno == control_cell(unit, kMemoryCells + memory))
         return BCM_E_NONE;
-    }
     for (const CopyCells &cells : kCopyCells) {
         if (cells.block != layout.block->name) continue;
         if (copyno == control_cell(unit, cells.all_cores)) return BCM_E_NONE;
@@ -196,9 +193,8 @@ int access_register(const char *function, const RegisterCall &call,
         if (const int bad = find_instances(*layout, call.port, instances); bad < 0) return bad;
         if (!within(call.index, 0, layout->elements - 1)) return BCM_E_PARAM;
         if (layout->words() > value.size()) return BCM_E_PARAM;
-        for (unsigned i = 0; write && i < layout->words(); ++i) {
+        for (unsigned i = 0; write && i < layout->words(); ++i)
             words[i] = value[i] & layout->mask(i);
-        }
         const auto snoop = unit.state.snoops.find(call.reg);
         if (snoop != unit.state.snoops.end()) after.snoop = snoop->second;
         after.watched = unit.state.watch_registers;
@@ -228,9 +224,8 @@ int access_memory(const char *function, const MemoryCall &call, std::uint32_t *e
         }
         if (!table_open(unit, *layout)) return BCM_E_DISABLED;
         watched = unit.state.watch_memories;
-        if (!in_access_function) {
+        if (!in_access_function)
             outside = write ? unit.state.access.mem_write : unit.state.access.mem_read;
-        }
         return outside != nullptr ? BCM_E_NONE : run_access(unit, *layout, copies, call, entry);
     });
     if (status >= 0 && outside != nullptr) {
@@ -256,9 +251,8 @@ int access_words(const char *function, int unit, std::uint32_t address, Directio
         return access_register(function, call, value);
     }
     return on_unit(function, unit, Need::kReset, [&](Unit &view) {
-        for (std::size_t i = 0; i < value.size(); ++i) {
+        for (std::size_t i = 0; i < value.size(); ++i)
             if (word_mask(address + 4 * static_cast<std::uint32_t>(i)) == 0) return BCM_E_NOT_FOUND;
-        }
         int status = BCM_E_NONE;
         for (std::uint32_t &word : value) {
             const bool kept = keeps_word(view.state, address);

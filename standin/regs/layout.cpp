@@ -55,9 +55,8 @@ const Block *block_of(std::string_view name) {
 
 // The block with number `number`, or null.
 const Block *block_numbered(int number) {
-    for (const Block &block : blocks()) {
+    for (const Block &block : blocks())
         if (number >= block.number && number < block.number + block.count) return &block;
-    }
     return nullptr;
 }
 

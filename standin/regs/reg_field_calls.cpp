@@ -47,9 +47,8 @@ uint64 field_of(const char *function, int unit, soc_reg_t reg, std::span<const s
 // Puts a number into a field of `value`; zeros into the rest of a wider field.
 void put_field(const FieldPlace &field, std::span<std::uint32_t> value, uint64 number) {
     put_bits(value, field.first, std::min(field.bits, 64u), number);
-    for (unsigned done = 64; done < field.bits; done += 64) {
+    for (unsigned done = 64; done < field.bits; done += 64)
         put_bits(value, field.first + done, std::min(field.bits - done, 64u), 0);
-    }
 }
 
 // The same by number; nothing for a field that doesn't lie in `value`.

@@ -2,9 +2,9 @@
 #include <array>
 
 #include "sdk/soc/reg.h"
-#include "standin/model/loans.h"
 #include "standin/base/number_text.h"
 #include "standin/base/scan.h"
+#include "standin/model/loans.h"
 #include "standin/regs/access.h"
 #include "standin/regs/bits.h"
 
@@ -175,7 +175,7 @@ void soc_reg_sprint_addr(int, char *bp, soc_regaddrinfo_t *ainfo) {
     if (ainfo == nullptr) return;
     const RegisterLayout *const layout = described(ainfo);
     copy_text(bp, layout != nullptr ? register_text(*layout, ainfo->port, ainfo->idx)
-                                          : text_of("0x%08x", ainfo->addr));
+                                    : text_of("0x%08x", ainfo->addr));
 }
 
 // "MC_DB_TH=0x12,UC_DB_TH=0x0": the fields that lie in the first 32 bits, with `infix`, or '=',

@@ -75,9 +75,8 @@ void configureHwShadow(ibde_t *) {
         policy.configured = true;
         units = device_table().size();
     });
-    for (int unit = 0; unit < units; ++unit) {
+    for (int unit = 0; unit < units; ++unit)
         tell_unit(__func__, unit, [](Unit &view) { view.file.shadow.clear(); });
-    }
 }
 
 void configureHwPciConfigShadow(void) { set_policy(__func__, &ShadowPolicy::pci_configured, true); }
@@ -112,9 +111,8 @@ void reduceLifShadowSize(uint unit) {
         view.state.interfaces_reduced = true;
         for (const MemoryLayout &layout : all_memories()) {
             if (layout.kind != MemoryKind::kInterfaces) continue;
-            for (int array = 0; array < layout.arrays; ++array) {
+            for (int array = 0; array < layout.arrays; ++array)
                 forget_entries(view.file, layout, array, layout.entries / 2);
-            }
         }
     });
 }
@@ -160,11 +158,10 @@ void dynamicShadowEnableIs(int unit, int mem, int arrayIndex, int baseAddr, bool
     tell_unit(__func__, unit, [&](Unit &view) {
         const MemoryLayout *const layout = table_at(mem, arrayIndex, baseAddr);
         if (layout == nullptr) return;
-        if (enable) {
+        if (enable)
             view.state.dynamic.insert({mem, arrayIndex});
-        } else if (view.state.dynamic.erase({mem, arrayIndex}) != 0) {
+        else if (view.state.dynamic.erase({mem, arrayIndex}) != 0)
             forget_entries(view.file, *layout, arrayIndex, 0);
-        }
     });
 }
 

@@ -23,11 +23,10 @@ std::string memory_text(const Unit &unit) {
     const ShadowPolicy &policy = shadow_policy();
     std::string text = text_of("# unit %d: memories\n", unit.number);
     text += text_of("# PCI configuration shadow: %s\n", policy.pci_configured ? "on" : "off");
-    if (!policy.constraints_file.empty()) {
+    if (!policy.constraints_file.empty())
         text += "# copy engine constraints: " + policy.constraints_file + '\n';
-    }
-    Table table({"Memory", ">Number", "Block", ">Array", "Base", ">Entries", ">Bits",
-                       ">Copies", "Manager", "Shadow"});
+    Table table({"Memory", ">Number", "Block", ">Array", "Base", ">Entries", ">Bits", ">Copies",
+                 "Manager", "Shadow"});
     for (const MemoryLayout &layout : all_memories()) {
         for (int array = 0; array < layout.arrays; ++array) {
             table.row({layout.name, std::to_string(layout.id), std::string(layout.block->name),

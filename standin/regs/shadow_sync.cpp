@@ -6,8 +6,8 @@
 #include <string>
 
 #include "helper/shadow.h"
-#include "standin/base/output.h"
 #include "standin/base/number_text.h"
+#include "standin/base/output.h"
 #include "standin/base/scan.h"
 #include "standin/regs/access.h"
 #include "standin/regs/dump_file.h"
@@ -27,8 +27,8 @@ std::string element_text(const RegisterLayout &layout, int instance, int index) 
 std::string value_line(const RegisterLayout &layout, int instance, int index,
                        std::span<const std::uint32_t> value) {
     return element_text(layout, instance, index) +
-           text_of(" (0x%08x) = ", element_address(layout, instance, index)) +
-           words_text(value) + '\n';
+           text_of(" (0x%08x) = ", element_address(layout, instance, index)) + words_text(value) +
+           '\n';
 }
 
 // Holds one element against the hardware, and repairs the shadow if asked to. False: the hardware
@@ -59,9 +59,8 @@ template <class Visit>
 bool each_element(std::span<const RegisterLayout> layouts, Visit &&visit) {
     for (const RegisterLayout &layout : layouts) {
         for (int instance = 0; instance < layout.instances(); ++instance) {
-            for (int index = 0; index < layout.elements; ++index) {
+            for (int index = 0; index < layout.elements; ++index)
                 if (!visit(layout, instance, index)) return false;
-            }
         }
     }
     return true;
@@ -72,9 +71,8 @@ bool add_line(Unit &unit, const RegisterLayout &layout, int instance, int index,
               std::string &text) {
     std::array<std::uint32_t, kMostWords> value{};
     std::uint32_t address = element_address(layout, instance, index);
-    for (unsigned word = 0; word < layout.words(); ++word, address += 4) {
+    for (unsigned word = 0; word < layout.words(); ++word, address += 4)
         if (word_read(unit, address, !layout.is_volatile, value[word]) < 0) return false;
-    }
     text += value_line(layout, instance, index, std::span(value).first(layout.words()));
     return true;
 }
@@ -107,7 +105,7 @@ std::uint32_t synchronise(const char *function, int unit, std::span<const Regist
 std::string sync_text(int unit, const SyncRecord &record) {
     std::string text =
         text_of("# unit %d: %u registers compared, %u different%s\n", unit, record.compared,
-                      record.differing, record.repaired ? ", shadow repaired" : "");
+                record.differing, record.repaired ? ", shadow repaired" : "");
     Table table({"Register", "Address", ">Word", ">Shadow", ">Hardware"});
     for (const Difference &one : record.differences) {
         table.row({element_text(*one.layout, one.instance, one.index),

@@ -2,8 +2,8 @@
 
 #include "sdk/constants.h"
 #include "sdk/diag/parse.h"
-#include "standin/base/output.h"
 #include "standin/base/number_text.h"
+#include "standin/base/output.h"
 #include "standin/base/scan.h"
 #include "standin/text/unit_ports.h"
 
@@ -93,9 +93,8 @@ bool parse_table_s::read(std::string_view word) {
     bool has_value = cut(word, '=', key, value);
     for (const Option &option : options_) {
         if (!same_word(option.key, key) || !(has_value || option.flag)) continue;
-        if (!option.set(has_value ? value : "yes") && fault_.empty()) {
+        if (!option.set(has_value ? value : "yes") && fault_.empty())
             fault_ = "bad value in '" + std::string(word) + "'";
-        }
         return true;
     }
     return false;
@@ -104,9 +103,8 @@ bool parse_table_s::read(std::string_view word) {
 void parse_table_s::parse(args_s &args) {
     std::vector<std::string> left(args.words.begin(),
                                   args.words.begin() + static_cast<std::ptrdiff_t>(args.next));
-    for (std::size_t at = args.next; at < args.words.size(); ++at) {
+    for (std::size_t at = args.next; at < args.words.size(); ++at)
         if (!read(args.words[at])) left.push_back(args.words[at]);
-    }
     args.words = std::move(left);
 }
 
@@ -116,8 +114,6 @@ int parseEndOk(args_t *arg1, parse_table_t *arg2, cmd_result_t *arg3) {
     if (fault.empty() && !arg1->empty()) fault = "unknown option '" + *arg1->peek() + "'";
     if (arg3 != nullptr) *arg3 = static_cast<cmd_result_t>(fault.empty() ? CMD_OK : CMD_USAGE);
     if (fault.empty()) return 1;
-    if (arg1 != nullptr && arg2 != nullptr) {
-        outf("%s: %s\n", arg1->command.c_str(), fault.c_str());
-    }
+    if (arg1 != nullptr && arg2 != nullptr) outf("%s: %s\n", arg1->command.c_str(), fault.c_str());
     return 0;
 }

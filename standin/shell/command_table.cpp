@@ -1,8 +1,8 @@
 // The table of commands. The first line of a help text is what `help` lists.
 #include <array>
 
-#include "standin/shell/commands.h"
 #include "standin/base/scan.h"
+#include "standin/shell/commands.h"
 
 namespace standin {
 
@@ -78,12 +78,10 @@ const cmd_t *find_command(std::string_view name) {
     };
     constexpr std::array aliases = {Alias{"?", "help"}, Alias{"quit", "exit"}, Alias{"g", "getreg"},
                                     Alias{"s", "setreg"}, Alias{"d", "dump"}};
-    for (const Alias &alias : aliases) {
+    for (const Alias &alias : aliases)
         if (same_word(alias.name, name)) name = alias.command;
-    }
-    for (const cmd_t *row = shell_commands; row->c_cmd != nullptr; ++row) {
+    for (const cmd_t *row = shell_commands; row->c_cmd != nullptr; ++row)
         if (same_word(row->c_cmd, name)) return row;
-    }
     return nullptr;
 }
 

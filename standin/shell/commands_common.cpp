@@ -2,9 +2,9 @@
 
 #include "sdk/diag/parse.h"
 #include "standin/base/output.h"
+#include "standin/base/scan.h"
 #include "standin/shell/commands.h"
 #include "standin/text/name_text.h"
-#include "standin/base/scan.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
@@ -59,9 +59,8 @@ cmd_result_t for_ports(const PortSet &ports, const std::function<cmd_result_t(in
 bool name_matches(std::string_view name, const std::string &pattern) {
     std::string text = lower_case(name);
     std::string wanted = lower_case(pattern);
-    if (wanted.find_first_of("*?[") == std::string::npos) {
+    if (wanted.find_first_of("*?[") == std::string::npos)
         return text.find(wanted) != std::string::npos;
-    }
     return fnmatch(wanted.c_str(), text.c_str(), 0) == 0;
 }
 

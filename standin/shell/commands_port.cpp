@@ -8,11 +8,11 @@
 #include "sdk/bcm/stat.h"
 #include "sdk/bcm/stg.h"
 #include "sdk/soc/init.h"
+#include "standin/base/number_text.h"
 #include "standin/base/output.h"
+#include "standin/base/scan.h"
 #include "standin/shell/commands.h"
 #include "standin/text/name_text.h"
-#include "standin/base/number_text.h"
-#include "standin/base/scan.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
@@ -48,9 +48,8 @@ std::string learning(int unit, int port) {
 constexpr std::array kLoopbacks = {"none", "mac", "phy", "remote"};
 
 std::optional<int> loopback_of(std::string_view text) {
-    for (std::size_t at = 0; at < kLoopbacks.size(); ++at) {
+    for (std::size_t at = 0; at < kLoopbacks.size(); ++at)
         if (same_word(kLoopbacks[at], text)) return static_cast<int>(at);
-    }
     return std::nullopt;
 }
 
@@ -204,11 +203,10 @@ cmd_result_t cmd_counters(int unit, args_t *args) {
         }
         return kOk;
     });
-    if (table.size() == 0) {
+    if (table.size() == 0)
         out("every counter is 0\n");
-    } else {
+    else
         table.print();
-    }
     return kOk;
 }
 

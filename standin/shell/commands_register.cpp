@@ -3,13 +3,13 @@
 
 #include "sdk/soc/mem.h"
 #include "sdk/soc/reg.h"
+#include "standin/base/number_text.h"
 #include "standin/base/output.h"
+#include "standin/base/scan.h"
 #include "standin/shell/commands.h"
 #include "standin/text/identifier_text.h"
 #include "standin/text/name_text.h"
-#include "standin/base/number_text.h"
 #include "standin/text/register_list.h"
-#include "standin/base/scan.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
@@ -55,9 +55,8 @@ bool take_registers(int unit, args_t &args, Registers &registers, cmd_result_t &
 int read_register(int unit, const soc_regaddrinfo_t &at, bool by_address, WideValue &value) {
     value = {};
     if (by_address) return soc_reg32_read(unit, at.addr, value.data());
-    if (soc_reg_bytes(unit, at.reg) > 8) {
+    if (soc_reg_bytes(unit, at.reg) > 8)
         return soc_reg_above_64_get(unit, at.reg, at.port, at.idx, value.data());
-    }
     uint64 narrow = 0;
     int status = soc_reg_get(unit, at.reg, at.port, at.idx, &narrow);
     value[0] = static_cast<uint32>(narrow);
@@ -67,9 +66,8 @@ int read_register(int unit, const soc_regaddrinfo_t &at, bool by_address, WideVa
 
 int write_register(int unit, const soc_regaddrinfo_t &at, bool by_address, WideValue value) {
     if (by_address) return soc_reg32_write(unit, at.addr, value[0]);
-    if (soc_reg_bytes(unit, at.reg) > 8) {
+    if (soc_reg_bytes(unit, at.reg) > 8)
         return soc_reg_above_64_set(unit, at.reg, at.port, at.idx, value.data());
-    }
     return soc_reg_set(unit, at.reg, at.port, at.idx, uint64{value[1]} << 32 | value[0]);
 }
 

@@ -3,11 +3,11 @@
 
 #include "sdk/diag/shell.h"
 #include "sdk/variables.h"
+#include "standin/base/number_text.h"
 #include "standin/base/output.h"
+#include "standin/base/scan.h"
 #include "standin/shell/commands.h"
 #include "standin/shell/interrupt.h"
-#include "standin/base/number_text.h"
-#include "standin/base/scan.h"
 
 namespace standin {
 namespace {
@@ -30,9 +30,8 @@ const std::array kKnobs = {
 };
 
 const Knob *find_knob(std::string_view name) {
-    for (const Knob &knob : kKnobs) {
+    for (const Knob &knob : kKnobs)
         if (same_word(knob.name, name)) return &knob;
-    }
     return nullptr;
 }
 
@@ -81,9 +80,8 @@ std::vector<std::string> loop_values(std::string_view text) {
             values.emplace_back(item);
             continue;
         }
-        for (int value = range->low; value <= range->high; ++value) {
+        for (int value = range->low; value <= range->high; ++value)
             values.push_back(std::to_string(value));
-        }
     }
     return values;
 }
@@ -134,9 +132,8 @@ cmd_result_t cmd_echo(int, args_t *args) {
 cmd_result_t cmd_set(int, args_t *args) {
     if (args->empty()) {
         Table table({"Setting", ">Value", "Meaning"});
-        for (const Knob &knob : kKnobs) {
+        for (const Knob &knob : kKnobs)
             table.row({knob.name, std::to_string(*knob.value), knob.help});
-        }
         table.print();
         return kOk;
     }
@@ -155,9 +152,8 @@ cmd_result_t cmd_set(int, args_t *args) {
 cmd_result_t cmd_setenv(int, args_t *args) {
     std::optional<std::string> name = args->take();
     if (!name || name->empty() || is_digit(name->front())) return kUsage;
-    for (char sign : *name) {
+    for (char sign : *name)
         if (!is_alnum(sign) && sign != '_') return kUsage;
-    }
     Shell::instance().variable_set(*name, args->take_rest());
     return kOk;
 }
@@ -172,9 +168,8 @@ cmd_result_t cmd_unsetenv(int, args_t *args) {
 cmd_result_t cmd_printenv(int, args_t *args) {
     std::string pattern = args->take().value_or("");
     if (!args->empty()) return kUsage;
-    for (const auto &[name, value] : Shell::instance().variables()) {
+    for (const auto &[name, value] : Shell::instance().variables())
         if (name_matches(name, pattern)) out(name + '=' + value + '\n');
-    }
     return kOk;
 }
 
@@ -196,9 +191,8 @@ cmd_result_t cmd_for(int unit, args_t *args) {
     std::string_view list;
     std::optional<std::string> head = args->take();
     std::optional<std::string> command = args->take();
-    if (!head || !command || !args->empty() || !cut(*head, '=', name, list) || name.empty()) {
+    if (!head || !command || !args->empty() || !cut(*head, '=', name, list) || name.empty())
         return kUsage;
-    }
     cmd_result_t result = kOk;
     bool go_on = true;
     for (const std::string &value : loop_values(list)) {

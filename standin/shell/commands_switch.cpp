@@ -5,11 +5,11 @@
 #include "sdk/bcm/l2.h"
 #include "sdk/bcm/stg.h"
 #include "sdk/bcm/vlan.h"
-#include "standin/model/l2_table.h"
-#include "standin/base/output.h"
-#include "standin/shell/commands.h"
 #include "standin/base/number_text.h"
+#include "standin/base/output.h"
 #include "standin/base/scan.h"
+#include "standin/model/l2_table.h"
+#include "standin/shell/commands.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
@@ -129,9 +129,8 @@ cmd_result_t l2_clear(int unit, args_t *args) {
     std::vector<bcm_l2_addr_t> rows;
     cmd_result_t result = pick_rows(unit, *args, rows);
     int status = BCM_E_NONE;
-    for (bcm_l2_addr_t &row : rows) {
+    for (bcm_l2_addr_t &row : rows)
         if (status >= 0) status = bcm_l2_addr_delete(unit, row.mac, row.vid);
-    }
     return result == kOk ? report(*args, status) : result;
 }
 
@@ -228,9 +227,8 @@ constexpr std::array kStates = {"disable", "block", "listen", "learn", "forward"
 static_assert(kStates.size() == BCM_STG_STP_COUNT);
 
 std::optional<int> state_of(std::string_view text) {
-    for (std::size_t at = 0; at < kStates.size(); ++at) {
+    for (std::size_t at = 0; at < kStates.size(); ++at)
         if (same_word(kStates[at], text)) return static_cast<int>(at);
-    }
     return std::nullopt;
 }
 
@@ -257,9 +255,7 @@ std::string vlans_text(int unit, int stg) {
     int count = 0;
     if (bcm_stg_vlan_list(unit, stg, &list, &count) < 0) return "-";
     std::string text;
-    for (int at = 0; at < count; ++at) {
-        text += (text.empty() ? "" : ",") + std::to_string(list[at]);
-    }
+    for (int at = 0; at < count; ++at) text += (text.empty() ? "" : ",") + std::to_string(list[at]);
     bcm_stg_vlan_list_destroy(unit, list, count);
     return text.empty() ? "none" : text;
 }

@@ -3,10 +3,10 @@
 #include "sdk/sal/config.h"
 #include "standin/base/config_store.h"
 #include "standin/base/log.h"
-#include "standin/base/output.h"
-#include "standin/shell/commands.h"
 #include "standin/base/number_text.h"
+#include "standin/base/output.h"
 #include "standin/base/scan.h"
+#include "standin/shell/commands.h"
 
 namespace standin {
 namespace {
@@ -14,9 +14,8 @@ namespace {
 cmd_result_t config_show(int, args_t *args) {
     std::string pattern = args->take().value_or("");
     if (!args->empty()) return kUsage;
-    for (const ConfigEntry &entry : config_entries()) {
+    for (const ConfigEntry &entry : config_entries())
         if (name_matches(entry.name, pattern)) out(format_config_line(entry.name, entry.value));
-    }
     return kOk;
 }
 
@@ -42,9 +41,8 @@ cmd_result_t config_change(int, args_t *args) {
 
 cmd_result_t config_delete(int, args_t *args) {
     if (args->empty()) return kUsage;
-    while (std::optional<std::string> name = args->take()) {
+    while (std::optional<std::string> name = args->take())
         if (!config_remove(*name)) return refuse(*args, "no setting '" + *name + '\'');
-    }
     return kOk;
 }
 

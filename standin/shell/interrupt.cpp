@@ -46,11 +46,10 @@ bool interrupted() { return blocked == 0 && pending; }
 bool interrupt_take() { return pending.exchange(false); }
 
 void interrupt_block(bool block) {
-    if (block) {
+    if (block)
         ++blocked;
-    } else if (blocked > 0) {
+    else if (blocked > 0)
         --blocked;
-    }
 }
 
 void interrupt_push(const void *point) {

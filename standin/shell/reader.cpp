@@ -43,13 +43,12 @@ class WordReader {
     // Takes one sign, quoted text or variable into the word.
     void take(char sign, std::optional<ShellFault> &fault) {
         open_ = true;
-        if (sign == '\'') {
+        if (sign == '\'')
             take_literal(fault);
-        } else if (sign == '"') {
+        else if (sign == '"')
             take_quoted(fault);
-        } else {
+        else
             take_sign();
-        }
     }
 
     void take_literal(std::optional<ShellFault> &fault) {
@@ -73,13 +72,12 @@ class WordReader {
 
     void take_sign() {
         char sign = text_[at_++];
-        if (sign == '\\' && at_ < text_.size()) {
+        if (sign == '\\' && at_ < text_.size())
             word_ += text_[at_++];
-        } else if (sign == '$') {
+        else if (sign == '$')
             take_variable();
-        } else {
+        else
             word_ += sign;
-        }
     }
 
     // Behind the '$'; a '$' that no name follows is itself.

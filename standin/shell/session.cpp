@@ -7,12 +7,12 @@
 #include "sdk/variables.h"
 #include "standin/base/config_file.h"
 #include "standin/base/log.h"
+#include "standin/base/number_text.h"
 #include "standin/base/output.h"
+#include "standin/base/scan.h"
 #include "standin/shell/args.h"
 #include "standin/shell/interrupt.h"
 #include "standin/shell/reader.h"
-#include "standin/base/number_text.h"
-#include "standin/base/scan.h"
 
 namespace standin {
 namespace {
@@ -47,11 +47,10 @@ std::vector<FileLine> lines_of(std::string_view text) {
         ++number;
         if (line.ends_with('\r')) line.pop_back();
         bool more = take_continuation(line);
-        if (joined) {
+        if (joined)
             lines.back().text += line;
-        } else {
+        else
             lines.push_back({line, number});
-        }
         joined = more;
     }
     return lines;
@@ -79,9 +78,8 @@ bool unit_attached(int unit) {
 
 std::vector<int> attached_units() {
     std::vector<int> units;
-    for (int unit = 0; unit < kUnits; ++unit) {
+    for (int unit = 0; unit < kUnits; ++unit)
         if (unit_attached(unit)) units.push_back(unit);
-    }
     return units;
 }
 
@@ -159,9 +157,8 @@ cmd_result_t Shell::run_on_units(const std::string &text, int unit) {
     std::string name = words.words.front();
     auto start = std::chrono::steady_clock::now();
     cmd_result_t result = call(unit, std::move(words.words));
-    if (trace_wanted()) {
+    if (trace_wanted())
         trace("shell u" + std::to_string(unit) + ": " + text + ": " + result_name(result));
-    }
     report_result(name, result);
     if (sh_set_report_time != 0 && depth_ == 1) {
         std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;

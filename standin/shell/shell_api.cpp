@@ -5,11 +5,11 @@
 #include "sdk/variables.h"
 #include "standin/base/config_store.h"
 #include "standin/base/output.h"
+#include "standin/base/scan.h"
 #include "standin/shell/args.h"
 #include "standin/shell/interactive.h"
 #include "standin/shell/interrupt.h"
 #include "standin/text/name_text.h"
-#include "standin/base/scan.h"
 
 using namespace standin;
 
@@ -89,11 +89,10 @@ int sh_check_attached(char const *pfx, int unit) {
 void sh_swap_unit_vars(int new_unit) { Shell::instance().swap_variables(new_unit); }
 
 void diag_rc_set(int unit, char const *fname) {
-    if (fname == nullptr || *fname == '\0') {
+    if (fname == nullptr || *fname == '\0')
         Shell::instance().start_files.erase(unit);
-    } else {
+    else
         Shell::instance().start_files[unit] = fname;
-    }
 }
 
 void diag_rc_get(int unit, char const **fname) {

@@ -28,9 +28,8 @@ std::optional<std::uint32_t> read_dotted(std::string_view text) {
     std::uint32_t address = 0;
     for (std::string_view part : parts) {
         if (part.empty() || part.size() > 3) return std::nullopt;
-        for (char sign : part) {
+        for (char sign : part)
             if (!is_digit(sign)) return std::nullopt;
-        }
         std::optional<std::uint64_t> byte = read_u64(part);
         if (!byte || *byte > 255) return std::nullopt;
         address = address << 8 | static_cast<std::uint32_t>(*byte);
@@ -123,9 +122,8 @@ std::optional<std::int32_t> read_gport(std::string_view text, const PortNames &n
         return static_cast<std::int32_t>(entry.type << kTypeShift |
                                          static_cast<std::uint32_t>(*number));
     }
-    for (const PortName &entry : names) {
+    for (const PortName &entry : names)
         if (same_word(entry.name, text)) return entry.port;
-    }
     std::optional<std::uint32_t> number = read_u32(text);
     if (!number) return std::nullopt;
     return static_cast<std::int32_t>(*number);

@@ -50,9 +50,8 @@ std::string_view block_type_name(int type) {
 
 bool block_type_in(int type, const int *list) {
     if (type == kAnyBlock || list == nullptr) return true;
-    for (; *list >= 0; ++list) {
+    for (; *list >= 0; ++list)
         if (*list == type) return true;
-    }
     return false;
 }
 

@@ -4,13 +4,13 @@
 #include "sdk/diag/format.h"
 #include "sdk/diag/parse.h"
 #include "sdk/soc/reg.h"
-#include "standin/text/identifier_text.h"
-#include "standin/phy/mode_text.h"
 #include "standin/base/number_text.h"
-#include "standin/text/register_list.h"
 #include "standin/base/scan.h"
-#include "standin/text/unit_ports.h"
+#include "standin/phy/mode_text.h"
 #include "standin/regs/layout.h"
+#include "standin/text/identifier_text.h"
+#include "standin/text/register_list.h"
+#include "standin/text/unit_ports.h"
 
 using namespace standin;
 

@@ -3,8 +3,8 @@
 #include "sdk/constants.h"
 #include "sdk/sal/config.h"
 #include "sdk/soc/property.h"
-#include "standin/base/faults.h"
 #include "standin/base/config_store.h"
+#include "standin/base/faults.h"
 #include "standin/base/log.h"
 #include "standin/base/output.h"
 #include "standin/base/scan.h"
@@ -88,16 +88,14 @@ int sal_config_get_next(char **name, char **value) {
 }
 
 void sal_config_show(void) {
-    for (const ConfigEntry &entry : config_entries()) {
+    for (const ConfigEntry &entry : config_entries())
         out(format_config_line(entry.name, entry.value));
-    }
 }
 
 void sal_config_dump(void) {
     Table table({"Name", "Value", ">Line"});
-    for (const ConfigEntry &entry : config_entries()) {
+    for (const ConfigEntry &entry : config_entries())
         table.row({entry.name, entry.value, origin_text(entry.line)});
-    }
     outf("file %s, %zu settings\n", config_files().file.c_str(), table.size());
     table.print();
 }

@@ -4,8 +4,8 @@
 #include "sdk/constants.h"
 #include "sdk/diag/format.h"
 #include "sdk/diag/parse.h"
-#include "standin/text/name_text.h"
 #include "standin/base/scan.h"
+#include "standin/text/name_text.h"
 
 using namespace standin;
 

@@ -1,8 +1,8 @@
 #include "standin/text/identifier_text.h"
 
-#include "standin/text/name_text.h"
 #include "standin/base/number_text.h"
 #include "standin/base/scan.h"
+#include "standin/text/name_text.h"
 
 namespace standin {
 namespace {
@@ -36,9 +36,8 @@ bool take_index(std::string_view &text, std::optional<std::string_view> &index) 
 
 std::vector<int> members_of(const PortSet &set) {
     std::vector<int> ports;
-    for (std::size_t at = 0; at < set.size(); ++at) {
+    for (std::size_t at = 0; at < set.size(); ++at)
         if (set[at]) ports.push_back(static_cast<int>(at));
-    }
     return ports;
 }
 
@@ -106,9 +105,8 @@ std::optional<RegisterRef> read_register_ref(std::string_view text, const PortNa
 
 std::optional<std::uint32_t> read_cmic_register(std::string_view text) {
     text = trim(text);
-    for (const CmicRegister &entry : kCmicRegisters) {
+    for (const CmicRegister &entry : kCmicRegisters)
         if (same_word(text, entry.name)) return entry.offset;
-    }
     std::optional<std::uint64_t> offset = read_u64(text);
     if (!offset || *offset >= 0x40000 || *offset % 4 != 0) return std::nullopt;
     return static_cast<std::uint32_t>(*offset);

@@ -13,9 +13,8 @@ bool name_sign(char sign) { return is_alnum(sign) || sign == '_'; }
 
 // Whether a constant is one of the lists of identifiers: upper case but for its ending.
 bool is_identifier(std::string_view name, char ending) {
-    if (name.size() < 2 || name.back() != ending || name.front() < 'A' || name.front() > 'Z') {
+    if (name.size() < 2 || name.back() != ending || name.front() < 'A' || name.front() > 'Z')
         return false;
-    }
     name.remove_suffix(1);
     return std::all_of(name.begin(), name.end(), [](char sign) {
         return (sign >= 'A' && sign <= 'Z') || is_digit(sign) || sign == '_';
@@ -51,9 +50,8 @@ NameFamily::NameFamily(std::string_view prefix) : prefix_(prefix), longest_(11) 
 std::optional<std::int32_t> NameFamily::value(std::string_view text) const {
     text = trim(text);
     auto found = values_.find(lower_case(text));
-    if (found == values_.end() && starts_with_word(text, prefix_)) {
+    if (found == values_.end() && starts_with_word(text, prefix_))
         found = values_.find(lower_case(text.substr(prefix_.size())));
-    }
     return found != values_.end() ? found->second : read_i32(text);
 }
 
@@ -103,14 +101,12 @@ const std::vector<IdentifierName> &identifiers(Identifier kind) {
 std::optional<std::int32_t> identifier_of(Identifier kind, std::string_view text) {
     text = trim(text);
     // The exact name goes first: one name may be another one and the ending.
-    for (const IdentifierName &entry : identifiers(kind)) {
+    for (const IdentifierName &entry : identifiers(kind))
         if (same_word(entry.name, text)) return entry.id;
-    }
     if (!text.empty() && to_lower(text.back()) == static_cast<char>(kind)) {
         std::string_view bare = text.substr(0, text.size() - 1);
-        for (const IdentifierName &entry : identifiers(kind)) {
+        for (const IdentifierName &entry : identifiers(kind))
             if (same_word(entry.name, bare)) return entry.id;
-        }
     }
     return read_i32(text);
 }
@@ -136,11 +132,10 @@ std::optional<std::vector<std::int32_t>> read_name_list(const NameFamily &names,
         text = std::string_view(end, text.end());
         ++words;
         std::optional<std::int32_t> member = names.value(word);
-        if (member && *member >= 0 && *member < limit) {
+        if (member && *member >= 0 && *member < limit)
             members.push_back(*member);
-        } else if (!same_word(word, "none")) {
+        else if (!same_word(word, "none"))
             return std::nullopt;
-        }
     }
     if (words == 0) return std::nullopt;
     return members;

@@ -68,9 +68,7 @@ uint64 parse_uint64(char *str) { return read_u64(view_of(str)).value_or(0); }
 
 void parse_long_integer(uint32 *val, int nval, char *str) {
     if (!words_ok(val, nval)) return;
-    if (!read_words(view_of(str), words_of(val, nval))) {
-        std::fill_n(val, nval, 0U);
-    }
+    if (!read_words(view_of(str), words_of(val, nval))) std::fill_n(val, nval, 0U);
 }
 
 void format_long_integer(char *buf, uint32 *val, int nval) {

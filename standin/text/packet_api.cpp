@@ -4,8 +4,8 @@
 #include "sdk/diag/text.h"
 #include "sdk/variables.h"
 #include "standin/base/output.h"
-#include "standin/text/address_text.h"
 #include "standin/base/scan.h"
+#include "standin/text/address_text.h"
 #include "standin/text/unit_ports.h"
 
 using namespace standin;
@@ -61,9 +61,8 @@ void packet_random_store(uint8 *buf, int size) {
 
 int packet_compare(uint8 *p1, uint8 *p2, int size) {
     if (size < 0 || p1 == nullptr || p2 == nullptr) return BCM_E_PARAM;
-    for (int at = 0; at < size; ++at) {
+    for (int at = 0; at < size; ++at)
         if (p1[at] != p2[at]) return at + 1;
-    }
     return 0;
 }
 

@@ -4,9 +4,9 @@
 #include "sdk/diag/parse.h"
 #include "sdk/diag/text.h"
 #include "standin/base/output.h"
+#include "standin/base/scan.h"
 #include "standin/text/address_text.h"
 #include "standin/text/block_text.h"
-#include "standin/base/scan.h"
 #include "standin/text/unit_ports.h"
 
 using namespace standin;
@@ -113,8 +113,7 @@ int parse_block_range(int, soc_block_types_t regtype, char *s, int *min, int *ma
                       soc_block_types_t mask) {
     std::optional<BlockRange> blocks = read_block_range(view_of(s));
     if (!blocks) return BCM_E_PARAM;
-    if (!block_type_in(blocks->type, regtype) || !block_type_in(blocks->type, mask)) {
+    if (!block_type_in(blocks->type, regtype) || !block_type_in(blocks->type, mask))
         return BCM_E_NOT_FOUND;
-    }
     return give_range(blocks->copies, min, max);
 }

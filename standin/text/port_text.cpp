@@ -29,17 +29,15 @@ std::optional<NameParts> parts_of(std::string_view name) {
 }
 
 const PortName *find_name(std::string_view text, const PortNames &names) {
-    for (const PortName &entry : names) {
+    for (const PortName &entry : names)
         if (same_word(entry.name, text)) return &entry;
-    }
     return nullptr;
 }
 
 PortSet all_ports(const PortNames &names) {
     PortSet set;
-    for (const PortName &entry : names) {
+    for (const PortName &entry : names)
         if (port_number_ok(entry.port)) set.set(bit(entry.port));
-    }
     return set;
 }
 
@@ -68,20 +66,16 @@ std::optional<PortSet> read_range(std::string_view low, std::string_view high,
     std::optional<std::int32_t> last = read_i32(high);
     PortSet set;
     if (first && last) {
-        if (!port_number_ok(*first) || !port_number_ok(*last) || *first > *last) {
+        if (!port_number_ok(*first) || !port_number_ok(*last) || *first > *last)
             return std::nullopt;
-        }
         for (int port = *first; port <= *last; ++port) set.set(bit(port));
         return set;
     }
     std::optional<NameParts> from = parts_of(low);
     std::optional<NameParts> to = parts_of(high);
-    if (!from || !to || !same_word(from->type, to->type) || from->index > to->index) {
+    if (!from || !to || !same_word(from->type, to->type) || from->index > to->index)
         return std::nullopt;
-    }
-    if (find_name(low, names) == nullptr || find_name(high, names) == nullptr) {
-        return std::nullopt;
-    }
+    if (find_name(low, names) == nullptr || find_name(high, names) == nullptr) return std::nullopt;
     return ports_of_type(from->type, from->index, to->index, names);
 }
 
@@ -110,17 +104,15 @@ bool neighbours(const PortName &entry, const PortName &next) {
 
 PortSet port_set(std::span<const std::uint32_t> words) {
     PortSet set;
-    for (std::size_t at = 0; at < kPortBits && at / 32 < words.size(); ++at) {
+    for (std::size_t at = 0; at < kPortBits && at / 32 < words.size(); ++at)
         set[at] = (words[at / 32] >> (at % 32) & 1U) != 0;
-    }
     return set;
 }
 
 void port_words(const PortSet &set, std::span<std::uint32_t> words) {
     std::fill(words.begin(), words.end(), 0U);
-    for (std::size_t at = 0; at < kPortBits; ++at) {
+    for (std::size_t at = 0; at < kPortBits; ++at)
         if (set[at]) words[at / 32] |= 1U << (at % 32);
-    }
 }
 
 std::optional<PortSet> read_port_list(std::string_view text, const PortNames &names,
@@ -146,9 +138,8 @@ std::optional<PortSet> read_port_list(std::string_view text, const PortNames &na
 std::string port_list_text(const PortSet &set, const PortNames &names) {
     // Every member with the name it goes by; one without a name is its own kind of type.
     PortNames members;
-    for (int port = 0; port < kPortBits; ++port) {
+    for (int port = 0; port < kPortBits; ++port)
         if (set[bit(port)]) members.push_back({port, port_text(port, names)});
-    }
     std::string text;
     for (std::size_t at = 0; at < members.size();) {
         bool number = is_digit(members[at].name.front());
@@ -178,9 +169,8 @@ std::optional<int> read_port(std::string_view text, const PortNames &names) {
 }
 
 std::string port_text(int port, const PortNames &names) {
-    for (const PortName &entry : names) {
+    for (const PortName &entry : names)
         if (entry.port == port) return entry.name;
-    }
     return std::to_string(port);
 }
 

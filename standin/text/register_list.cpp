@@ -16,9 +16,7 @@ int register_addresses(int unit, const RegisterRef &ref, std::size_t limit,
         return BCM_E_NONE;
     }
     std::size_t indexes = static_cast<std::size_t>(ref.index.high - ref.index.low) + 1;
-    if (indexes > limit || ref.ports.size() * indexes > limit) {
-        return BCM_E_FULL;
-    }
+    if (indexes > limit || ref.ports.size() * indexes > limit) return BCM_E_FULL;
     for (int port : ref.ports) {
         for (int index = ref.index.low; index <= ref.index.high; ++index) {
             if (soc_reg_port_idx_valid(unit, ref.reg, port, index) == 0) return BCM_E_NOT_FOUND;

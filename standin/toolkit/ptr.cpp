@@ -30,11 +30,10 @@ void PtrInterface::onZeroReferences() { delete this; }
 
 void PtrInterface::hasNotificationActiveIs(bool active) {
     std::atomic_ref word(countWord_);
-    if (active) {
+    if (active)
         word.fetch_or(notificationActiveFlag);
-    } else {
+    else
         word.fetch_and(~notificationActiveFlag);
-    }
 }
 
 }  // namespace Lumo

@@ -37,9 +37,8 @@ struct String::Body {
     }
 
     static void drop(Body *body) noexcept {
-        if (body && body->count.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+        if (body && body->count.fetch_sub(1, std::memory_order_acq_rel) == 1)
             ::operator delete(body);
-        }
     }
 };
 

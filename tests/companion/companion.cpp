@@ -70,9 +70,7 @@ swig_cast_link casts[count][4] = {
 swig_type_info *find_type(const char *name) {
     swig_module_table *head = SWIG_Python_GetModule();
     swig_type_info *type = SWIG_MangledTypeQueryModule(head, head, name);
-    if (type == nullptr) {
-        PyErr_Format(PyExc_LookupError, "no type '%s'", name);
-    }
+    if (type == nullptr) PyErr_Format(PyExc_LookupError, "no type '%s'", name);
     return type;
 }
 
@@ -89,9 +87,8 @@ PyObject *make(PyObject *, PyObject *args) {
     unsigned long address = 0;
     int own = 0;
     swig_type_info *type = nullptr;
-    if (!PyArg_ParseTuple(args, "zk|i:make", &name, &address, &own) || !find_type(name, type)) {
+    if (!PyArg_ParseTuple(args, "zk|i:make", &name, &address, &own) || !find_type(name, type))
         return nullptr;
-    }
     return SwigPyObject_New(to_pointer(address), type, own);
 }
 
@@ -100,18 +97,14 @@ PyObject *present(PyObject *, PyObject *args) {
     unsigned long address = 0;
     int flags = 0;
     swig_type_info *type = nullptr;
-    if (!PyArg_ParseTuple(args, "zk|i:present", &name, &address, &flags) ||
-        !find_type(name, type)) {
+    if (!PyArg_ParseTuple(args, "zk|i:present", &name, &address, &flags) || !find_type(name, type))
         return nullptr;
-    }
     return SWIG_Python_NewPointerObj(to_pointer(address), type, flags);
 }
 
 // (status, address), the address None if the conversion left it untouched.
 PyObject *conversion(int status, const void *pointer, const void *untouched) {
-    if (pointer == untouched) {
-        return Py_BuildValue("(iO)", status, Py_None);
-    }
+    if (pointer == untouched) return Py_BuildValue("(iO)", status, Py_None);
     return Py_BuildValue("(iN)", status, PyLong_FromVoidPtr(const_cast<void *>(pointer)));
 }
 
@@ -120,9 +113,8 @@ PyObject *convert(PyObject *, PyObject *args) {
     const char *name = nullptr;
     int flags = 0;
     swig_type_info *type = nullptr;
-    if (!PyArg_ParseTuple(args, "Oz|i:convert", &object, &name, &flags) || !find_type(name, type)) {
+    if (!PyArg_ParseTuple(args, "Oz|i:convert", &object, &name, &flags) || !find_type(name, type))
         return nullptr;
-    }
     void *pointer = &pointer;
     const int status = SWIG_Python_ConvertPtrAndOwn(object, &pointer, type, flags);
     return conversion(status, pointer, &pointer);
@@ -132,9 +124,8 @@ PyObject *convert_function(PyObject *, PyObject *args) {
     PyObject *object = nullptr;
     const char *name = nullptr;
     swig_type_info *type = nullptr;
-    if (!PyArg_ParseTuple(args, "Oz:convert_function", &object, &name) || !find_type(name, type)) {
+    if (!PyArg_ParseTuple(args, "Oz:convert_function", &object, &name) || !find_type(name, type))
         return nullptr;
-    }
     void *pointer = &pointer;
     const int status = SWIG_Python_ConvertFunctionPtr(object, &pointer, type);
     return conversion(status, pointer, &pointer);
@@ -148,28 +139,20 @@ PyObject *this_of(PyObject *, PyObject *object) {
 PyObject *type_check(PyObject *, PyObject *args) {
     const char *source = nullptr;
     const char *name = nullptr;
-    if (!PyArg_ParseTuple(args, "ss:type_check", &source, &name)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "ss:type_check", &source, &name)) return nullptr;
     swig_type_info *type = find_type(name);
     return type != nullptr ? PyBool_FromLong(SWIG_TypeCheck(source, type) != nullptr) : nullptr;
 }
 
 PyObject *cast_order(PyObject *, PyObject *args) {
     const char *name = nullptr;
-    if (!PyArg_ParseTuple(args, "s:cast_order", &name)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "s:cast_order", &name)) return nullptr;
     const swig_type_info *type = find_type(name);
     ombra::PyRef names(type != nullptr ? PyList_New(0) : nullptr);
-    if (names == nullptr) {
-        return nullptr;
-    }
+    if (names == nullptr) return nullptr;
     for (const swig_cast_link *link = type->casts; link != nullptr; link = link->next) {
         const ombra::PyRef text(PyString_FromString(link->type->name));
-        if (text == nullptr || PyList_Append(names.get(), text.get()) != 0) {
-            return nullptr;
-        }
+        if (text == nullptr || PyList_Append(names.get(), text.get()) != 0) return nullptr;
     }
     return names.release();
 }
@@ -178,9 +161,7 @@ PyObject *cast_order(PyObject *, PyObject *args) {
 PyObject *register_class(PyObject *, PyObject *args) {
     const char *name = nullptr;
     PyObject *proxy_class = nullptr;
-    if (!PyArg_ParseTuple(args, "sO:register_class", &name, &proxy_class)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "sO:register_class", &name, &proxy_class)) return nullptr;
     swig_type_info *type = find_type(name);
     const ombra::PyRef unpacked(type != nullptr ? PyTuple_Pack(1, proxy_class) : nullptr);
     return unpacked != nullptr ? SWIG_Python_RegisterClass(type, unpacked.get()) : nullptr;
@@ -189,13 +170,9 @@ PyObject *register_class(PyObject *, PyObject *args) {
 // registered(type name): (class or None, owned by this very type, destroy takes a tuple).
 PyObject *registered(PyObject *, PyObject *args) {
     const char *name = nullptr;
-    if (!PyArg_ParseTuple(args, "s:registered", &name)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "s:registered", &name)) return nullptr;
     const swig_type_info *type = find_type(name);
-    if (type == nullptr) {
-        return nullptr;
-    }
+    if (type == nullptr) return nullptr;
     const SwigPyClientData *data = type->client_data;
     return Py_BuildValue("(Oii)", data != nullptr ? data->proxy_class : Py_None,
                          type->owns_client_data, data != nullptr ? data->destroy_takes_tuple : 0);
@@ -249,9 +226,7 @@ PyObject *delete_object(PyObject *self, PyObject *args) {
 
 PyObject *delete_and_raise(PyObject *self, PyObject *args) {
     const ombra::PyRef done(delete_object(self, args));
-    if (done != nullptr) {
-        PyErr_SetString(PyExc_ValueError, "refused by the destructor");
-    }
+    if (done != nullptr) PyErr_SetString(PyExc_ValueError, "refused by the destructor");
     return nullptr;
 }
 
@@ -271,9 +246,7 @@ PyObject *callback(PyObject *, PyObject *) { Py_RETURN_NONE; }
 PyObject *call(PyObject *, PyObject *args) {
     unsigned long address = 0;
     int number = 0;
-    if (!PyArg_ParseTuple(args, "ki:call", &address, &number)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "ki:call", &address, &number)) return nullptr;
     return PyInt_FromLong(
         reinterpret_cast<int (*)(int, int *)>(to_pointer(address))(number, nullptr));
 }

@@ -70,16 +70,12 @@ void __real__ZdlPvm(void *block, std::size_t size);
 void __real__ZdaPvm(void *block, std::size_t size);
 
 void *__wrap__Znwm(std::size_t size) {
-    if (fails()) {
-        throw std::bad_alloc();
-    }
+    if (fails()) throw std::bad_alloc();
     return counted(__real__Znwm(size));
 }
 
 void *__wrap__Znam(std::size_t size) {
-    if (fails()) {
-        throw std::bad_alloc();
-    }
+    if (fails()) throw std::bad_alloc();
     return counted(__real__Znam(size));
 }
 

@@ -33,9 +33,7 @@ PyObject *taken(PyObject *, PyObject *) {
             item = PyString_FromStringAndSize(reinterpret_cast<const char *>(argument.bytes),
                                               static_cast<Py_ssize_t>(argument.size));
         }
-        if (item == nullptr || PyList_Append(list, item) != 0) {
-            Py_CLEAR(list);
-        }
+        if (item == nullptr || PyList_Append(list, item) != 0) Py_CLEAR(list);
         Py_XDECREF(item);
     }
     return list;
@@ -66,9 +64,7 @@ PyObject *get_live_blocks(PyObject *, PyObject *) { return PyInt_FromLong(live_b
 PyObject *pointer(PyObject *, PyObject *args) {
     const char *name = nullptr;
     unsigned long address = 0;
-    if (!PyArg_ParseTuple(args, "sk", &name, &address)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "sk", &name, &address)) return nullptr;
     return SwigPyObject_New(reinterpret_cast<void *>(address), SWIG_Python_TypeQuery(name), 0);
 }
 
@@ -76,9 +72,7 @@ PyObject *pointer(PyObject *, PyObject *args) {
 PyObject *memory(PyObject *, PyObject *args) {
     unsigned long address = 0;
     Py_ssize_t size = 0;
-    if (!PyArg_ParseTuple(args, "kn", &address, &size)) {
-        return nullptr;
-    }
+    if (!PyArg_ParseTuple(args, "kn", &address, &size)) return nullptr;
     return PyString_FromStringAndSize(reinterpret_cast<const char *>(address), size);
 }
 
@@ -146,9 +140,8 @@ void throw_if_asked() {
 void add_control(PyObject *module) {
     write_callback_doc(callback_doc, "_p_f_int_p_void__int");
     write_callback_doc(other_callback_doc, "_p_int");
-    for (PyMethodDef *method = methods; method->ml_name != nullptr; ++method) {
+    for (PyMethodDef *method = methods; method->ml_name != nullptr; ++method)
         PyModule_AddObject(module, method->ml_name, PyCFunction_New(method, nullptr));
-    }
     auto *const target = &callback_target;
     PyModule_AddObject(module, "callback_address",
                        PyLong_FromVoidPtr(reinterpret_cast<void *>(target)));

@@ -32,9 +32,7 @@ inline void note_bytes(const void *bytes, std::size_t size) {
     Record::Argument &argument = record.arguments[record.count++];
     argument.size = size < kMostBytes ? size : kMostBytes;
     argument.null_text = bytes == nullptr;
-    if (bytes != nullptr) {
-        std::memcpy(argument.bytes, bytes, argument.size);
-    }
+    if (bytes != nullptr) std::memcpy(argument.bytes, bytes, argument.size);
 }
 
 template <typename Value>

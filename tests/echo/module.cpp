@@ -16,7 +16,5 @@ const swig_const_row swig_const_rows[] = {{SWIG_CONST_END, nullptr, 0, nullptr, 
 extern "C" __attribute__((visibility("default"))) void init_echo() {
     SWIG_Python_RunEntry({"_echo", swig_method_table, swig_const_rows, &swig_module, swig_constants,
                           swig_variables, swig_install_steps, swig_install_step_count});
-    if (PyErr_Occurred() == nullptr) {
-        echo::add_control(PyImport_AddModule("_echo"));
-    }
+    if (PyErr_Occurred() == nullptr) echo::add_control(PyImport_AddModule("_echo"));
 }

@@ -11,12 +11,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
         fuzz::must(read_ip(ip_text(*address)) == address, "address");
         fuzz::must(read_ip(ip_mask_text(*address, ~*address)) == address, "address with mask");
     }
-    if (std::optional<MacBytes> mac = read_mac(text)) {
+    if (std::optional<MacBytes> mac = read_mac(text))
         fuzz::must(read_mac(mac_text(mac->data())) == mac, "MAC address");
-    }
-    if (std::optional<std::int32_t> gport = read_gport(text, {})) {
+    if (std::optional<std::int32_t> gport = read_gport(text, {}))
         fuzz::must(read_gport(gport_text(*gport), {}) == gport, "global port");
-    }
     for (Range legal :
          {Range{0, 100}, Range{-5, 5}, Range{-0x7fffffff - 1, 0x7fffffff}, Range{9, 3}}) {
         std::optional<Range> range = read_range(text, legal);

@@ -11,9 +11,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
         fuzz::must(config_name_ok(entry.name) && entry.line > 0, "an entry has a name and a line");
         text += format_config_line(entry.name, entry.value);
     }
-    for (const ConfigFault &fault : read.faults) {
+    for (const ConfigFault &fault : read.faults)
         fuzz::must(fault.line > 0 && !fault.text.empty(), "a fault has a line and a text");
-    }
     ConfigText again = parse_config_text(text);
     fuzz::must(again.faults.empty() && again.entries.size() == read.entries.size(),
                "what is written is read back");

@@ -28,9 +28,7 @@ struct BadFile {
 };
 
 bool takes_prefix(const std::string &line, const std::string &prefix, std::string &rest) {
-    if (line.rfind(prefix, 0) != 0) {
-        return false;
-    }
+    if (line.rfind(prefix, 0) != 0) return false;
     rest = line.substr(prefix.size());
     return true;
 }
@@ -40,15 +38,14 @@ BadFile read_bad_file(const std::string &name) {
     std::string *section = nullptr;
     for (const auto &line : lines_of(read_text(bad_folder() / name))) {
         std::string rest;
-        if (takes_prefix(line, "file: ", rest)) {
+        if (takes_prefix(line, "file: ", rest))
             section = &bad.files[rest];
-        } else if (takes_prefix(line, "add: ", rest)) {
+        else if (takes_prefix(line, "add: ", rest))
             section = &bad.additions[rest];
-        } else if (section != nullptr) {
+        else if (section != nullptr)
             *section += line + "\n";
-        } else if (takes_prefix(line, "expect: ", rest)) {
+        else if (takes_prefix(line, "expect: ", rest))
             bad.expected.push_back(rest);
-        }
     }
     return bad;
 }
@@ -67,9 +64,8 @@ std::string with_lines(std::string message, const std::map<std::string, std::siz
                   match.suffix().str();
     }
     const std::string path = message.substr(0, message.find(':'));
-    while (std::regex_search(message, match, line)) {
+    while (std::regex_search(message, match, line))
         message = match.prefix().str() + "line " + number(path, match[1]) + match.suffix().str();
-    }
     return message;
 }
 
@@ -84,9 +80,7 @@ TEST_P(Bad, IsRefusedWithTheWholeMessage) {
     const fs::path root = scratch.path() / "root";
     const fs::path out = scratch.path() / "out";
     copy_small(root);
-    for (const auto &[path, text] : bad.files) {
-        write_text(root / path, text);
-    }
+    for (const auto &[path, text] : bad.files) write_text(root / path, text);
     std::map<std::string, std::size_t> lines;
     for (const auto &[path, text] : bad.additions) {
         const std::string before = read_text(root / path);
@@ -95,9 +89,7 @@ TEST_P(Bad, IsRefusedWithTheWholeMessage) {
     }
     const Outcome run = generate(root, out);
     std::vector<std::string> expected;
-    for (const auto &message : bad.expected) {
-        expected.push_back(with_lines(message, lines));
-    }
+    for (const auto &message : bad.expected) expected.push_back(with_lines(message, lines));
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(lines_of(run.err), expected);
     EXPECT_EQ(run.out, "");
@@ -116,15 +108,13 @@ TEST(Rules, EachHasABadFile) {
     for (const auto &file : bad_files()) {
         for (const auto &message : read_bad_file(file).expected) {
             const auto open = message.rfind(" [");
-            if (open != std::string::npos) {
+            if (open != std::string::npos)
                 met.insert(message.substr(open + 2, message.size() - open - 3));
-            }
         }
     }
     std::set<std::string> rules;
-    for (const auto &line : lines_of(run_generator({"--list-rules"}).out)) {
+    for (const auto &line : lines_of(run_generator({"--list-rules"}).out))
         rules.insert(line.substr(0, line.find(':')));
-    }
     EXPECT_FALSE(rules.empty());
     EXPECT_EQ(met, rules);
 }

@@ -23,9 +23,7 @@ int exit_status(int status) { return WIFEXITED(status) ? WEXITSTATUS(status) : -
 
 Scratch::Scratch() {
     std::string name = (fs::temp_directory_path() / "generator_test.XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
-    }
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
     path_ = name;
 }
 
@@ -39,9 +37,7 @@ Outcome run_generator(const std::vector<std::string> &arguments) {
     const fs::path out = scratch.path() / "out";
     const fs::path err = scratch.path() / "err";
     std::string command = quoted(GENERATOR);
-    for (const auto &argument : arguments) {
-        command += " " + quoted(argument);
-    }
+    for (const auto &argument : arguments) command += " " + quoted(argument);
     command += " >" + quoted(out.string()) + " 2>" + quoted(err.string());
     const int status = std::system(command.c_str());
     return {exit_status(status), read_text(out), read_text(err)};
@@ -55,9 +51,8 @@ fs::path tests_folder() { return GENERATOR_TESTS; }
 
 void copy_small(const fs::path &to) {
     fs::create_directories(to);
-    for (const char *folder : {"api", "catalogue", "platform"}) {
+    for (const char *folder : {"api", "catalogue", "platform"})
         fs::copy(tests_folder() / "small" / folder, to / folder, fs::copy_options::recursive);
-    }
 }
 
 std::string read_text(const fs::path &file) {
@@ -75,20 +70,16 @@ void write_text(const fs::path &file, const std::string &text) {
 std::vector<std::string> lines_of(const std::string &text) {
     std::vector<std::string> lines;
     std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
+    for (std::string line; std::getline(stream, line);) lines.push_back(line);
     return lines;
 }
 
 std::vector<std::string> files_below(const fs::path &folder) {
     std::vector<std::string> files;
     if (fs::exists(folder)) {
-        for (const auto &entry : fs::recursive_directory_iterator(folder)) {
-            if (entry.is_regular_file()) {
+        for (const auto &entry : fs::recursive_directory_iterator(folder))
+            if (entry.is_regular_file())
                 files.push_back(fs::relative(entry.path(), folder).string());
-            }
-        }
     }
     std::sort(files.begin(), files.end());
     return files;
@@ -96,15 +87,12 @@ std::vector<std::string> files_below(const fs::path &folder) {
 
 std::string difference(const fs::path &golden, const fs::path &output) {
     const bool both = fs::exists(golden) && fs::exists(output);
-    if (both && read_text(golden) == read_text(output)) {
-        return "";
-    }
+    if (both && read_text(golden) == read_text(output)) return "";
     const Scratch scratch;
     const fs::path told = scratch.path() / "difference";
     const std::string command = "diff -uN " + quoted(golden.string()) + " " +
                                 quoted(output.string()) + " >" + quoted(told.string());
-    if (exit_status(std::system(command.c_str())) > 1) {
+    if (exit_status(std::system(command.c_str())) > 1)
         return "the files differ, and diff could not run\n" + std::string(kAdvice);
-    }
     return read_text(told) + kAdvice;
 }

@@ -16,11 +16,8 @@ TEST(Golden, SmallCatalogue) {
     ASSERT_EQ(run.status, 0) << run.err;
     const fs::path expected = tests_folder() / "small" / "expected";
     auto files = files_below(expected);
-    for (const auto &file : files_below(scratch.path())) {
-        if (std::find(files.begin(), files.end(), file) == files.end()) {
-            files.push_back(file);
-        }
-    }
+    for (const auto &file : files_below(scratch.path()))
+        if (std::find(files.begin(), files.end(), file) == files.end()) files.push_back(file);
     for (const auto &file : files) {
         const std::string told = difference(expected / file, scratch.path() / file);
         EXPECT_TRUE(told.empty()) << told;
@@ -56,17 +53,12 @@ std::vector<std::string> rewritten(Change change) {
     copy_small(root);
     EXPECT_EQ(generate(root, out).status, 0);
     const auto long_ago = fs::file_time_type::clock::now() - std::chrono::hours(1);
-    for (const auto &file : files_below(out)) {
-        fs::last_write_time(out / file, long_ago);
-    }
+    for (const auto &file : files_below(out)) fs::last_write_time(out / file, long_ago);
     change(root, out);
     EXPECT_EQ(generate(root, out).status, 0);
     std::vector<std::string> files;
-    for (const auto &file : files_below(out)) {
-        if (fs::last_write_time(out / file) != long_ago) {
-            files.push_back(file);
-        }
-    }
+    for (const auto &file : files_below(out))
+        if (fs::last_write_time(out / file) != long_ago) files.push_back(file);
     return files;
 }
 

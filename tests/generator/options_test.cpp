@@ -44,13 +44,11 @@ TEST(Options, KindsAreListedWithTheirTypes) {
     const fs::path small = tests_folder() / "small";
     std::multiset<std::string> expected;
     std::string kind;
-    for (const auto &line : lines_of(read_text(small / "catalogue/kinds.txt"))) {
-        if (line[0] == '[') {
+    for (const auto &line : lines_of(read_text(small / "catalogue/kinds.txt")))
+        if (line[0] == '[')
             kind = line.substr(1, line.find_first_of(" ]") - 1);
-        } else if (line[0] != '#') {
+        else if (line[0] != '#')
             expected.insert(kind + "\t" + line);
-        }
-    }
     const Outcome run = run_generator({"--root", small.string(), "--list-kinds"});
     EXPECT_EQ(run.status, 0);
     const auto lines = lines_of(run.out);

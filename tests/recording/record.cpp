@@ -51,9 +51,7 @@ std::array<unsigned char, kRoom> room;
 std::size_t used = 0;
 
 unsigned char *keep(const void *source, std::size_t size) {
-    if (size > kRoom - used) {
-        throw std::length_error("the recording has no room for an argument");
-    }
+    if (size > kRoom - used) throw std::length_error("the recording has no room for an argument");
     unsigned char *const place = room.data() + used;
     std::memcpy(place, source, size);
     used += size;
@@ -73,11 +71,10 @@ void note(const char *name, std::initializer_list<Given> arguments) {
         noted->size = static_cast<std::uint32_t>(argument.size);
         noted->value = argument.value;
         noted->bytes = nullptr;
-        if (argument.what == RECORDING_OBJECT) {
+        if (argument.what == RECORDING_OBJECT)
             noted->bytes = static_cast<const unsigned char *>(source);
-        } else if (source != nullptr) {
+        else if (source != nullptr)
             noted->bytes = keep(source, argument.size);
-        }
         ++noted;
     }
 }
@@ -86,17 +83,14 @@ void fill(std::initializer_list<Given> arguments) {
     std::size_t index = 0;
     for (const Given &argument : arguments) {
         const std::string bytes = std::exchange(answers().fills[index++], {});
-        if (!bytes.empty() && argument.value != 0 && argument.what != RECORDING_NUMBER) {
+        if (!bytes.empty() && argument.value != 0 && argument.what != RECORDING_NUMBER)
             std::memcpy(reinterpret_cast<void *>(argument.value), bytes.data(), bytes.size());
-        }
     }
 }
 
 void call_back(std::initializer_list<Given> arguments) {
     const Callback callback = answers().callback;
-    if (callback.count == 0 || callback.index + 1 >= arguments.size()) {
-        return;
-    }
+    if (callback.count == 0 || callback.index + 1 >= arguments.size()) return;
     const Given *given = arguments.begin();
     const auto function =
         reinterpret_cast<int (*)(int, const void *, void *)>(given[callback.index].value);
@@ -104,9 +98,8 @@ void call_back(std::initializer_list<Given> arguments) {
         const int status =
             function(static_cast<int>(given[0].value), callback.entries + i * callback.stride,
                      reinterpret_cast<void *>(given[callback.index + 1].value));
-        if (status != 0) {
+        if (status != 0)
             throw std::runtime_error("the callback returned " + std::to_string(status));
-        }
     }
 }
 
@@ -137,9 +130,7 @@ class SilentAccess : public MdioHamImpl::HamImpl {
 // A new object, held here as well, or null.
 template <typename Pointer, typename Made>
 Pointer hand_out(std::uint64_t bits, Made make) {
-    if (bits == 0) {
-        return nullptr;
-    }
+    if (bits == 0) return nullptr;
     const Pointer object = Pointer::adopt(make());
     held() = object;
     return object;
@@ -149,9 +140,7 @@ Pointer hand_out(std::uint64_t bits, Made make) {
 
 Given given(const MdioHamImpl::HamImpl::Ptr &argument) {
     static std::string name;
-    if (!argument) {
-        return {RECORDING_OBJECT, 0, 0, nullptr};
-    }
+    if (!argument) return {RECORDING_OBJECT, 0, 0, nullptr};
     const std::size_t references = argument->references();
     name = argument->name().string().stdString();
     held() = argument;

@@ -22,12 +22,8 @@ void report_stations(bcm_l2_addr_callback_t callback, int threads, int count, vo
         }
     };
     std::vector<std::thread> running;
-    for (int i = 0; i < threads; ++i) {
-        running.emplace_back(report, i);
-    }
-    for (auto &thread : running) {
-        thread.join();
-    }
+    for (int i = 0; i < threads; ++i) running.emplace_back(report, i);
+    for (auto &thread : running) thread.join();
 }
 
 }  // extern "C"

@@ -10,9 +10,9 @@
 #include "helper/platform.h"
 #include "sdk/constants.h"
 #include "sdk/soc/init.h"
+#include "standin/base/config_store.h"
 #include "standin/chapters/hooks.h"
 #include "standin/model/port_set.h"
-#include "standin/base/config_store.h"
 
 namespace standin {
 

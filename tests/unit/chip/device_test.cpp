@@ -78,9 +78,8 @@ struct Step {
 };
 
 void run(const std::vector<Step> &steps) {
-    for (std::size_t i = 0; i < steps.size(); ++i) {
+    for (std::size_t i = 0; i < steps.size(); ++i)
         EXPECT_EQ(steps[i].call(), steps[i].answer) << "step " << i << ": " << steps[i].what;
-    }
 }
 
 TEST_F(Devices, EveryOrderOfStartHasItsStatus) {

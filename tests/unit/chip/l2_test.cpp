@@ -5,8 +5,8 @@
 #include "chip_fixture.h"
 #include "sdk/bcm/l2.h"
 #include "sdk/bcm/port.h"
-#include "standin/model/l2_chapter.h"
 #include "standin/chapters/l2_select.h"
+#include "standin/model/l2_chapter.h"
 
 namespace standin {
 namespace {

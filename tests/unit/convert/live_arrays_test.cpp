@@ -46,12 +46,8 @@ TEST(LiveArrays, NotedAgain) {
 
 TEST(LiveArrays, Many) {
     std::vector<char> addresses(1000);
-    for (std::size_t i = 0; i < addresses.size(); ++i) {
-        ASSERT_TRUE(note_array(&addresses[i], i));
-    }
-    for (std::size_t i = 0; i < addresses.size(); i += 2) {
-        ASSERT_TRUE(forget_array(&addresses[i]));
-    }
+    for (std::size_t i = 0; i < addresses.size(); ++i) ASSERT_TRUE(note_array(&addresses[i], i));
+    for (std::size_t i = 0; i < addresses.size(); i += 2) ASSERT_TRUE(forget_array(&addresses[i]));
     for (std::size_t i = 0; i < addresses.size(); ++i) {
         const std::size_t *length = array_length(&addresses[i]);
         ASSERT_EQ(length != nullptr, i % 2 == 1);

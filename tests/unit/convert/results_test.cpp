@@ -39,9 +39,7 @@ class LongText {
             ready_ = mmap(text_ + at, kBlock, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_FIXED, file,
                           0) != MAP_FAILED;
         }
-        if (ready_) {
-            text_[length] = '\0';
-        }
+        if (ready_) text_[length] = '\0';
         close(file);
     }
     ~LongText() { munmap(text_, size_); }
@@ -61,9 +59,7 @@ class LongText {
 // From 2^31 bytes on a text is no `str` but a pointer object to the native characters.
 TEST_F(ResultsTest, TextOfTwoGigabytes) {
     const LongText text(std::size_t{1} << 31U);
-    if (text.text() == nullptr) {
-        GTEST_SKIP() << "no address space for a text of two gigabytes";
-    }
+    if (text.text() == nullptr) GTEST_SKIP() << "no address space for a text of two gigabytes";
     const PyRef result(ombra::text_result(text.text()));
     ASSERT_NE(result, nullptr);
     ASSERT_TRUE(SwigPyObject_Test(result.get()));

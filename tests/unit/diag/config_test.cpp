@@ -24,9 +24,8 @@ class ConfigStore : public ::testing::Test {
 
     std::string text_of_store() {
         std::string text;
-        for (const ConfigEntry &entry : config_entries()) {
+        for (const ConfigEntry &entry : config_entries())
             text += format_config_line(entry.name, entry.value);
-        }
         return text;
     }
 
@@ -90,9 +89,8 @@ TEST(ConfigText, EveryValueSurvivesItsLine) {
                                        "=", "\n\n", "\t", "x\ty",  "\xff", "\x01\x7f", "\\\n"};
     for (int at = 0; at < 300; ++at) {
         std::string value;
-        for (std::uint32_t left = random.below(12); left > 0; --left) {
+        for (std::uint32_t left = random.below(12); left > 0; --left)
             value += static_cast<char>(1 + random.below(255));
-        }
         values.push_back(value);
     }
     for (const std::string &value : values) {
@@ -192,9 +190,8 @@ TEST_F(ConfigStore, ChipPropertiesAreAdded) {
 }
 
 TEST_F(ConfigStore, SavesByPatternAndAppends) {
-    for (const char *name : {"port_speed.0", "port_speed.1", "l2_size", "zeta"}) {
+    for (const char *name : {"port_speed.0", "port_speed.1", "l2_size", "zeta"})
         config_set(name, "1");
-    }
     std::string file = directory_.file("saved");
     ASSERT_EQ(sal_config_save(Text(file), Text("port_*"), 0), BCM_E_NONE);
     EXPECT_EQ(content(file), "port_speed.0=1\nport_speed.1=1\n");

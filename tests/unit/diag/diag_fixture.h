@@ -61,9 +61,8 @@ class Room {
   public:
     explicit Room(std::size_t size) : bytes_(size + kGuard, kMark), size_(size) {}
     ~Room() {
-        for (std::size_t at = size_; at < bytes_.size(); ++at) {
+        for (std::size_t at = size_; at < bytes_.size(); ++at)
             EXPECT_EQ(bytes_[at], kMark) << "byte " << at << " behind the buffer";
-        }
     }
     Room(const Room &) = delete;
     Room &operator=(const Room &) = delete;

@@ -47,9 +47,8 @@ TEST(FieldText, NamesInAnyCaseAndAliases) {
 }
 
 TEST(FieldText, WhatIsNoNameGivesTheCount) {
-    for (const char *text : {"", "frog", "Count", "bcmFieldQualify", "SrcIp,DstIp"}) {
+    for (const char *text : {"", "frog", "Count", "bcmFieldQualify", "SrcIp,DstIp"})
         EXPECT_EQ(parse_field_qualifier(Text(text)), bcmFieldQualifyCount) << text;
-    }
     EXPECT_EQ(parse_field_qualifier(nullptr), bcmFieldQualifyCount);
     EXPECT_EQ(parse_field_action(nullptr), bcmFieldActionCount);
     EXPECT_EQ(parse_field_group_mode(nullptr), bcmFieldGroupModeCount);
@@ -85,9 +84,8 @@ TEST(FieldText, QualifierSetsOnTheirOwnTerms) {
     format_field_qset(room.data(), qset, nullptr);
     EXPECT_EQ(room.text(), "SrcIp, DstIp");
     bcm_field_qset_t before = qset;
-    for (const char *text : {"", " , ", "SrcIp frog", "961", "-1,frog"}) {
+    for (const char *text : {"", " , ", "SrcIp frog", "961", "-1,frog"})
         EXPECT_EQ(parse_field_qset(Text(text), &qset), BCM_E_PARAM) << text;
-    }
     EXPECT_EQ(parse_field_qset(nullptr, &qset), BCM_E_PARAM);
     EXPECT_EQ(parse_field_qset(Text("SrcIp"), nullptr), BCM_E_PARAM);
     for (std::size_t at = 0; at < std::size(qset.w); ++at) EXPECT_EQ(qset.w[at], before.w[at]);

@@ -46,11 +46,9 @@ TEST_F(LogTest, WritesOriginAndText) {
 TEST_F(LogTest, LevelsDecideByPair) {
     KorvelSetTraceLevel(kLayerBcm, kSourceL2, kSeverityDebug);
     KorvelSetTraceLevel(kLayerBcm, kSourceVlan, kSeverityOff);
-    for (int source : {int{kSourceL2}, int{kSourceVlan}, int{kSourceStg}}) {
-        for (int severity : {int{kSeverityFatal}, int{kSeverityDebug}}) {
+    for (int source : {int{kSourceL2}, int{kSourceVlan}, int{kSourceStg}})
+        for (int severity : {int{kSeverityFatal}, int{kSeverityDebug}})
             KorvelWriteBslLogMsg("f", 1, "g", severity, kLayerBcm, source, -1, "m");
-        }
-    }
     EXPECT_EQ(logged(),
               "FATAL bcm.l2 f:1 g(): m\nDEBUG bcm.l2 f:1 g(): m\nFATAL bcm.stg f:1 g(): m\n");
 }
@@ -96,9 +94,8 @@ TEST_F(LogTest, CaptureCollectsBetweenOnAndOff) {
     KorvelWriteBslLogMsg("f", 1, "g", 2, kLayerBcm, kSourceL2, 0, "two");
     captureTrace(false);
     trace("after");
-    for (const char *read : {"first", "again"}) {
+    for (const char *read : {"first", "again"})
         EXPECT_EQ(getTrace().stdString(), "TRACE one\nERROR bcm.l2 u0 f:1 g(): two\n") << read;
-    }
     captureTrace(true);
     EXPECT_EQ(getTrace().stdString(), "");
 }

@@ -7,10 +7,10 @@
 #include "sdk/diag/text.h"
 #include "sdk/soc/reg.h"
 #include "standin/base/output.h"
+#include "standin/phy/mode_text.h"
 #include "standin/text/address_text.h"
 #include "standin/text/block_text.h"
 #include "standin/text/identifier_text.h"
-#include "standin/phy/mode_text.h"
 
 namespace standin {
 namespace {
@@ -66,9 +66,8 @@ TEST(PortText, ListsParseBack) {
         for (int at = 0; at < 100; ++at) {
             PortSet set;
             if (at == 1) set.set();
-            for (std::uint32_t left = at < 2 ? 0 : random.below(40); left > 0; --left) {
+            for (std::uint32_t left = at < 2 ? 0 : random.below(40); left > 0; --left)
                 set.set(random.below(at % 2 == 0 ? 64 : kPortBits));
-            }
             std::string fault;
             std::string text = port_list_text(set, names);
             EXPECT_EQ(read_port_list(text, names, fault), set) << text << ": " << fault;
@@ -105,9 +104,8 @@ TEST(PortText, ParsersSayWhyUnlessAskedNotTo) {
     soc_pbmp_t pbmp{};
     pbmp.pbits[0] = 0x55;
     Capture capture;
-    for (auto parse : {parse_pbmp, parse_pp_pbmp, parse_bcm_pbmp}) {
+    for (auto parse : {parse_pbmp, parse_pp_pbmp, parse_bcm_pbmp})
         EXPECT_EQ(parse(kNoUnit, Text("1,frog"), &pbmp), BCM_E_PARAM);
-    }
     EXPECT_EQ(capture.text(), "'frog' is no port\n'frog' is no port\n'frog' is no port\n");
     EXPECT_EQ(parse_pbmp_no_error(kNoUnit, Text("frog"), &pbmp), BCM_E_PARAM);
     EXPECT_EQ(parse_small_integers(kNoUnit, Text("xe1"), &pbmp), BCM_E_PARAM);
@@ -127,9 +125,8 @@ TEST(PortText, SinglePorts) {
     EXPECT_EQ(parse_mod_port(kNoUnit, Text("3:17"), &place), BCM_E_NONE);
     EXPECT_EQ(place.mod, 3);
     EXPECT_EQ(place.port, 17);
-    for (const char *text : {"", ":", "3:", ":4", "x:1", "1:2:3"}) {
+    for (const char *text : {"", ":", "3:", ":4", "x:1", "1:2:3"})
         EXPECT_EQ(parse_mod_port(kNoUnit, Text(text), &place), BCM_E_PARAM) << text;
-    }
 }
 
 TEST(PortText, ModulePortsParseBack) {
@@ -161,9 +158,8 @@ TEST(AddressText, GlobalPortsParseBack) {
     EXPECT_EQ(gport_text(0xc000007), "trunk.7");
     EXPECT_EQ(gport_text(0x10000000), "blackhole");
     EXPECT_EQ(gport_text(0x6c00012c), "sysport.300");
-    for (const char *text : {"local.", "local.2048", "trunk.x", "local", "", "sysport.16777216"}) {
+    for (const char *text : {"local.", "local.2048", "trunk.x", "local", "", "sysport.16777216"})
         EXPECT_FALSE(read_gport(text, kNames)) << text;
-    }
 }
 
 TEST(AddressText, IpAddressesParseBack) {
@@ -220,12 +216,10 @@ TEST(AddressText, Ranges) {
     }
     int low = 77;
     int high = 77;
-    for (const char *text : {"", "10", "7-3", "-3", "1-", "a-b", "1-2-3"}) {
+    for (const char *text : {"", "10", "7-3", "-3", "1-", "a-b", "1-2-3"})
         EXPECT_EQ(parse_num_range(0, Text(text), &low, &high, -2, 9), BCM_E_PARAM) << text;
-    }
-    for (const char *text : {"all", "min", "max", "5"}) {
+    for (const char *text : {"all", "min", "max", "5"})
         EXPECT_EQ(parse_num_range(0, Text(text), &low, &high, 9, 3), BCM_E_PARAM) << text;
-    }
     EXPECT_EQ(parse_num_range(0, nullptr, &low, &high, 0, 1), BCM_E_PARAM);
     EXPECT_EQ(low, 77);
     EXPECT_EQ(diag_parse_range(Text("2"), Text("max"), &low, &high, 0, 9), BCM_E_NONE);
@@ -251,9 +245,8 @@ TEST(BlockText, Ranges) {
         EXPECT_EQ(range->copies.low, one.low);
         EXPECT_EQ(range->copies.high, one.high);
     }
-    for (const char *text : {"", "XYZ", "IHP0-IHB1", "IHP16", "IHP-3", "IHP1-", "1-0"}) {
+    for (const char *text : {"", "XYZ", "IHP0-IHB1", "IHP16", "IHP-3", "IHP1-", "1-0"})
         EXPECT_FALSE(read_block_range(text)) << text;
-    }
     int type = read_block_range("IHP")->type;
     const soc_block_type_t others[] = {type + 1, -1};
     const soc_block_type_t with_it[] = {type + 1, type, -1};
@@ -328,9 +321,8 @@ TEST(IdentifierText, Registers) {
     EXPECT_EQ(parse_cmic_regname(0, Text("cmic_config"), &offset), BCM_E_NONE);
     EXPECT_EQ(offset, 8u);
     EXPECT_EQ(parse_cmic_regname(0, Text("0x100"), &offset), BCM_E_NONE);
-    for (const char *text : {"", "CMIC_NO_SUCH", "0x101", "0x40000"}) {
+    for (const char *text : {"", "CMIC_NO_SUCH", "0x101", "0x40000"})
         EXPECT_EQ(parse_cmic_regname(0, Text(text), &offset), BCM_E_PARAM) << text;
-    }
     soc_regaddrlist_t list{};
     EXPECT_EQ(parse_symbolic_reference(0, nullptr, Text("ECI_GLOBALF")), BCM_E_PARAM);
     EXPECT_EQ(parse_symbolic_reference(0, &list, Text("ECI_GLOBALF")), BCM_E_PARAM);

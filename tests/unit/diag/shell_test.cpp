@@ -12,9 +12,9 @@
 #include "sdk/diag/text.h"
 #include "sdk/soc/init.h"
 #include "sdk/variables.h"
-#include "standin/chapters/hooks.h"
 #include "standin/base/config_store.h"
 #include "standin/base/output.h"
+#include "standin/chapters/hooks.h"
 #include "standin/shell/interactive.h"
 #include "standin/shell/interrupt.h"
 #include "standin/text/unit_ports.h"
@@ -36,9 +36,8 @@ class ShellTest : public ::testing::Test {
     }
     void TearDown() override {
         settings({0, 0, 0, 0, 0, 0, 0});
-        while (!Shell::instance().variables().empty()) {
+        while (!Shell::instance().variables().empty())
             Shell::instance().variable_remove(Shell::instance().variables().begin()->first);
-        }
         Shell::instance().start_files.clear();
         Shell::instance().watching.clear();
         config_clear();
@@ -64,11 +63,10 @@ std::string replay(const std::string &session) {
         std::size_t end = session.find('\n', at);
         std::string line = session.substr(at, end - at);
         at = end == std::string::npos ? session.size() : end + 1;
-        if (line.starts_with("$ ")) {
+        if (line.starts_with("$ "))
             went += line + '\n' + sdc(0, Text(line.substr(2))).stdString();
-        } else if (line.starts_with("# ")) {
+        else if (line.starts_with("# "))
             went += line + '\n';
-        }
     }
     return went;
 }

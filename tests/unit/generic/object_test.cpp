@@ -76,9 +76,8 @@ TEST_F(Object, TheTableCanBeFull) {
 
 TEST_F(Object, NumbersOfOneByteRunOut) {
     uint8 id = 0;
-    for (int i = 0; i < 255; ++i) {
+    for (int i = 0; i < 255; ++i)
         ASSERT_EQ(bcm_oam_opcodes_count_profile_create(0, &id), BCM_E_NONE) << i;
-    }
     EXPECT_EQ(bcm_oam_opcodes_count_profile_create(0, &id), BCM_E_FULL);
     EXPECT_EQ(bcm_oam_opcodes_count_profile_delete(0, 100), BCM_E_NONE);
     EXPECT_EQ(bcm_oam_opcodes_count_profile_create(0, &id), BCM_E_NONE);

@@ -49,9 +49,8 @@ TEST_F(Plain, ThreadsMayCallAtOnce) {
     std::vector<std::thread> threads;
     for (int port = 0; port < 4; ++port) {
         threads.emplace_back([port] {
-            for (int queue = 0; queue < 200; ++queue) {
+            for (int queue = 0; queue < 200; ++queue)
                 bcm_cosq_control_set(0, port, queue, bcm_cosq_control_t{1}, port * 1000 + queue);
-            }
         });
     }
     for (auto &thread : threads) thread.join();

@@ -45,9 +45,8 @@ TEST(Layout, EveryIdentifierHasItsRowAndEveryFieldAPlace) {
     std::set<int> used;
     for (const auto &layout : all_registers()) collect_fields(layout, used);
     for (const auto &layout : all_memories()) collect_fields(layout, used);
-    for (const auto &field : identifiers(Identifier::kField)) {
+    for (const auto &field : identifiers(Identifier::kField))
         EXPECT_TRUE(used.contains(field.id)) << field.name;
-    }
     EXPECT_EQ(used.size(), identifiers(Identifier::kField).size());
 }
 

@@ -36,9 +36,8 @@ TEST_F(MemoriesTest, EachKeepsTheBitsOfItsFirstAndLastEntry) {
         ASSERT_EQ(soc_mem_array_write(0, layout.id, array, kEvery, last, ones.data()), BCM_E_NONE)
             << layout.name;
         const Entry got = read(layout.id, kEvery, last, array);
-        for (unsigned word = 0; word < layout.words(); ++word) {
+        for (unsigned word = 0; word < layout.words(); ++word)
             EXPECT_EQ(got[word], layout.mask(word)) << layout.name;
-        }
         EXPECT_EQ(read(layout.id, kEvery, 0, array)[0], 0u) << layout.name;
         Entry beyond{};
         for (const int index : {-1, layout.entries}) {

@@ -382,11 +382,10 @@ TEST_F(ShadowTest, AFakeDeviceGoesUpAndDownInEveryOrder) {
         for (const int step : order) {
             steps[step](unit);
             const int status = soc_reg32_set(unit, kReg, 0, 0, ++value);
-            if (status == BCM_E_NONE) {
+            if (status == BCM_E_NONE)
                 EXPECT_EQ(get32(kReg), value);
-            } else {
+            else
                 EXPECT_EQ(status, BCM_E_INIT);
-            }
         }
         mapOmbraDevice(unit);
         teardownShadowForHwInit(0);

@@ -100,9 +100,7 @@ std::string printed(PyObject *object) {
 TEST_F(ModuleEntryTest, PackedObjectsShowUpTo511Bytes) {
     const std::string bytes(512, '\x5a');
     std::string digits;
-    for (int count = 0; count < 511; ++count) {
-        digits += "5a";
-    }
+    for (int count = 0; count < 511; ++count) digits += "5a";
     swig_type_info *type = tiny::type(tiny::shape);
     const PyRef longest(SwigPyPacked_New(bytes.data(), 511, type));
     EXPECT_EQ(tiny::repr(longest.get()), "<Swig Packed at _" + digits + "_p_Shape>");
@@ -157,9 +155,7 @@ TEST_F(ModuleEntryTest, DocstringsOfCallbacksGetTheAddress) {
         SWIG_Python_PatchDocstrings(methods, rows, swig_type_seeds, swig_type_slots);
         EXPECT_STREQ(methods[1].ml_doc, entry.after);
         EXPECT_EQ(methods[0].ml_doc, nullptr);
-        if (methods[1].ml_doc != entry.before) {
-            std::free(const_cast<char *>(methods[1].ml_doc));
-        }
+        if (methods[1].ml_doc != entry.before) std::free(const_cast<char *>(methods[1].ml_doc));
     }
 }
 

@@ -14,9 +14,8 @@ swig_type_info seed(const char *name) { return {name, nullptr, nullptr, nullptr,
 
 std::string sources(const swig_type_info *type) {
     std::string names;
-    for (const swig_cast_link *link = type->casts; link != nullptr; link = link->next) {
+    for (const swig_cast_link *link = type->casts; link != nullptr; link = link->next)
         names += std::string(names.empty() ? "" : " ") + link->type->name;
-    }
     return names;
 }
 

@@ -66,9 +66,7 @@ TEST_F(PointerConversionTest, LongChainsDieWithoutNesting) {
     PyRef last = make(memory_.data() + 1, tiny::integer);
     SwigPyObject *link = raw(head);
     const Py_ssize_t before = Py_REFCNT(last.get());
-    while (link->next != nullptr) {
-        link = ombra::as_pointer_object(link->next);
-    }
+    while (link->next != nullptr) link = ombra::as_pointer_object(link->next);
     link->next = ombra::new_ref(last.get()).release();
     void *out = nullptr;
     EXPECT_EQ(SWIG_Python_ConvertPtrAndOwn(head.get(), &out, tiny::type(tiny::integer), 0),

@@ -25,9 +25,8 @@ TEST_F(SmallPartsTest, ErrorTypes) {
         {-13, PyExc_RuntimeError},   {0, PyExc_RuntimeError},     {INT_MIN, PyExc_RuntimeError},
         {0x200, PyExc_RuntimeError},
     };
-    for (const auto &entry : cases) {
+    for (const auto &entry : cases)
         EXPECT_EQ(SWIG_Python_ErrorType(entry.status), entry.expected) << entry.status;
-    }
 }
 
 // Each line: what stands there, what is appended, what comes out; "!" is a null reference.
@@ -74,9 +73,8 @@ TEST_F(SmallPartsTest, HexTextGoesBothWays) {
     unsigned char read[sizeof bytes] = {};
     EXPECT_EQ(SWIG_UnpackData(text, read, sizeof read), text + 8);
     EXPECT_EQ(std::memcmp(bytes, read, sizeof read), 0);
-    for (const char *bad : {"", "0", "001", "001ff1a", "001FF1AB", "001ff1ag", " 01ff1ab"}) {
+    for (const char *bad : {"", "0", "001", "001ff1a", "001FF1AB", "001ff1ag", " 01ff1ab"})
         EXPECT_EQ(SWIG_UnpackData(bad, read, sizeof read), nullptr) << bad;
-    }
 }
 
 TEST(AssertionsDeathTest, PrintConditionAndFunctionInEveryBuild) {

@@ -34,9 +34,7 @@ long level = 3;
 PyObject *get_level() { return PyInt_FromLong(level); }
 int set_level(PyObject *value) {
     const long number = PyInt_AsLong(value);
-    if (number == -1 && PyErr_Occurred() != nullptr) {
-        return 1;
-    }
+    if (number == -1 && PyErr_Occurred() != nullptr) return 1;
     level = number;
     return 0;
 }

@@ -64,19 +64,14 @@ TEST_F(TypeTableTest, CheckRunsOneWay) {
 // Tables of every small size, each name searched in each, and names between all neighbours.
 TEST_F(TypeTableTest, BinarySearchFindsAllAndNothingElse) {
     std::vector<std::string> names;
-    for (char letter = 'b'; letter <= 'j'; ++letter) {
-        names.push_back(std::string("_p_") + letter);
-    }
+    for (char letter = 'b'; letter <= 'j'; ++letter) names.push_back(std::string("_p_") + letter);
     std::vector<swig_type_info> types;
     types.reserve(names.size());
-    for (const std::string &name : names) {
+    for (const std::string &name : names)
         types.push_back({name.c_str(), nullptr, nullptr, nullptr, nullptr, 0});
-    }
     std::vector<swig_type_info *> slots;
     slots.reserve(types.size());
-    for (swig_type_info &type : types) {
-        slots.push_back(&type);
-    }
+    for (swig_type_info &type : types) slots.push_back(&type);
     for (std::size_t size = 0; size <= types.size(); ++size) {
         swig_module_table table{slots.data(), size, nullptr, nullptr, nullptr, nullptr};
         table.next = &table;
@@ -117,9 +112,8 @@ TEST_F(TypeTableTest, QueryTakesMangledNamesAndSpellings) {
         {"int *|", nullptr},
         {"", nullptr},
     };
-    for (const auto &entry : cases) {
+    for (const auto &entry : cases)
         EXPECT_EQ(SWIG_Python_TypeQuery(entry.key), entry.expected) << entry.key;
-    }
     EXPECT_EQ(SWIG_pchar_descriptor(), tiny::type(tiny::character));
     EXPECT_EQ(SWIG_pchar_descriptor(), tiny::type(tiny::character));
 }
