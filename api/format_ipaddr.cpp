@@ -38,7 +38,7 @@ class AddressText {
 namespace rows {
 
 PyObject *format_ipaddr(const CallRow &row, PyObject *args) {
-    return call_with<AddressText, Value<sizeof(ip_addr_t), alignof(ip_addr_t)>>(
+    return call_with<AddressText, ByValue<sizeof(ip_addr_t), alignof(ip_addr_t)>>(
         row, args, [](char *text, Blob<sizeof(ip_addr_t), alignof(ip_addr_t)> bytes) {
             ip_addr_t address = 0;
             std::memcpy(&address, &bytes, sizeof address);

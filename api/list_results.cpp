@@ -82,7 +82,7 @@ class InOutTrunk {
 
   private:
     void *address_ = nullptr;
-    Int32 number_;
+    Signed32 number_;
     bcm_trunk_t value_ = 0;
     bool kept_ = false;
 };
@@ -92,7 +92,7 @@ class InOutTrunk {
 namespace rows {
 
 PyObject *bcm_trunk_create(const CallRow &row, PyObject *args) {
-    return call_with<Int32, UInt32, InOutTrunk>(
+    return call_with<Signed32, Unsigned32, InOutTrunk>(
         row, args, [](int unit, unsigned int flags, InOutTrunk *trunk) {
             const int status = ::bcm_trunk_create(unit, flags, trunk->address());
             return SWIG_Python_AppendOutput(PyInt_FromLong(status), trunk->output());
@@ -100,7 +100,7 @@ PyObject *bcm_trunk_create(const CallRow &row, PyObject *args) {
 }
 
 PyObject *bcm_l2_addr_get(const CallRow &row, PyObject *args) {
-    return call_with<Int32, MacText, CutVlan>(
+    return call_with<Signed32, MacString, CutVlan>(
         row, args, [](int unit, uint8 *mac, bcm_vlan_t vid) -> PyObject * {
             Filled<bcm_l2_addr_t> entry;
             if (entry.get() == nullptr) return PyErr_NoMemory();
@@ -113,7 +113,7 @@ PyObject *bcm_l2_addr_get(const CallRow &row, PyObject *args) {
 PyObject *bcm_port_config_get(const CallRow &row, PyObject *args) {
     Filled<bcm_port_config_t> config;
     if (config.get() == nullptr) return PyErr_NoMemory();
-    return call_with<Int32>(row, args, [&](int unit) {
+    return call_with<Signed32>(row, args, [&](int unit) {
         const int status = ::bcm_port_config_get(unit, config.get());
         return config.result(status, slots::_p_bcm_port_config_s);
     });

@@ -120,16 +120,16 @@ PyObject *set_value(const FieldRow &row, PyObject *args) {
     template PyObject *get_value<Kind>(const FieldRow &, PyObject *); \
     template PyObject *set_value<Kind>(const FieldRow &, PyObject *)
 
-OMBRA_FIELD_KIND(Int8);
-OMBRA_FIELD_KIND(Int16);
-OMBRA_FIELD_KIND(Int32);
-OMBRA_FIELD_KIND(UInt8);
-OMBRA_FIELD_KIND(UInt16);
-OMBRA_FIELD_KIND(UInt32);
-OMBRA_FIELD_KIND(UInt64);
+OMBRA_FIELD_KIND(Signed8);
+OMBRA_FIELD_KIND(Signed16);
+OMBRA_FIELD_KIND(Signed32);
+OMBRA_FIELD_KIND(Unsigned8);
+OMBRA_FIELD_KIND(Unsigned16);
+OMBRA_FIELD_KIND(Unsigned32);
+OMBRA_FIELD_KIND(Unsigned64);
 OMBRA_FIELD_KIND(Address32);
 OMBRA_FIELD_KIND(StrictBool);
-OMBRA_FIELD_KIND(PortList);
+OMBRA_FIELD_KIND(PortBitmap);
 template PyObject *set_value<FunctionPointer>(const FieldRow &, PyObject *);
 
 #undef OMBRA_FIELD_KIND
@@ -196,13 +196,13 @@ PyObject *set_pointer(const FieldRow &row, PyObject *args) {
 PyObject *get_mac(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
     if (!read_self(row, args, self)) return nullptr;
-    return MacText::result(static_cast<const uint8 *>(field_address(row, self)), row.call);
+    return MacString::result(static_cast<const uint8 *>(field_address(row, self)), row.call);
 }
 
 PyObject *set_mac(const FieldRow &row, PyObject *args) {
     void *self = nullptr;
     PyObject *object = nullptr;
-    MacText value;
+    MacString value;
     if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField) ||
         !require_self(row, self)) {
         return nullptr;

@@ -65,7 +65,7 @@ inline PyObject *recast(const CallRow &row, PyObject *args) {
 template <typename Kind>
 PyObject *new_array(const CallRow &row, PyObject *args) {
     using Element = typename Kind::Native;
-    return call_with<Int32>(row, args, [&](int count) -> PyObject * {
+    return call_with<Signed32>(row, args, [&](int count) -> PyObject * {
         if (count < 0) {
             refuse_with(PyExc_ValueError, "the element count is negative");
             return nullptr;
@@ -114,7 +114,7 @@ inline void *element_address(const CallRow &row, void *array, int index, std::si
 
 template <typename Kind>
 PyObject *get_item(const CallRow &row, PyObject *args) {
-    return call_with<Pointer, Int32>(row, args, [&](void *array, int index) -> PyObject * {
+    return call_with<Pointer, Signed32>(row, args, [&](void *array, int index) -> PyObject * {
         typename Kind::Native value;
         const void *element = element_address(row, array, index, sizeof value);
         if (element == nullptr) return nullptr;
@@ -125,7 +125,7 @@ PyObject *get_item(const CallRow &row, PyObject *args) {
 
 template <typename Kind>
 PyObject *set_item(const CallRow &row, PyObject *args) {
-    return call_with<Pointer, Int32, Kind>(
+    return call_with<Pointer, Signed32, Kind>(
         row, args, [&](void *array, int index, typename Kind::Native value) -> PyObject * {
             void *element = element_address(row, array, index, sizeof value);
             if (element == nullptr) return nullptr;

@@ -80,15 +80,15 @@ class UnsignedKind {
     unsigned long value_;
 };
 
-using Int8 = SignedKind<signed char>;
-using Int16 = SignedKind<short>;
-using Int32 = SignedKind<int>;
-using UInt8 = UnsignedKind<unsigned char>;
-using UInt16 = UnsignedKind<unsigned short>;
-using UInt32 = UnsignedKind<unsigned int>;
+using Signed8 = SignedKind<signed char>;
+using Signed16 = SignedKind<short>;
+using Signed32 = SignedKind<int>;
+using Unsigned8 = UnsignedKind<unsigned char>;
+using Unsigned16 = UnsignedKind<unsigned short>;
+using Unsigned32 = UnsignedKind<unsigned int>;
 
 // `unsigned long`: the reader's own range.
-class ULong {
+class UnsignedLong {
   public:
     using Native = unsigned long;
 
@@ -104,7 +104,7 @@ class ULong {
 };
 
 // 64 bits unsigned. A result is an `int` as long as it fits one, else a `long`.
-class UInt64 {
+class Unsigned64 {
   public:
     using Native = uint64;
 
@@ -126,7 +126,7 @@ class UInt64 {
 };
 
 // A 32-bit address that is read like a 64-bit number: the upper half is dropped without an error.
-class Address32 : public UInt64 {
+class Address32 : public Unsigned64 {
   public:
     using Native = unsigned int;
 
@@ -254,11 +254,11 @@ struct alignas(Align) Blob {
 // A value copied out of a pointer object and passed by value. A result is a new heap copy, owned by
 // its pointer object.
 template <std::size_t Size, std::size_t Align>
-class Value {
+class ByValue {
   public:
     using Native = Blob<Size, Align>;
 
-    Value() {}  // not zeroed: a read fills it whole, or the call does not happen
+    ByValue() {}  // not zeroed: a read fills it whole, or the call does not happen
 
     bool read(PyObject *object, const CallRow &row, unsigned index) {
         void *source = nullptr;
@@ -281,7 +281,7 @@ class Value {
 };
 
 // A MAC text. The native function gets a local of the frame; what it writes there is dropped.
-class MacText {
+class MacString {
   public:
     using Native = uint8 *;
 
@@ -302,11 +302,11 @@ class MacText {
 };
 
 // A port list, passed as 18 words by value.
-class PortList {
+class PortBitmap {
   public:
     using Native = bcm_pbmp_t;
 
-    PortList() {}  // not zeroed: a read does that
+    PortBitmap() {}  // not zeroed: a read does that
 
     bool read(PyObject *object, const CallRow &, unsigned) {
         pbmp_ = {};
@@ -340,7 +340,7 @@ class Object {
 };
 
 // Result of a native function that returns nothing.
-struct Void {
+struct Nothing {
     using Native = void;
 };
 

@@ -36,9 +36,9 @@ swig_type_info *result_type(const FindChipMemoryRows &rows) {
 }
 
 PyObject *by_address(const FindChipMemoryRows &rows, PyObject *args) {
-    using Address = Value<sizeof(Hardware::ChipAddress), alignof(Hardware::ChipAddress)>;
-    using Size = Value<sizeof(U32), alignof(U32)>;
-    return call_with<Int32, Int32, Address, Size>(
+    using Address = ByValue<sizeof(Hardware::ChipAddress), alignof(Hardware::ChipAddress)>;
+    using Size = ByValue<sizeof(U32), alignof(U32)>;
+    return call_with<Signed32, Signed32, Address, Size>(
         rows.by_address, args, [&rows](int unit, int mem, const auto &sca, const auto &size) {
             return counted_result(
                 TesselApi::findChipMemory(unit, mem, std::bit_cast<Hardware::ChipAddress>(sca),
@@ -48,9 +48,10 @@ PyObject *by_address(const FindChipMemoryRows &rows, PyObject *args) {
 }
 
 PyObject *by_base(const FindChipMemoryRows &rows, PyObject *args) {
-    return call_with<Int32, Int32, Int32>(rows.by_base, args, [&rows](int unit, int mem, int base) {
-        return counted_result(TesselApi::findChipMemory(unit, mem, base), result_type(rows));
-    });
+    return call_with<Signed32, Signed32, Signed32>(
+        rows.by_base, args, [&rows](int unit, int mem, int base) {
+            return counted_result(TesselApi::findChipMemory(unit, mem, base), result_type(rows));
+        });
 }
 
 }  // namespace

@@ -244,21 +244,21 @@ std::string emit_shapes(const Model &model, unsigned part) {
 std::string kind_class(const Conversion &conversion) {
     switch (conversion.kind) {
         case Kind::signed_8:
-            return "Int8";
+            return "Signed8";
         case Kind::signed_16:
-            return "Int16";
+            return "Signed16";
         case Kind::signed_32:
-            return "Int32";
+            return "Signed32";
         case Kind::unsigned_8:
-            return "UInt8";
+            return "Unsigned8";
         case Kind::unsigned_16:
-            return "UInt16";
+            return "Unsigned16";
         case Kind::unsigned_32:
-            return "UInt32";
+            return "Unsigned32";
         case Kind::unsigned_long:
-            return "ULong";
+            return "UnsignedLong";
         case Kind::unsigned_64:
-            return "UInt64";
+            return "Unsigned64";
         case Kind::address_32:
             return "Address32";
         case Kind::strict_bool:
@@ -270,15 +270,15 @@ std::string kind_class(const Conversion &conversion) {
         case Kind::reference:
             return "Reference";
         case Kind::port_bitmap:
-            return "PortList";
+            return "PortBitmap";
         case Kind::mac_string:
-            return "MacText";
+            return "MacString";
         case Kind::object:
             return "Object";
         case Kind::nothing:
-            return "Void";
+            return "Nothing";
         case Kind::by_value:
-            return "Value<" + std::to_string(conversion.size) + ", " +
+            return "ByValue<" + std::to_string(conversion.size) + ", " +
                    std::to_string(conversion.align) + ">";
         default:
             return "Pointer";

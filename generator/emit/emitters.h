@@ -53,7 +53,7 @@ std::string recording_file(const std::string &header);
 // "standin_sdk_bcm_l2.cpp" for the same.
 std::string standin_file(const std::string &header);
 
-// The kind class of a conversion as the frame's templates name it: "Int32", "Value<160, 4>".
+// The kind class of a conversion as the frame's templates name it: "Signed32", "ByValue<160, 4>".
 std::string kind_class(const Conversion &conversion);
 
 // First lines of a generated file: what it is made of and by what.

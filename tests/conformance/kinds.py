@@ -228,7 +228,7 @@ class ByValue(Reference):
         return None
 
 
-class Mac(Kind):
+class MacString(Kind):
     def valid(self, argument, place):
         forms = [('%02x:bb:CC:0d:1e:ff' % (place + 0xa0),
                   chr(place + 0xa0) + '\xbb\xcc\x0d\x1e\xff'),
@@ -257,7 +257,7 @@ def bitmap(ports):
     return struct.pack('<18I', *words)
 
 
-class PortList(Kind):
+class PortBitmap(Kind):
     def valid(self, argument, place):
         lists = [[place, 31, 32, 500 + place], [], [570, 571, 575], [3, 1, 1],
                  [True], range(576)]
@@ -299,8 +299,8 @@ KINDS.update({'strict-bool': StrictBool(), 'text': Text(),
               'pointer': Pointer(), 'function-pointer': Pointer(),
               'fixed-array': Pointer(), 'pointer-field': Pointer(),
               'reference': Reference(), 'by-value': ByValue(),
-              'nested-struct': ByValue(), 'mac-string': Mac(),
-              'port-bitmap': PortList(), 'object': AnyObject()})
+              'nested-struct': ByValue(), 'mac-string': MacString(),
+              'port-bitmap': PortBitmap(), 'object': AnyObject()})
 
 
 def kind_of(argument):

@@ -16,7 +16,7 @@ static constexpr CallRow row_bcm_stg_init{
     "in method 'bcm_stg_init', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_init(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32)>;
+    using Shape = Call<Signed32(Signed32)>;
     return Shape::run(row_bcm_stg_init, Shape::native(&bcm_stg_init), args);
 }
 
@@ -26,7 +26,7 @@ static constexpr CallRow row_bcm_stg_clear{
     "in method 'bcm_stg_clear', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_clear(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32)>;
+    using Shape = Call<Signed32(Signed32)>;
     return Shape::run(row_bcm_stg_clear, Shape::native(&bcm_stg_clear), args);
 }
 
@@ -37,7 +37,7 @@ static constexpr CallRow row_bcm_stg_create{
     "in method 'bcm_stg_create', argument 2 of type 'bcm_stg_t *'",
     {0, 931, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_create(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Pointer)>;
+    using Shape = Call<Signed32(Signed32, Pointer)>;
     return Shape::run(row_bcm_stg_create, Shape::native(&bcm_stg_create), args);
 }
 
@@ -48,7 +48,7 @@ static constexpr CallRow row_bcm_stg_create_id{
     "in method 'bcm_stg_create_id', argument 2 of type 'bcm_stg_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_create_id(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32)>;
+    using Shape = Call<Signed32(Signed32, Signed32)>;
     return Shape::run(row_bcm_stg_create_id, Shape::native(&bcm_stg_create_id), args);
 }
 
@@ -59,7 +59,7 @@ static constexpr CallRow row_bcm_stg_destroy{
     "in method 'bcm_stg_destroy', argument 2 of type 'bcm_stg_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_destroy(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32)>;
+    using Shape = Call<Signed32(Signed32, Signed32)>;
     return Shape::run(row_bcm_stg_destroy, Shape::native(&bcm_stg_destroy), args);
 }
 
@@ -70,7 +70,7 @@ static constexpr CallRow row_bcm_stg_count_get{
     "in method 'bcm_stg_count_get', argument 2 of type 'int *'",
     {0, 931, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_count_get(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Pointer)>;
+    using Shape = Call<Signed32(Signed32, Pointer)>;
     return Shape::run(row_bcm_stg_count_get, Shape::native(&bcm_stg_count_get), args);
 }
 
@@ -81,7 +81,7 @@ static constexpr CallRow row_bcm_stg_default_set{
     "in method 'bcm_stg_default_set', argument 2 of type 'bcm_stg_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_default_set(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32)>;
+    using Shape = Call<Signed32(Signed32, Signed32)>;
     return Shape::run(row_bcm_stg_default_set, Shape::native(&bcm_stg_default_set), args);
 }
 
@@ -92,7 +92,7 @@ static constexpr CallRow row_bcm_stg_default_get{
     "in method 'bcm_stg_default_get', argument 2 of type 'bcm_stg_t *'",
     {0, 931, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_default_get(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Pointer)>;
+    using Shape = Call<Signed32(Signed32, Pointer)>;
     return Shape::run(row_bcm_stg_default_get, Shape::native(&bcm_stg_default_get), args);
 }
 
@@ -102,7 +102,7 @@ static constexpr CallRow row_bcm_stg_list{
     "in method 'bcm_stg_list', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_list(PyObject *, PyObject *args) {
-    using Shape = Call<Object(Int32)>;
+    using Shape = Call<Object(Signed32)>;
     return Shape::run(row_bcm_stg_list, Shape::native(&ombra::rows::bcm_stg_list), args);
 }
 
@@ -114,7 +114,7 @@ static constexpr CallRow row_bcm_stg_list_destroy{
     "in method 'bcm_stg_list_destroy', argument 3 of type 'int'",
     {0, 931, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_list_destroy(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Pointer, Int32)>;
+    using Shape = Call<Signed32(Signed32, Pointer, Signed32)>;
     return Shape::run(row_bcm_stg_list_destroy, Shape::native(&bcm_stg_list_destroy), args);
 }
 
@@ -127,7 +127,7 @@ static constexpr CallRow row_bcm_stg_stp_set{
     "in method 'bcm_stg_stp_set', argument 4 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_stp_set(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32, Int32, Int32)>;
+    using Shape = Call<Signed32(Signed32, Signed32, Signed32, Signed32)>;
     return Shape::run(row_bcm_stg_stp_set, Shape::native(&bcm_stg_stp_set), args);
 }
 
@@ -139,7 +139,7 @@ static constexpr CallRow row_bcm_stg_stp_get{
     "in method 'bcm_stg_stp_get', argument 3 of type 'bcm_port_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_stp_get(PyObject *, PyObject *args) {
-    using Shape = Call<Object(Int32, Int32, Int32)>;
+    using Shape = Call<Object(Signed32, Signed32, Signed32)>;
     return Shape::run(row_bcm_stg_stp_get, Shape::native(&ombra::rows::bcm_stg_stp_get), args);
 }
 
@@ -151,7 +151,7 @@ static constexpr CallRow row_bcm_stg_vlan_add{
     "in method 'bcm_stg_vlan_add', argument 3 of type 'bcm_vlan_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_vlan_add(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32, UInt16)>;
+    using Shape = Call<Signed32(Signed32, Signed32, Unsigned16)>;
     return Shape::run(row_bcm_stg_vlan_add, Shape::native(&bcm_stg_vlan_add), args);
 }
 
@@ -163,7 +163,7 @@ static constexpr CallRow row_bcm_stg_vlan_remove{
     "in method 'bcm_stg_vlan_remove', argument 3 of type 'bcm_vlan_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_vlan_remove(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32, UInt16)>;
+    using Shape = Call<Signed32(Signed32, Signed32, Unsigned16)>;
     return Shape::run(row_bcm_stg_vlan_remove, Shape::native(&bcm_stg_vlan_remove), args);
 }
 
@@ -174,7 +174,7 @@ static constexpr CallRow row_bcm_stg_vlan_remove_all{
     "in method 'bcm_stg_vlan_remove_all', argument 2 of type 'bcm_stg_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_vlan_remove_all(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32)>;
+    using Shape = Call<Signed32(Signed32, Signed32)>;
     return Shape::run(row_bcm_stg_vlan_remove_all, Shape::native(&bcm_stg_vlan_remove_all), args);
 }
 
@@ -185,7 +185,7 @@ static constexpr CallRow row_bcm_stg_vlan_list{
     "in method 'bcm_stg_vlan_list', argument 2 of type 'bcm_stg_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_vlan_list(PyObject *, PyObject *args) {
-    using Shape = Call<Object(Int32, Int32)>;
+    using Shape = Call<Object(Signed32, Signed32)>;
     return Shape::run(row_bcm_stg_vlan_list, Shape::native(&ombra::rows::bcm_stg_vlan_list), args);
 }
 
@@ -197,7 +197,7 @@ static constexpr CallRow row_bcm_stg_vlan_list_destroy{
     "in method 'bcm_stg_vlan_list_destroy', argument 3 of type 'int'",
     {0, 1014, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_vlan_list_destroy(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Pointer, Int32)>;
+    using Shape = Call<Signed32(Signed32, Pointer, Signed32)>;
     return Shape::run(row_bcm_stg_vlan_list_destroy, Shape::native(&bcm_stg_vlan_list_destroy), args);
 }
 

@@ -16,7 +16,7 @@ static constexpr CallRow row_tiny_test{
     "in method 'tiny_test', argument 2 of type 'tiny_color_e'",
     {10, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_test(PyObject *, PyObject *args) {
-    using Shape = Call<UInt32(Reference, Int32)>;
+    using Shape = Call<Unsigned32(Reference, Signed32)>;
     return Shape::run(row_tiny_test, Shape::native(&::tiny_test), args);
 }
 

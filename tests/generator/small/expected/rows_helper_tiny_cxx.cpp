@@ -26,7 +26,7 @@ static constexpr CallRow row_tiny_report{
     "in method 'tiny_report', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_report(PyObject *, PyObject *args) {
-    using Shape = Call<Object(Int32)>;
+    using Shape = Call<Object(Signed32)>;
     return Shape::run(row_tiny_report, Shape::native(&ombra::rows::tiny_report), args);
 }
 

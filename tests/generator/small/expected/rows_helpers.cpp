@@ -10,7 +10,7 @@ static constexpr CallRow row_new_uint8Array{
     "in method 'new_uint8Array', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 15}};
 PyObject *_wrap_new_uint8Array(PyObject *, PyObject *args) {
-    return new_array<UInt8>(row_new_uint8Array, args);
+    return new_array<Unsigned8>(row_new_uint8Array, args);
 }
 
 static constexpr CallRow row_delete_uint8Array{
@@ -18,7 +18,7 @@ static constexpr CallRow row_delete_uint8Array{
     "in method 'delete_uint8Array', argument 1 of type 'uint8 *'",
     {15, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_delete_uint8Array(PyObject *, PyObject *args) {
-    return delete_array<UInt8>(row_delete_uint8Array, args);
+    return delete_array<Unsigned8>(row_delete_uint8Array, args);
 }
 
 static constexpr CallRow row_uint8Array_getitem{
@@ -27,7 +27,7 @@ static constexpr CallRow row_uint8Array_getitem{
     "in method 'uint8Array_getitem', argument 2 of type 'int'",
     {15, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uint8Array_getitem(PyObject *, PyObject *args) {
-    return get_item<UInt8>(row_uint8Array_getitem, args);
+    return get_item<Unsigned8>(row_uint8Array_getitem, args);
 }
 
 static constexpr CallRow row_uint8Array_setitem{
@@ -37,7 +37,7 @@ static constexpr CallRow row_uint8Array_setitem{
     "in method 'uint8Array_setitem', argument 3 of type 'uint8'",
     {15, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uint8Array_setitem(PyObject *, PyObject *args) {
-    return set_item<UInt8>(row_uint8Array_setitem, args);
+    return set_item<Unsigned8>(row_uint8Array_setitem, args);
 }
 
 static constexpr CallRow row_new_entrydata{
@@ -45,7 +45,7 @@ static constexpr CallRow row_new_entrydata{
     "in method 'new_entrydata', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 16}};
 PyObject *_wrap_new_entrydata(PyObject *, PyObject *args) {
-    return new_array<UInt32>(row_new_entrydata, args);
+    return new_array<Unsigned32>(row_new_entrydata, args);
 }
 
 static constexpr CallRow row_delete_entrydata{
@@ -53,7 +53,7 @@ static constexpr CallRow row_delete_entrydata{
     "in method 'delete_entrydata', argument 1 of type 'unsigned int *'",
     {16, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_delete_entrydata(PyObject *, PyObject *args) {
-    return delete_array<UInt32>(row_delete_entrydata, args);
+    return delete_array<Unsigned32>(row_delete_entrydata, args);
 }
 
 static constexpr CallRow row_entrydata_getitem{
@@ -62,7 +62,7 @@ static constexpr CallRow row_entrydata_getitem{
     "in method 'entrydata_getitem', argument 2 of type 'int'",
     {16, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_entrydata_getitem(PyObject *, PyObject *args) {
-    return get_item<UInt32>(row_entrydata_getitem, args);
+    return get_item<Unsigned32>(row_entrydata_getitem, args);
 }
 
 static constexpr CallRow row_entrydata_setitem{
@@ -72,7 +72,7 @@ static constexpr CallRow row_entrydata_setitem{
     "in method 'entrydata_setitem', argument 3 of type 'unsigned int'",
     {16, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_entrydata_setitem(PyObject *, PyObject *args) {
-    return set_item<UInt32>(row_entrydata_setitem, args);
+    return set_item<Unsigned32>(row_entrydata_setitem, args);
 }
 
 static constexpr CallRow row_new_intp{
@@ -80,7 +80,7 @@ static constexpr CallRow row_new_intp{
     "",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 6}};
 PyObject *_wrap_new_intp(PyObject *, PyObject *args) {
-    return new_box<Int32>(row_new_intp, args);
+    return new_box<Signed32>(row_new_intp, args);
 }
 
 static constexpr CallRow row_delete_intp{
@@ -97,7 +97,7 @@ static constexpr CallRow row_intp_assign{
     "in method 'intp_assign', argument 2 of type 'int'",
     {6, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_intp_assign(PyObject *, PyObject *args) {
-    return assign_box<Int32>(row_intp_assign, args);
+    return assign_box<Signed32>(row_intp_assign, args);
 }
 
 static constexpr CallRow row_intp_value{
@@ -105,7 +105,7 @@ static constexpr CallRow row_intp_value{
     "invalid null reference in method 'intp_value', argument 1 of type 'intp *'",
     {6, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_intp_value(PyObject *, PyObject *args) {
-    return box_value<Int32>(row_intp_value, args);
+    return box_value<Signed32>(row_intp_value, args);
 }
 
 static constexpr CallRow row_intp_cast{
@@ -133,7 +133,7 @@ static constexpr CallRow row_new_uint16p{
     "",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 11}};
 PyObject *_wrap_new_uint16p(PyObject *, PyObject *args) {
-    return new_box<UInt16>(row_new_uint16p, args);
+    return new_box<Unsigned16>(row_new_uint16p, args);
 }
 
 static constexpr CallRow row_delete_uint16p{
@@ -150,7 +150,7 @@ static constexpr CallRow row_uint16p_assign{
     "in method 'uint16p_assign', argument 2 of type 'unsigned short'",
     {11, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uint16p_assign(PyObject *, PyObject *args) {
-    return assign_box<UInt16>(row_uint16p_assign, args);
+    return assign_box<Unsigned16>(row_uint16p_assign, args);
 }
 
 static constexpr CallRow row_uint16p_value{
@@ -158,7 +158,7 @@ static constexpr CallRow row_uint16p_value{
     "invalid null reference in method 'uint16p_value', argument 1 of type 'uint16p *'",
     {11, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uint16p_value(PyObject *, PyObject *args) {
-    return box_value<UInt16>(row_uint16p_value, args);
+    return box_value<Unsigned16>(row_uint16p_value, args);
 }
 
 static constexpr CallRow row_uint16p_cast{
@@ -186,7 +186,7 @@ static constexpr CallRow row_new_uint32p{
     "",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 12}};
 PyObject *_wrap_new_uint32p(PyObject *, PyObject *args) {
-    return new_box<UInt32>(row_new_uint32p, args);
+    return new_box<Unsigned32>(row_new_uint32p, args);
 }
 
 static constexpr CallRow row_delete_uint32p{
@@ -203,7 +203,7 @@ static constexpr CallRow row_uint32p_assign{
     "in method 'uint32p_assign', argument 2 of type 'uint32'",
     {12, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uint32p_assign(PyObject *, PyObject *args) {
-    return assign_box<UInt32>(row_uint32p_assign, args);
+    return assign_box<Unsigned32>(row_uint32p_assign, args);
 }
 
 static constexpr CallRow row_uint32p_value{
@@ -211,7 +211,7 @@ static constexpr CallRow row_uint32p_value{
     "invalid null reference in method 'uint32p_value', argument 1 of type 'uint32p *'",
     {12, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uint32p_value(PyObject *, PyObject *args) {
-    return box_value<UInt32>(row_uint32p_value, args);
+    return box_value<Unsigned32>(row_uint32p_value, args);
 }
 
 static constexpr CallRow row_uint32p_cast{
@@ -239,7 +239,7 @@ static constexpr CallRow row_new_uintp{
     "",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 14}};
 PyObject *_wrap_new_uintp(PyObject *, PyObject *args) {
-    return new_box<UInt32>(row_new_uintp, args);
+    return new_box<Unsigned32>(row_new_uintp, args);
 }
 
 static constexpr CallRow row_delete_uintp{
@@ -256,7 +256,7 @@ static constexpr CallRow row_uintp_assign{
     "in method 'uintp_assign', argument 2 of type 'unsigned int'",
     {14, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uintp_assign(PyObject *, PyObject *args) {
-    return assign_box<UInt32>(row_uintp_assign, args);
+    return assign_box<Unsigned32>(row_uintp_assign, args);
 }
 
 static constexpr CallRow row_uintp_value{
@@ -264,7 +264,7 @@ static constexpr CallRow row_uintp_value{
     "invalid null reference in method 'uintp_value', argument 1 of type 'uintp *'",
     {14, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uintp_value(PyObject *, PyObject *args) {
-    return box_value<UInt32>(row_uintp_value, args);
+    return box_value<Unsigned32>(row_uintp_value, args);
 }
 
 static constexpr CallRow row_uintp_cast{
@@ -292,7 +292,7 @@ static constexpr CallRow row_new_uint64p{
     "",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 13}};
 PyObject *_wrap_new_uint64p(PyObject *, PyObject *args) {
-    return new_box<UInt64>(row_new_uint64p, args);
+    return new_box<Unsigned64>(row_new_uint64p, args);
 }
 
 static constexpr CallRow row_delete_uint64p{
@@ -309,7 +309,7 @@ static constexpr CallRow row_uint64p_assign{
     "in method 'uint64p_assign', argument 2 of type 'uint64'",
     {13, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uint64p_assign(PyObject *, PyObject *args) {
-    return assign_box<UInt64>(row_uint64p_assign, args);
+    return assign_box<Unsigned64>(row_uint64p_assign, args);
 }
 
 static constexpr CallRow row_uint64p_value{
@@ -317,7 +317,7 @@ static constexpr CallRow row_uint64p_value{
     "invalid null reference in method 'uint64p_value', argument 1 of type 'uint64p *'",
     {13, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_uint64p_value(PyObject *, PyObject *args) {
-    return box_value<UInt64>(row_uint64p_value, args);
+    return box_value<Unsigned64>(row_uint64p_value, args);
 }
 
 static constexpr CallRow row_uint64p_cast{

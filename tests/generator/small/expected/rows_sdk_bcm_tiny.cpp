@@ -15,7 +15,7 @@ static constexpr CallRow row_tiny_none{
     "",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_none(PyObject *, PyObject *args) {
-    using Shape = Call<Int32()>;
+    using Shape = Call<Signed32()>;
     return Shape::run(row_tiny_none, Shape::native(&tiny_none), args);
 }
 
@@ -32,7 +32,7 @@ static constexpr CallRow row_tiny_scalars{
     "in method 'tiny_scalars', argument 8 of type 'bool'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_scalars(PyObject *, PyObject *args) {
-    using Shape = Call<Void(Int8, Int16, Int32, UInt8, UInt16, UInt32, UInt64, StrictBool)>;
+    using Shape = Call<Nothing(Signed8, Signed16, Signed32, Unsigned8, Unsigned16, Unsigned32, Unsigned64, StrictBool)>;
     return Shape::run(row_tiny_scalars, Shape::native(&tiny_scalars), args);
 }
 
@@ -43,7 +43,7 @@ static constexpr CallRow row_tiny_unnamed{
     "in method 'tiny_unnamed', argument 2 of type 'tiny_pair_t *'",
     {0, 10, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_unnamed(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Pointer)>;
+    using Shape = Call<Signed32(Signed32, Pointer)>;
     return Shape::run(row_tiny_unnamed, Shape::native(&tiny_unnamed), args);
 }
 
@@ -57,7 +57,7 @@ static constexpr CallRow row_tiny_pointers{
     "in method 'tiny_pointers', argument 5 of type 'tiny_cb'",
     {0, 10, 17, 19, 3, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_pointers(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Text, Pointer, Pointer, Pointer, FunctionPointer)>;
+    using Shape = Call<Signed32(Text, Pointer, Pointer, Pointer, FunctionPointer)>;
     return Shape::run(row_tiny_pointers, Shape::native(&tiny_pointers), args);
 }
 
@@ -70,7 +70,7 @@ static constexpr CallRow row_tiny_values{
     "in method 'tiny_values', argument 4 of type 'tiny_pbmp_t'",
     {10, 9, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_values(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Value<8, 4>, Value<24, 4>, MacText, PortList)>;
+    using Shape = Call<Signed32(ByValue<8, 4>, ByValue<24, 4>, MacString, PortBitmap)>;
     return Shape::run(row_tiny_values, Shape::native(&tiny_values), args);
 }
 
@@ -82,7 +82,7 @@ static constexpr CallRow row_tiny_arrays{
     "in method 'tiny_arrays', argument 3 of type 'int const [8]'",
     {0, 16, 5, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_arrays(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Pointer, Pointer)>;
+    using Shape = Call<Signed32(Signed32, Pointer, Pointer)>;
     return Shape::run(row_tiny_arrays, Shape::native(&tiny_arrays), args);
 }
 
@@ -92,7 +92,7 @@ static constexpr CallRow row_tiny_wide{
     "in method 'tiny_wide', argument 1 of type 'unsigned long'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_wide(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(ULong)>;
+    using Shape = Call<Signed32(UnsignedLong)>;
     return Shape::run(row_tiny_wide, Shape::native(&tiny_wide), args);
 }
 
@@ -102,7 +102,7 @@ static constexpr CallRow row_tiny_long{
     "in method 'tiny_long', argument 1 of type 'tiny_address_t'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_long(PyObject *, PyObject *args) {
-    using Shape = Call<UInt64(Address32)>;
+    using Shape = Call<Unsigned64(Address32)>;
     return Shape::run(row_tiny_long, Shape::native(&tiny_long), args);
 }
 
@@ -112,7 +112,7 @@ static constexpr CallRow row_tiny_text{
     "in method 'tiny_text', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_text(PyObject *, PyObject *args) {
-    using Shape = Call<Text(Int32)>;
+    using Shape = Call<Text(Signed32)>;
     return Shape::run(row_tiny_text, Shape::native(&tiny_text), args);
 }
 
@@ -122,7 +122,7 @@ static constexpr CallRow row_tiny_truth{
     "in method 'tiny_truth', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_truth(PyObject *, PyObject *args) {
-    using Shape = Call<StrictBool(Int32)>;
+    using Shape = Call<StrictBool(Signed32)>;
     return Shape::run(row_tiny_truth, Shape::native(&tiny_truth), args);
 }
 
@@ -132,7 +132,7 @@ static constexpr CallRow row_tiny_value{
     "in method 'tiny_value', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 9}};
 PyObject *_wrap_tiny_value(PyObject *, PyObject *args) {
-    using Shape = Call<Value<24, 4>(Int32)>;
+    using Shape = Call<ByValue<24, 4>(Signed32)>;
     return Shape::run(row_tiny_value, Shape::native(&tiny_value), args);
 }
 
@@ -142,7 +142,7 @@ static constexpr CallRow row_tiny_pointer{
     "in method 'tiny_pointer', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 10}};
 PyObject *_wrap_tiny_pointer(PyObject *, PyObject *args) {
-    using Shape = Call<Pointer(Int32)>;
+    using Shape = Call<Pointer(Signed32)>;
     return Shape::run(row_tiny_pointer, Shape::native(&tiny_pointer), args);
 }
 
@@ -154,7 +154,7 @@ static constexpr CallRow row_tiny_speed_set{
     "in method 'tiny_speed_set', argument 3 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_speed_set(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32, Int32)>;
+    using Shape = Call<Signed32(Signed32, Signed32, Signed32)>;
     return Shape::run(row_tiny_speed_set, Shape::native(&tiny_speed_set), args);
 }
 
@@ -166,7 +166,7 @@ static constexpr CallRow row_tiny_speed_get{
     "in method 'tiny_speed_get', argument 3 of type 'int *'",
     {0, 0, 5, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_speed_get(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32, Pointer)>;
+    using Shape = Call<Signed32(Signed32, Signed32, Pointer)>;
     return Shape::run(row_tiny_speed_get, Shape::native(&tiny_speed_get), args);
 }
 
@@ -178,7 +178,7 @@ static constexpr CallRow row_tiny_list_set{
     "in method 'tiny_list_set', argument 3 of type 'int *'",
     {0, 0, 5, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_list_set(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32, Pointer)>;
+    using Shape = Call<Signed32(Signed32, Signed32, Pointer)>;
     return Shape::run(row_tiny_list_set, Shape::native(&tiny_list_set), args);
 }
 
@@ -191,7 +191,7 @@ static constexpr CallRow row_tiny_list_get{
     "in method 'tiny_list_get', argument 4 of type 'int *'",
     {0, 0, 5, 5, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_list_get(PyObject *, PyObject *args) {
-    using Shape = Call<Int32(Int32, Int32, Pointer, Pointer)>;
+    using Shape = Call<Signed32(Signed32, Signed32, Pointer, Pointer)>;
     return Shape::run(row_tiny_list_get, Shape::native(&tiny_list_get), args);
 }
 
@@ -201,7 +201,7 @@ static constexpr CallRow row_tiny_create{
     "in method 'tiny_create', argument 1 of type 'int'",
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_create(PyObject *, PyObject *args) {
-    using Shape = AppendCall<Int32(Int32)>;
+    using Shape = AppendCall<Signed32(Signed32)>;
     return Shape::run(row_tiny_create, Shape::native(&tiny_create), args);
 }
 

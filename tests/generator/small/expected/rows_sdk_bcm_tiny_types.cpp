@@ -47,7 +47,7 @@ static constexpr FieldRow row_tiny_pair_t_first_set{
      {10, 0}},
     0, 4, 1};
 PyObject *_wrap_tiny_pair_t_first_set(PyObject *, PyObject *args) {
-    return set_value<Int32>(row_tiny_pair_t_first_set, args);
+    return set_value<Signed32>(row_tiny_pair_t_first_set, args);
 }
 
 static constexpr FieldRow row_tiny_pair_t_first_get{
@@ -56,7 +56,7 @@ static constexpr FieldRow row_tiny_pair_t_first_get{
      {10, 0}},
     0, 4, 1};
 PyObject *_wrap_tiny_pair_t_first_get(PyObject *, PyObject *args) {
-    return get_value<Int32>(row_tiny_pair_t_first_get, args);
+    return get_value<Signed32>(row_tiny_pair_t_first_get, args);
 }
 
 static constexpr FieldRow row_tiny_pair_t_second_set{
@@ -66,7 +66,7 @@ static constexpr FieldRow row_tiny_pair_t_second_set{
      {10, 0}},
     4, 2, 1};
 PyObject *_wrap_tiny_pair_t_second_set(PyObject *, PyObject *args) {
-    return set_value<UInt16>(row_tiny_pair_t_second_set, args);
+    return set_value<Unsigned16>(row_tiny_pair_t_second_set, args);
 }
 
 static constexpr FieldRow row_tiny_pair_t_second_get{
@@ -75,7 +75,7 @@ static constexpr FieldRow row_tiny_pair_t_second_get{
      {10, 0}},
     4, 2, 1};
 PyObject *_wrap_tiny_pair_t_second_get(PyObject *, PyObject *args) {
-    return get_value<UInt16>(row_tiny_pair_t_second_get, args);
+    return get_value<Unsigned16>(row_tiny_pair_t_second_get, args);
 }
 
 static constexpr CallRow row_new_tiny_pair_t{"new_tiny_pair_t", "", {0, 0, 0, 0, 0, 0, 0, 0, 0, 10}};
@@ -102,7 +102,7 @@ static constexpr FieldRow row_tiny_all_t_s8_set{
      {7, 0}},
     0, 1, 1};
 PyObject *_wrap_tiny_all_t_s8_set(PyObject *, PyObject *args) {
-    return set_value<Int8>(row_tiny_all_t_s8_set, args);
+    return set_value<Signed8>(row_tiny_all_t_s8_set, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_s8_get{
@@ -111,7 +111,7 @@ static constexpr FieldRow row_tiny_all_t_s8_get{
      {7, 0}},
     0, 1, 1};
 PyObject *_wrap_tiny_all_t_s8_get(PyObject *, PyObject *args) {
-    return get_value<Int8>(row_tiny_all_t_s8_get, args);
+    return get_value<Signed8>(row_tiny_all_t_s8_get, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_s16_set{
@@ -121,7 +121,7 @@ static constexpr FieldRow row_tiny_all_t_s16_set{
      {7, 0}},
     2, 2, 1};
 PyObject *_wrap_tiny_all_t_s16_set(PyObject *, PyObject *args) {
-    return set_value<Int16>(row_tiny_all_t_s16_set, args);
+    return set_value<Signed16>(row_tiny_all_t_s16_set, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_s16_get{
@@ -130,7 +130,7 @@ static constexpr FieldRow row_tiny_all_t_s16_get{
      {7, 0}},
     2, 2, 1};
 PyObject *_wrap_tiny_all_t_s16_get(PyObject *, PyObject *args) {
-    return get_value<Int16>(row_tiny_all_t_s16_get, args);
+    return get_value<Signed16>(row_tiny_all_t_s16_get, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_color_set{
@@ -140,7 +140,7 @@ static constexpr FieldRow row_tiny_all_t_color_set{
      {7, 0}},
     4, 4, 1};
 PyObject *_wrap_tiny_all_t_color_set(PyObject *, PyObject *args) {
-    return set_value<Int32>(row_tiny_all_t_color_set, args);
+    return set_value<Signed32>(row_tiny_all_t_color_set, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_color_get{
@@ -149,7 +149,7 @@ static constexpr FieldRow row_tiny_all_t_color_get{
      {7, 0}},
     4, 4, 1};
 PyObject *_wrap_tiny_all_t_color_get(PyObject *, PyObject *args) {
-    return get_value<Int32>(row_tiny_all_t_color_get, args);
+    return get_value<Signed32>(row_tiny_all_t_color_get, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_u8_set{
@@ -159,7 +159,7 @@ static constexpr FieldRow row_tiny_all_t_u8_set{
      {7, 0}},
     8, 1, 1};
 PyObject *_wrap_tiny_all_t_u8_set(PyObject *, PyObject *args) {
-    return set_value<UInt8>(row_tiny_all_t_u8_set, args);
+    return set_value<Unsigned8>(row_tiny_all_t_u8_set, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_u8_get{
@@ -168,7 +168,7 @@ static constexpr FieldRow row_tiny_all_t_u8_get{
      {7, 0}},
     8, 1, 1};
 PyObject *_wrap_tiny_all_t_u8_get(PyObject *, PyObject *args) {
-    return get_value<UInt8>(row_tiny_all_t_u8_get, args);
+    return get_value<Unsigned8>(row_tiny_all_t_u8_get, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_u16_set{
@@ -178,7 +178,7 @@ static constexpr FieldRow row_tiny_all_t_u16_set{
      {7, 0}},
     10, 2, 1};
 PyObject *_wrap_tiny_all_t_u16_set(PyObject *, PyObject *args) {
-    return set_value<UInt16>(row_tiny_all_t_u16_set, args);
+    return set_value<Unsigned16>(row_tiny_all_t_u16_set, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_u16_get{
@@ -187,7 +187,7 @@ static constexpr FieldRow row_tiny_all_t_u16_get{
      {7, 0}},
     10, 2, 1};
 PyObject *_wrap_tiny_all_t_u16_get(PyObject *, PyObject *args) {
-    return get_value<UInt16>(row_tiny_all_t_u16_get, args);
+    return get_value<Unsigned16>(row_tiny_all_t_u16_get, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_u32_set{
@@ -197,7 +197,7 @@ static constexpr FieldRow row_tiny_all_t_u32_set{
      {7, 0}},
     12, 4, 1};
 PyObject *_wrap_tiny_all_t_u32_set(PyObject *, PyObject *args) {
-    return set_value<UInt32>(row_tiny_all_t_u32_set, args);
+    return set_value<Unsigned32>(row_tiny_all_t_u32_set, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_u32_get{
@@ -206,7 +206,7 @@ static constexpr FieldRow row_tiny_all_t_u32_get{
      {7, 0}},
     12, 4, 1};
 PyObject *_wrap_tiny_all_t_u32_get(PyObject *, PyObject *args) {
-    return get_value<UInt32>(row_tiny_all_t_u32_get, args);
+    return get_value<Unsigned32>(row_tiny_all_t_u32_get, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_u64_set{
@@ -216,7 +216,7 @@ static constexpr FieldRow row_tiny_all_t_u64_set{
      {7, 0}},
     16, 8, 1};
 PyObject *_wrap_tiny_all_t_u64_set(PyObject *, PyObject *args) {
-    return set_value<UInt64>(row_tiny_all_t_u64_set, args);
+    return set_value<Unsigned64>(row_tiny_all_t_u64_set, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_u64_get{
@@ -225,7 +225,7 @@ static constexpr FieldRow row_tiny_all_t_u64_get{
      {7, 0}},
     16, 8, 1};
 PyObject *_wrap_tiny_all_t_u64_get(PyObject *, PyObject *args) {
-    return get_value<UInt64>(row_tiny_all_t_u64_get, args);
+    return get_value<Unsigned64>(row_tiny_all_t_u64_get, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_address_set{
@@ -330,7 +330,7 @@ static constexpr FieldRow row_tiny_all_t_ports_set{
      {7, 0}},
     56, 72, 1};
 PyObject *_wrap_tiny_all_t_ports_set(PyObject *, PyObject *args) {
-    return set_value<PortList>(row_tiny_all_t_ports_set, args);
+    return set_value<PortBitmap>(row_tiny_all_t_ports_set, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_ports_get{
@@ -339,7 +339,7 @@ static constexpr FieldRow row_tiny_all_t_ports_get{
      {7, 0}},
     56, 72, 1};
 PyObject *_wrap_tiny_all_t_ports_get(PyObject *, PyObject *args) {
-    return get_value<PortList>(row_tiny_all_t_ports_get, args);
+    return get_value<PortBitmap>(row_tiny_all_t_ports_get, args);
 }
 
 static constexpr FieldRow row_tiny_all_t_vector_set{
@@ -521,7 +521,7 @@ static constexpr FieldRow row_tiny_any_low_set{
      {8, 0}},
     0, 1, 1};
 PyObject *_wrap_tiny_any_low_set(PyObject *, PyObject *args) {
-    return set_value<UInt8>(row_tiny_any_low_set, args);
+    return set_value<Unsigned8>(row_tiny_any_low_set, args);
 }
 
 static constexpr FieldRow row_tiny_any_low_get{
@@ -530,7 +530,7 @@ static constexpr FieldRow row_tiny_any_low_get{
      {8, 0}},
     0, 1, 1};
 PyObject *_wrap_tiny_any_low_get(PyObject *, PyObject *args) {
-    return get_value<UInt8>(row_tiny_any_low_get, args);
+    return get_value<Unsigned8>(row_tiny_any_low_get, args);
 }
 
 static constexpr FieldRow row_tiny_any_whole_set{
@@ -540,7 +540,7 @@ static constexpr FieldRow row_tiny_any_whole_set{
      {8, 0}},
     0, 8, 1};
 PyObject *_wrap_tiny_any_whole_set(PyObject *, PyObject *args) {
-    return set_value<UInt64>(row_tiny_any_whole_set, args);
+    return set_value<Unsigned64>(row_tiny_any_whole_set, args);
 }
 
 static constexpr FieldRow row_tiny_any_whole_get{
@@ -549,7 +549,7 @@ static constexpr FieldRow row_tiny_any_whole_get{
      {8, 0}},
     0, 8, 1};
 PyObject *_wrap_tiny_any_whole_get(PyObject *, PyObject *args) {
-    return get_value<UInt64>(row_tiny_any_whole_get, args);
+    return get_value<Unsigned64>(row_tiny_any_whole_get, args);
 }
 
 static constexpr CallRow row_new_tiny_any{"new_tiny_any", "", {0, 0, 0, 0, 0, 0, 0, 0, 0, 8}};

@@ -3,10 +3,10 @@
 
 namespace ombra {
 
-template struct AppendCall<Int32(Int32)>;
-template struct Call<Int32(Int32, Int32, Pointer, Pointer)>;
-template struct Call<Int32(ULong)>;
-template struct Call<StrictBool(Int32)>;
-template struct Call<Value<24, 4>(Int32)>;
+template struct AppendCall<Signed32(Signed32)>;
+template struct Call<Pointer(Signed32)>;
+template struct Call<Signed32(Signed32, Pointer, Pointer)>;
+template struct Call<Signed32(Text, Pointer, Pointer, Pointer, FunctionPointer)>;
+template struct Call<Unsigned32(Reference, Signed32)>;
 
 }  // namespace ombra

@@ -3,10 +3,10 @@
 
 namespace ombra {
 
-template struct Call<Int32()>;
-template struct Call<Int32(Int32, Pointer)>;
-template struct Call<Int32(Value<8, 4>, Value<24, 4>, MacText, PortList)>;
-template struct Call<Text(Int32)>;
-template struct Call<Void(Int8, Int16, Int32, UInt8, UInt16, UInt32, UInt64, StrictBool)>;
+template struct Call<ByValue<24, 4>(Signed32)>;
+template struct Call<Signed32()>;
+template struct Call<Signed32(Signed32, Signed32, Pointer)>;
+template struct Call<Signed32(UnsignedLong)>;
+template struct Call<Unsigned64(Address32)>;
 
 }  // namespace ombra

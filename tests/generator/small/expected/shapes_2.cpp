@@ -3,9 +3,9 @@
 
 namespace ombra {
 
-template struct Call<Int32(Int32, Int32, Int32)>;
-template struct Call<Int32(Int32, Pointer, Pointer)>;
-template struct Call<Object(Int32)>;
-template struct Call<UInt32(Reference, Int32)>;
+template struct Call<Nothing(Signed8, Signed16, Signed32, Unsigned8, Unsigned16, Unsigned32, Unsigned64, StrictBool)>;
+template struct Call<Signed32(ByValue<8, 4>, ByValue<24, 4>, MacString, PortBitmap)>;
+template struct Call<Signed32(Signed32, Signed32, Pointer, Pointer)>;
+template struct Call<StrictBool(Signed32)>;
 
 }  // namespace ombra

@@ -3,9 +3,9 @@
 
 namespace ombra {
 
-template struct Call<Int32(Int32, Int32, Pointer)>;
-template struct Call<Int32(Text, Pointer, Pointer, Pointer, FunctionPointer)>;
-template struct Call<Pointer(Int32)>;
-template struct Call<UInt64(Address32)>;
+template struct Call<Object(Signed32)>;
+template struct Call<Signed32(Signed32, Pointer)>;
+template struct Call<Signed32(Signed32, Signed32, Signed32)>;
+template struct Call<Text(Signed32)>;
 
 }  // namespace ombra
