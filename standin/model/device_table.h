@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "standin/model/slots.h"
 #include "standin/model/soc_control.h"
 #include "standin/model/switch.h"
 
@@ -50,6 +51,7 @@ struct Device {
     bool diag_queueing_up = false;
     std::unique_ptr<Switch> chip = std::make_unique<Switch>();
     ControlRecord control;
+    Slots layers;  // what stays when the chip is reset
 
     // A layer stands on the chip, which therefore may neither be reset nor go away.
     bool in_use() const { return system_up || application_up; }

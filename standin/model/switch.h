@@ -7,6 +7,7 @@
 #include "standin/model/l2_chapter.h"
 #include "standin/model/l3.h"
 #include "standin/model/ports.h"
+#include "standin/model/slots.h"
 #include "standin/model/vlans.h"
 
 namespace standin {
@@ -19,6 +20,7 @@ struct Switch {
     Field field;
     L3 l3;
     GenericTables generic;  // of the calls that have no model of their own
+    Slots layers;
 };
 
 }  // namespace standin

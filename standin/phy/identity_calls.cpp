@@ -129,7 +129,7 @@ uint16 soc_phy_addr_int_of_port(int unit, soc_port_t port) {
 soc_port_t soc_phy_addr_to_port(int unit, uint16 phy_id) {
     soc_port_t found = -1;
     on_switch(__func__, unit, [&](Switch &chip) {
-        const auto &ports = phys_of(unit, chip).ports;
+        const auto &ports = phys_of(chip).ports;
         for (auto address : {&Phy::address, &Phy::internal_address}) {
             const auto at = std::ranges::find(ports, phy_id, address);
             if (at == ports.end()) continue;
@@ -175,8 +175,8 @@ int soc_phy_boot_master_get(int unit, soc_port_t port, int *bm, int *cm) {
 int soc_cmic_rate_param_set(int unit, int dividend, int divisor) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (!within(dividend, 1, 0xffff) || !within(divisor, 1, 0xffff)) return BCM_E_PARAM;
-        phys_of(unit, chip).dividend = dividend;
-        phys_of(unit, chip).divisor = divisor;
+        phys_of(chip).dividend = dividend;
+        phys_of(chip).divisor = divisor;
         return BCM_E_NONE;
     });
 }
@@ -184,8 +184,8 @@ int soc_cmic_rate_param_set(int unit, int dividend, int divisor) {
 int soc_cmic_rate_param_get(int unit, int *dividend, int *divisor) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (dividend == nullptr || divisor == nullptr) return BCM_E_PARAM;
-        *dividend = phys_of(unit, chip).dividend;
-        return give(divisor, phys_of(unit, chip).divisor);
+        *dividend = phys_of(chip).dividend;
+        return give(divisor, phys_of(chip).divisor);
     });
 }
 

@@ -1,6 +1,5 @@
+// A PHY at its first day, and the port behind an argument.
 #include "standin/phy/phy.h"
-
-#include "standin/regs/per_chip.h"
 
 namespace standin {
 
@@ -19,11 +18,6 @@ Phys::Phys() {
         ports[port].address = static_cast<std::uint16_t>(port);
         ports[port].internal_address = static_cast<std::uint16_t>(kInternalPhys + port);
     }
-}
-
-Phys &phys_of(int unit, Switch &chip) {
-    static auto &all = *new PerChip<Phys>("phys of ports");
-    return all.of(unit, chip);
 }
 
 int translated(int unit, soc_port_t port) {

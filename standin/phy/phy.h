@@ -99,7 +99,7 @@ struct PhyView {
 };
 
 // REQUIRES: the model's lock is held.
-Phys &phys_of(int unit, Switch &chip);
+inline Phys &phys_of(Switch &chip) { return chip.layers.of<Phys>(); }
 
 // The port behind an argument, after soc_phy_cb_xlate_port_func, where that is set.
 int translated(int unit, soc_port_t port);
@@ -113,7 +113,7 @@ int on_any_phy(const char *function, int unit, soc_port_t port, Body &&body) {
     return on_switch(function, unit, [&](Switch &chip) {
         const int number = local_port(translated_port);
         if (number < 0) return BCM_E_PORT;
-        Phys &all = phys_of(unit, chip);
+        Phys &all = phys_of(chip);
         PhyView view{number, *chip.ports.find(number), all.ports[static_cast<std::size_t>(number)],
                      all};
         return std::forward<Body>(body)(view);

@@ -5,10 +5,10 @@
 
 #include "sdk/soc/phy.h"
 #include "sdk/soc/phyctrl.h"
+#include "standin/model/device_table.h"
 #include "standin/phy/accessors.h"
 #include "standin/phy/identity.h"
 #include "standin/phy/phy.h"
-#include "standin/regs/per_chip.h"
 
 using namespace standin;
 
@@ -51,15 +51,13 @@ struct PhyTables {
     std::unique_ptr<soc_port_t[]> ports;  // by PHY address
 };
 
-PhyTables &tables_of(int unit) {
-    static auto &all = *new PerDevice<PhyTables>(MarkWord::kPhyTables);
-    return all.of(unit);
-}
+// REQUIRES: the model's lock is held, and the unit is there.
+PhyTables &tables_of(int unit) { return device_table().find(unit)->layers.of<PhyTables>(); }
 
 // Starts or stops the drivers of all ports.
 int attach_all(const char *function, int unit, bool attached) {
     return on_switch(function, unit, [&](Switch &chip) {
-        for (Phy &phy : phys_of(unit, chip).ports) phy.attached = attached;
+        for (Phy &phy : phys_of(chip).ports) phy.attached = attached;
         return BCM_E_NONE;
     });
 }
@@ -78,7 +76,7 @@ extern "C" {
 // Makes the tables of phy_port_info and phy_rmap.
 int soc_phy_common_init(int unit) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        tables_of(unit).open(unit, phys_of(unit, chip));
+        tables_of(unit).open(unit, phys_of(chip));
         return BCM_E_NONE;
     });
 }
@@ -110,7 +108,7 @@ int soc_phyctrl_pbm_probe_init(int unit, pbmp_t pbmp, pbmp_t *okay_pbmp) {
         *okay_pbmp = {};
         for (int port = 0; port < kPorts; ++port) {
             if (!has_port(pbmp, port)) continue;
-            phys_of(unit, chip).ports[static_cast<std::size_t>(port)].attached = true;
+            phys_of(chip).ports[static_cast<std::size_t>(port)].attached = true;
             add_port(*okay_pbmp, port);
         }
         return BCM_E_NONE;

@@ -193,7 +193,8 @@ void setCopyEngineConstraintsFilePath(char const *filePath) {
 void standin_shadow_reset(void) {
     const std::lock_guard<std::mutex> guard(model_lock());
     shadow_policy() = ShadowPolicy{};
-    forget_unit_states();
+    for (int unit = 0; unit < device_table().size(); ++unit)
+        device_table().find(unit)->layers.forget<UnitState>();
 }
 
 int standin_shadow_words(int unit) {

@@ -1,28 +1,7 @@
+// Whether a unit can be reached, and the policy that holds for all.
 #include "standin/regs/unit_state.h"
 
-#include "standin/regs/per_chip.h"
-
 namespace standin {
-namespace {
-
-// Neither is destroyed: native threads may still call while the process ends.
-PerDevice<UnitState> &unit_states() {
-    static auto &states = *new PerDevice<UnitState>(MarkWord::kUnitState);
-    return states;
-}
-
-PerChip<RegisterFile> &register_files() {
-    static auto &files = *new PerChip<RegisterFile>("register file");
-    return files;
-}
-
-}  // namespace
-
-UnitState &unit_state(int unit) { return unit_states().of(unit); }
-
-RegisterFile &register_file(int unit, Switch &chip) { return register_files().of(unit, chip); }
-
-void forget_unit_states() { unit_states().clear(); }
 
 int unit_reachable(int unit, Need need) {
     const std::lock_guard<std::mutex> guard(model_lock());
@@ -33,6 +12,7 @@ int unit_reachable(int unit, Need need) {
 }
 
 ShadowPolicy &shadow_policy() {
+    // Never destroyed: native threads may still call while the process ends.
     static auto &policy = *new ShadowPolicy;
     return policy;
 }

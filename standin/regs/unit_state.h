@@ -96,10 +96,6 @@ struct Unit {
     RegisterFile &file;
 };
 
-UnitState &unit_state(int unit);
-RegisterFile &register_file(int unit, Switch &chip);
-void forget_unit_states();
-
 // The unit behind an unsigned argument; -1, which no unit has, for a number too large.
 constexpr int unit_number(std::uint32_t unit) {
     return unit < kMaxUnits ? static_cast<int>(unit) : -1;
@@ -120,7 +116,8 @@ int on_unit(const char *function, int unit, Need need, Body &&body) {
     if (device == nullptr) return BCM_E_UNIT;
     if (need == Need::kReset && device->stage == ChipStage::kAttached) return BCM_E_INIT;
     try {
-        Unit view{unit, *device, unit_state(unit), register_file(unit, *device->chip)};
+        Unit view{unit, *device, device->layers.of<UnitState>(),
+                  device->chip->layers.of<RegisterFile>()};
         return std::forward<Body>(body)(view);
     } catch (const std::bad_alloc &) {
         return BCM_E_MEMORY;

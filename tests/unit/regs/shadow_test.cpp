@@ -6,12 +6,17 @@
 
 #include <algorithm>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <sstream>
 #include <string>
 
 #include "helper/shadow_cxx.h"
 #include "regs_fixture.h"
+#include "sdk/bcm/init.h"
+#include "sdk/diag/appl.h"
+#include "sdk/soc/phy.h"
+#include "sdk/variables.h"
 #include "standin/regs/layout.h"
 
 namespace standin {
@@ -393,6 +398,52 @@ TEST_F(ShadowTest, AFakeDeviceGoesUpAndDownInEveryOrder) {
         EXPECT_EQ(get32(kReg), 0u);
         EXPECT_EQ(syncRegisters(0, false, true), 0u);
     } while (std::next_permutation(std::begin(order), std::end(order)));
+}
+
+// What each layer remembers of a unit goes with the chip or with the device, and neither takes
+// along what is remembered of the other unit.
+TEST_F(ShadowTest, StatesGoWithTheirOwner) {
+    constexpr int kUnits = 2;
+    const auto start = [](int unit) {
+        ASSERT_EQ(addOmbraDevice(0, static_cast<std::uint8_t>(1 + unit), 0, 0), unit);
+        ASSERT_EQ(soc_init(unit), BCM_E_NONE);
+    };
+    struct Event {
+        const char *what;
+        std::function<void()> happen;
+        bool chip_stays, shadow_stays, tables_stay, other_stays;
+    } const events[] = {
+        {"nothing", [] {}, true, true, true, true},
+        {"reset", [] { soc_init(0); }, false, true, true, true},
+        {"clear", [] { bcm_clear(0); }, false, true, true, true},
+        {"layer up and down", [] { system_init(0), system_shutdown(0, 0); }, true, true, true,
+         true},
+        {"clean down", [] { system_init(0), system_shutdown(0, 1); }, false, true, true, true},
+        {"shadow dropped", [] { standin_shadow_reset(); }, true, false, true, false},
+        {"removed", [&] { standin_reset(), start(0), start(1); }, false, false, false, false},
+    };
+    start(1);
+    for (const Event &event : events) {
+        Hardware::HardwareShadow::Ptr shadows[kUnits];
+        for (int unit = 0; unit < kUnits; ++unit) {
+            ASSERT_EQ(soc_reg32_set(unit, kReg, 0, 0, 5), BCM_E_NONE);
+            ASSERT_EQ(soc_cmic_rate_param_set(unit, 3, 7), BCM_E_NONE);
+            ASSERT_EQ(soc_phy_common_init(unit), BCM_E_NONE);
+            shadows[unit] = getHwShadow(unit);
+        }
+        event.happen();
+        for (int unit = 0; unit < kUnits; ++unit) {
+            SCOPED_TRACE(std::string(event.what) + " on 0, seen on " + std::to_string(unit));
+            const bool chip = unit == 0 ? event.chip_stays : event.chip_stays || event.other_stays;
+            int dividend = 0, divisor = 0;
+            ASSERT_EQ(soc_cmic_rate_param_get(unit, &dividend, &divisor), BCM_E_NONE);
+            EXPECT_EQ(dividend, chip ? 3 : 1);
+            EXPECT_EQ(get32(kReg, 0, 0, unit), chip ? 5u : 0u);
+            const bool shadow = unit == 0 ? event.shadow_stays : event.other_stays;
+            EXPECT_EQ(getHwShadow(unit).get() == shadows[unit].get(), shadow);
+            EXPECT_EQ(phy_port_info[unit] != nullptr, event.tables_stay);
+        }
+    }
 }
 
 }  // namespace
