@@ -31,7 +31,9 @@ build: configure ## the module, its libraries and Python files, together in buil
 debug: configure ## the same under the debug interpreter and sanitizers, in build/debug
 	@if $(have_debug); then setup/configure.sh debug && $(compile_debug); fi
 
-bench: build ## compare with hand-written extension code and with ctypes
+bench: build ## compare with hand-written extension code, ctypes, Cython and pybind11
+	@setup/peers.sh build/peers
+	@cmake build --log-level=WARNING
 	@$(compile) --target bench
 
 docs: build ## the reference, made from the declarations

@@ -1,9 +1,15 @@
 // What the floor's functions share: readers written for speed, as a careful hand would.
+//
+// The usual case of each is inline; whatever refuses, and every object that is seldom seen, is one
+// cold call out of line.
 #pragma once
 
 #include <Python.h>
 
+#include <array>
 #include <climits>
+#include <cstdint>
+#include <cstring>
 
 #include "native/values.h"
 #include "runtime/pointer_object.h"
@@ -15,63 +21,47 @@ struct FloorTypes {
     swig_type_info *qsets;
     swig_type_info *l2_addrs;
 };
-extern FloorTypes floor_types;
+[[gnu::visibility("hidden")]] extern FloorTypes floor_types;
 
-inline bool floor_raise(PyObject *exception, const char *text) {
-    PyErr_SetString(exception, text);
-    return false;
-}
+// Cold: sets the exception, returns false.
+[[gnu::cold, gnu::noinline]] bool floor_raise(PyObject *exception, const char *text);
 
-inline bool floor_long(PyObject *object, long *value, const char *text) {
-    if (PyInt_Check(object)) {
-        *value = PyInt_AS_LONG(object);
-        return true;
-    }
-    if (!PyLong_Check(object)) return floor_raise(PyExc_TypeError, text);
-    *value = PyLong_AsLong(object);
-    if (*value == -1 && PyErr_Occurred() != nullptr) {
-        PyErr_Clear();
+// Cold: the value of a `long`; false, with an exception, for what is no number or too large.
+[[gnu::cold, gnu::noinline]] bool floor_from_long(PyObject *object, long *value, const char *text);
+
+// Cold: pointer objects of another type, None and refusals.
+[[gnu::cold, gnu::noinline]] bool floor_other_address(PyObject *object, void **address,
+                                                      const char *text);
+
+template <typename Number>
+[[gnu::always_inline]] inline bool floor_number(PyObject *object, Number *value, const char *text) {
+    long wide;
+    if (PyInt_Check(object)) [[likely]]
+        wide = PyInt_AS_LONG(object);
+    else if (!floor_from_long(object, &wide, text))
+        return false;
+    if (wide != static_cast<long>(static_cast<Number>(wide))) [[unlikely]]
         return floor_raise(PyExc_OverflowError, text);
-    }
+    *value = static_cast<Number>(wide);
     return true;
 }
 
-inline bool floor_int(PyObject *object, int *value, const char *text) {
-    long wide = 0;
-    if (!floor_long(object, &wide, text)) return false;
-    if (wide < INT_MIN || wide > INT_MAX) return floor_raise(PyExc_OverflowError, text);
-    *value = static_cast<int>(wide);
-    return true;
-}
-
-inline bool floor_unsigned(PyObject *object, unsigned *value, const char *text) {
-    long wide = 0;
-    if (!floor_long(object, &wide, text)) return false;
-    if (wide < 0 || wide > UINT_MAX) return floor_raise(PyExc_OverflowError, text);
-    *value = static_cast<unsigned>(wide);
-    return true;
-}
-
-inline bool floor_byte(PyObject *object, unsigned char *value, const char *text) {
-    long wide = 0;
-    if (!floor_long(object, &wide, text)) return false;
-    if (wide < 0 || wide > UCHAR_MAX) return floor_raise(PyExc_OverflowError, text);
-    *value = static_cast<unsigned char>(wide);
-    return true;
-}
-
-inline bool floor_address(PyObject *object, swig_type_info *type, void **address,
-                          const char *text) {
+[[gnu::always_inline]] inline bool floor_address(PyObject *object, swig_type_info *type,
+                                                 void **address, const char *text) {
     if (Py_TYPE(object) == floor_types.object &&
-        reinterpret_cast<SwigPyObject *>(object)->type == type) {
+        reinterpret_cast<SwigPyObject *>(object)->type == type) [[likely]] {
         *address = reinterpret_cast<SwigPyObject *>(object)->ptr;
         return true;
     }
-    if (object == Py_None) {
-        *address = nullptr;
-        return true;
-    }
-    return floor_raise(PyExc_TypeError, text);
+    return floor_other_address(object, address, text);
+}
+
+// The tuple apart, by the one means that the module has as well.
+template <typename... Slots>
+[[gnu::always_inline]] inline bool floor_unpack(PyObject *args, const char *name, Slots *...slots) {
+    constexpr Py_ssize_t count = sizeof...(Slots);
+    ((*slots = nullptr), ...);
+    return PyArg_UnpackTuple(args, const_cast<char *>(name), count, count, slots...) != 0;
 }
 
 bool floor_read_mac(PyObject *object, unsigned char mac[6]);
@@ -85,4 +75,6 @@ PyObject *floor_mac_get(PyObject *, PyObject *args);
 PyObject *floor_mac_set(PyObject *, PyObject *args);
 PyObject *floor_ports_get(PyObject *, PyObject *args);
 PyObject *floor_ports_set(PyObject *, PyObject *args);
+PyObject *floor_pause(PyObject *, PyObject *args);
+PyObject *floor_vlan_ports(PyObject *, PyObject *args);
 PyObject *floor_snapshot(PyObject *, PyObject *args);

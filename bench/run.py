@@ -1,201 +1,199 @@
-"""Compares the module with hand-written extension code and with ctypes, in one run.
+"""Compares the module with hand-written extension code (the floor) and with its peers, in one run.
 
     PYTHONPATH=build/lib:build/bench python2.7 bench/run.py build [--quick]
 
-Calls run against an SDK that does nothing, so that what is measured is the binding; the snapshot
-runs against the stand-in. Every figure is a ratio of medians: candidate and floor take turns, so
-that whatever else the machine does falls on both. Prints a table and writes bench/calls.svg and
-bench/results.txt into the build tree.
+Calls run against an SDK that does nothing, so that what is measured is the binding. For all alike
+the function is bound before and the empty loop taken off. Instructions are counted where valgrind
+is installed, and repeat; times are medians of processor time, candidates taking turns, so that
+whatever else the machine does falls on all. Prints a table and writes bench/results.txt and
+bench/calls.svg into the build tree.
 """
 
-import ctypes
+import glob
 import os
+import re
+import shutil
 import subprocess
 import sys
-import timeit
+import tempfile
+import time
+
+import shapes
 
 REPETITIONS = 41
 CALLS = 20000
+COUNTED_CALLS = 1000
+HERE = os.path.dirname(os.path.abspath(__file__))
+IMPORTS = ('_OmbraSdkV2Helper', '_ombra_floor_import')
 
-# name, statement (m is the module under test), whether ctypes can do the same, the target.
-CALLS_TABLE = [
-    ('0 arguments', 'm.getNumDevices()', None, 1.05),
-    ('1 int', 'm.soc_init(0)', ('soc_init', '(0)'), 1.05),
-    ('3 ints', 'm.bcm_port_speed_set(0, 1, 1000)',
-     ('bcm_port_speed_set', '(0, 1, 1000)'), 1.05),
-    ('5 integers', 'm.bcm_field_action_add(0, 5, 7, 1, 2)',
-     ('bcm_field_action_add', '(0, 5, 7, 1, 2)'), 1.05),
-    ('9 integers', 'm.bcm_petra_tpid_profile_info_set(0, 1, 2, 3, 4, 5, 6, 7, 8)',
-     ('bcm_petra_tpid_profile_info_set', '(0, 1, 2, 3, 4, 5, 6, 7, 8)'), 1.05),
-    ('pointer', 'm.bcm_port_speed_get(0, 1, box)',
-     ('bcm_port_speed_get', '(0, 1, cbox)'), 1.05),
-    ('text', 'm.bcm_field_show(0, "x")', ('bcm_field_show', '(0, "x")'), 1.05),
-    ('by value', 'm.bcm_field_group_create_id(0, qset, 1, 2)', None, 1.05),
-    ('MAC text', 'm.bcm_l2_addr_delete(0, "00:11:22:aa:bb:cc", 10)', None, 1.05),
-    ('port lists, 0', 'm.bcm_vlan_port_add(0, 10, none, none)', None, 1.1),
-    ('port lists, 1', 'm.bcm_vlan_port_add(0, 10, one, one)', None, 1.1),
-    ('port lists, 48', 'm.bcm_vlan_port_add(0, 10, some, some)', None, 1.1),
-    ('port lists, 571', 'm.bcm_vlan_port_add(0, 10, every, every)', None, 1.1),
-    ('get int field', 'm.bcm_l2_addr_t_port_get(entry)', None, 1.05),
-    ('set int field', 'm.bcm_l2_addr_t_port_set(entry, 5)', None, 1.05),
-    ('get MAC field', 'm.bcm_l2_addr_t_mac_get(entry)', None, 1.05),
-    ('set MAC field', 'm.bcm_l2_addr_t_mac_set(entry, "00:11:22:aa:bb:cc")', None, 1.05),
-    ('get port list, 0', 'm.bcm_l2_addr_t_block_bitmap_get(entry)', None, 1.1),
-    ('get port list, 1', 'm.bcm_l2_addr_t_block_bitmap_get(one_port)', None, 1.1),
-    ('get port list, 48', 'm.bcm_l2_addr_t_block_bitmap_get(some_ports)', None, 1.1),
-    ('get port list, 571', 'm.bcm_l2_addr_t_block_bitmap_get(every_port)', None, 1.1),
-    ('set port list, 1', 'm.bcm_l2_addr_t_block_bitmap_set(one_port, one)', None, 1.1),
-    ('set port list, 48', 'm.bcm_l2_addr_t_block_bitmap_set(some_ports, some)', None, 1.1),
-]
 
-SETUP = '''
-import _OmbraSdkV2Helper as module, _ombra_floor as floor, ctypes
-owner = module.new_intp()
-box = module.intp_cast(owner)
-cbox = ctypes.byref(ctypes.c_int())
-qset = module.new_bcm_field_qset_t()
-entry = module.new_bcm_l2_addr_t()
-none, one, some, every = [], [7], range(48), range(571)
-one_port, some_ports, every_port = [module.new_bcm_l2_addr_t() for i in range(3)]
-module.bcm_l2_addr_t_block_bitmap_set(one_port, [7])
-module.bcm_l2_addr_t_block_bitmap_set(some_ports, some)
-module.bcm_l2_addr_t_block_bitmap_set(every_port, every)
-floor.bind(box, qset, entry)
-for made in (owner, qset, entry, one_port, some_ports, every_port):
-    made.disown()  # kept to the end: without a proxy nothing would free them
-sdk = ctypes.CDLL('libOmbraSdkV2Helper.so.0')
-m = %s
-'''
+def counted(arguments):
+    """Runs count.py under callgrind: [(its line, instructions)]."""
+    folder = tempfile.mkdtemp()
+    try:
+        out = os.path.join(folder, 'out')
+        lines = subprocess.check_output(
+            ['valgrind', '--tool=callgrind', '--quiet', '--dump-before=ombra_bench_mark',
+             '--callgrind-out-file=' + out, sys.executable, os.path.join(HERE, 'count.py')] +
+            arguments, stderr=open(os.devnull, 'w')).splitlines()
+        dumps = glob.glob(out + '.*')
+        dumps.sort(key=lambda name: int(name.rsplit('.', 1)[1]))
+        counts = [int(re.search(r'^totals: (\d+)', open(name).read(), re.M).group(1))
+                  for name in dumps]
+    finally:
+        shutil.rmtree(folder)
+    # The first dump is what came before the first mark; then measured parts and pauses take turns.
+    assert len(counts) == 2 * len(lines), (len(counts), lines)
+    return zip(lines, counts[1::2])
+
+
+def count_all(number):
+    """{(shape, candidate): instructions of a call or row}."""
+    results = {}
+    empty = None
+    for line, count in counted(['calls', str(number)]):
+        parts = line.split('\t')
+        calls = int(parts[-1])
+        if empty is None:
+            empty = float(count) / calls
+            continue
+        shape, candidate = parts[:2]
+        cost = float(count) / calls - empty
+        results[shape, candidate] = cost / shapes.ROWS.get(shape, 1)
+    for candidate, name in zip(('module', 'floor'), IMPORTS):
+        results['import', candidate] = float(counted(['import', name])[0][1])
+    return results
 
 
 def median(values):
     return sorted(values)[len(values) // 2]
 
 
-def interleaved(timers, repetitions, number):
-    """Median time of one run of each timer, in nanoseconds."""
-    times = [[] for _ in timers]
-    for timer in timers:
-        timer.timeit(number // 10 + 1)
-    for _ in range(repetitions):
-        for timer, taken in zip(timers, times):
-            taken.append(timer.timeit(number) / number * 1e9)
-    return [median(taken) for taken in times]
-
-
-def measure_calls(repetitions, number):
-    rows = []
-    for name, statement, foreign, target in CALLS_TABLE:
-        timers = [timeit.Timer(statement, SETUP % 'module'),
-                  timeit.Timer(statement, SETUP % 'floor')]
-        if foreign:
-            timers.append(timeit.Timer('f' + foreign[1], SETUP % 'sdk' + 'f = m.' + foreign[0]))
-        count = max(number // (20 if '571' in name else 1), 1)
-        rows.append((name, interleaved(timers, repetitions, count), target))
-    return rows
+def time_calls(repetitions, number):
+    """{(shape, candidate): nanoseconds of a call or row}."""
+    results = {}
+    found = shapes.candidates()
+    for shape in shapes.SHAPES:
+        count = shapes.number_of(shape, number)
+        runs = [(shapes.run_empty, (count,))]
+        names = [None]
+        for candidate in found:
+            call = shapes.bound(shape, candidate)
+            if call is not None:
+                names.append(candidate[0])
+                runs.append((shapes.run, (count,) + call))
+        taken = [[] for _ in runs]
+        for _ in range(repetitions):
+            for (function, arguments), times in zip(runs, taken):
+                begin = time.clock()
+                function(*arguments)
+                times.append((time.clock() - begin) / count * 1e9)
+        medians = [median(times) for times in taken]
+        for name, value in zip(names, medians)[1:]:
+            results[shape[0], name] = (value - medians[0]) / shapes.ROWS.get(shape[0], 1)
+    return results
 
 
 IMPORT = '''
 import time
-start = time.time()
+begin = time.clock()
 import %s
-print (time.time() - start) * 1e9
+kept = [[] for _ in xrange(1000)]
+print (time.clock() - begin) * 1e9
 '''
 
 
-def measure_import(repetitions, environment):
-    """Each import in a process of its own; what both load is loaded before."""
-    times = [[], []]
+def time_imports(repetitions):
+    """Each import in a process of its own, with the first collection afterwards."""
+    taken = [[], []]
     for _ in range(repetitions):
-        for name, taken in zip(('_OmbraSdkV2Helper', '_ombra_floor_import'), times):
-            taken.append(float(subprocess.check_output(
-                [sys.executable, '-c', IMPORT % name], env=environment)))
-    return [('import', [median(taken) for taken in times], 1.0)]
+        for name, times in zip(IMPORTS, taken):
+            times.append(float(subprocess.check_output([sys.executable, '-c', IMPORT % name])))
+    return dict((('import', candidate), median(times))
+                for candidate, times in zip(('module', 'floor'), taken))
 
 
-SNAPSHOT = '''
-import timeit, sys
-sys.path.insert(0, %r)
-import run
-print run.measure_snapshot(%d)
-'''
-
-
-def measure_snapshot(repetitions):
-    """Runs in a process of its own, whose SDK is the stand-in."""
-    import _OmbraSdkV2Helper as module
-    import _ombra_floor as floor
-    module.addOmbraDevice(0, 1, 0, 0)
-    module.soc_init(0)
-    entry = module.new_bcm_l2_addr_t()
-    box, qset = module.new_intp(), module.new_bcm_field_qset_t()
-    floor.bind(module.intp_cast(box), qset, entry)
-    for made in (box, qset, entry):
-        made.disown()
-    for vid in range(1, 257):
-        for low in range(256):
-            module.bcm_l2_addr_t_init(entry, '02:00:00:00:00:%02x' % low, vid)
-            module.bcm_l2_addr_t_port_set(entry, 1 + low % 64)
-            module.bcm_l2_addr_add(0, entry)
-    assert len(module.getHwMacTable(0)) == 65536
-    timers = [timeit.Timer(lambda: module.getHwMacTable(0)),
-              timeit.Timer(lambda: floor.getHwMacTable(0))]
-    return interleaved(timers, repetitions, 1)
-
-
-def table(rows):
-    lines = ['%-20s %12s %12s %7s %7s %12s %7s'
-             % ('', 'module', 'floor', 'ratio', 'target', 'ctypes', 'times')]
-    for name, times, target in rows:
-        line = '%-20s %9.0f ns %9.0f ns %7.3f %7.2f' % (
-            name, times[0], times[1], times[0] / times[1], target)
-        if len(times) > 2:
-            line += ' %9.0f ns %7.1f' % (times[2], times[2] / times[0])
-        lines.append(line)
+def table(results, unit):
+    rows = [(shape[0], shape[3]) for shape in shapes.SHAPES] + [('import', 0.90)]
+    lines = ['%-19s %10s %10s %6s %6s %s' % (
+        unit, 'module', 'floor', 'ratio', 'target',
+        ' '.join('%12s' % peer for peer in shapes.PEERS))]
+    for name, target in rows:
+        module, floor = results[name, 'module'], results[name, 'floor']
+        line = '%-19s %10.0f %10.0f %6.3f %6.2f' % (name, module, floor, module / floor, target)
+        for peer in shapes.PEERS:
+            cost = results.get((name, peer))
+            line += ' %12s' % ('' if cost is None else '%.2f' % (cost / floor))
+        lines.append(line.rstrip())
+    product = 1.0
+    for shape in shapes.SHAPES:
+        product *= results[shape[0], 'module'] / results[shape[0], 'floor']
+    lines.append('geometric mean without import: %.3f' % product ** (1.0 / len(shapes.SHAPES)))
     return '\n'.join(lines)
 
 
-def chart(rows):
-    """Ratios to the floor as horizontal bars; a line marks the floor."""
-    height = 22
-    parts = ['<svg xmlns="http://www.w3.org/2000/svg" width="640" height="%d" '
-             'font-family="sans-serif" font-size="12">' % (height * len(rows) + 30)]
-    for i, (name, times, target) in enumerate(rows):
-        ratio = times[0] / times[1]
-        y = 10 + i * height
-        colour = '#3a7' if ratio <= target else '#c63'
-        parts.append('<text x="150" y="%d" text-anchor="end">%s</text>' % (y + 13, name))
-        parts.append('<rect x="160" y="%d" width="%.0f" height="16" fill="%s"/>'
-                     % (y, ratio * 300, colour))
-        parts.append('<text x="%.0f" y="%d">%.2f</text>' % (166 + ratio * 300, y + 13, ratio))
-    parts.append('<line x1="460" y1="0" x2="460" y2="%d" stroke="#555"/>' % (height * len(rows)))
-    return '\n'.join(parts + ['</svg>\n'])
+COLOURS = {'module': '#2a7', 'ctypes typed': '#c63', 'ctypes': '#e96', 'Cython': '#36b',
+           'pybind11': '#95b'}
 
 
-def with_null_sdk(build):
-    """The environment in which the SDK that does nothing stands first."""
-    environment = dict(os.environ)
-    environment['LD_LIBRARY_PATH'] = os.path.join(build, 'bench', 'null')
-    return environment
+def chart(results, unit):
+    """Ratios to the floor, a group of bars for each shape; a line marks the floor."""
+    bar, scale, left, widest = 9, 60.0, 140, 9.0
+    parts = []
+    y = 40
+    for shape in shapes.SHAPES:
+        floor = results[shape[0], 'floor']
+        parts.append('<text x="%d" y="%d" text-anchor="end">%s</text>' % (left - 8, y + 9, shape[0]))
+        for name in ['module'] + shapes.PEERS:
+            cost = results.get((shape[0], name))
+            if cost is None:
+                continue
+            ratio = cost / floor
+            width = min(ratio, widest) * scale
+            parts.append('<rect x="%d" y="%d" width="%.0f" height="%d" fill="%s"/>'
+                         '<text x="%.0f" y="%d" font-size="9">%.2f</text>' % (
+                             left, y, width, bar, COLOURS[name], left + width + 3, y + 8, ratio))
+            y += bar
+        y += 7
+    for index, name in enumerate(['module'] + shapes.PEERS):
+        x = left + 110 * index
+        parts.append('<rect x="%d" y="20" width="9" height="9" fill="%s"/>'
+                     '<text x="%d" y="29">%s</text>' % (x, COLOURS[name], x + 13, name))
+    return ('<svg xmlns="http://www.w3.org/2000/svg" width="760" height="%d" '
+            'font-family="sans-serif" font-size="11">\n<text x="8" y="13">%s, as a ratio to '
+            'hand-written code</text>\n%s\n<line x1="%.0f" y1="34" x2="%.0f" y2="%d" '
+            'stroke="#555"/>\n</svg>\n' % (
+                y + 6, unit, '\n'.join(parts), left + scale, left + scale, y))
 
 
 def main(build, quick):
-    repetitions, number = (7, 4000) if quick else (REPETITIONS, CALLS)
-    environment = with_null_sdk(build)
-    if os.environ.get('LD_LIBRARY_PATH') != environment['LD_LIBRARY_PATH']:
-        os.execve(sys.executable, [sys.executable] + sys.argv, environment)
-    rows = measure_calls(repetitions, number)
-    rows += measure_import(repetitions, environment)
-    del os.environ['LD_LIBRARY_PATH']
-    here = os.path.dirname(os.path.abspath(__file__))
-    times = subprocess.check_output([sys.executable, '-c', SNAPSHOT % (here, repetitions)])
-    rows.append(('snapshot, 65536', eval(times), 1.05))
-    text = table(rows)
+    null = os.path.join(build, 'bench', 'null')  # the SDK that does nothing stands first
+    if os.environ.get('LD_LIBRARY_PATH') != null:
+        os.environ['LD_LIBRARY_PATH'] = null
+        os.execv(sys.executable, [sys.executable] + sys.argv)
+    repetitions, number = (5, 2000) if quick else (REPETITIONS, CALLS)
+    names = [candidate[0] for candidate in shapes.candidates()]
+    tables, pictures = [], []
+    for peer in shapes.PEERS:
+        if peer not in names:
+            tables.append('%s: not to be had here, not measured' % peer)
+    if any(os.access(os.path.join(path, 'valgrind'), os.X_OK)
+           for path in os.environ['PATH'].split(':')):
+        results = count_all(COUNTED_CALLS // (5 if quick else 1))
+        tables.append(table(results, 'instructions'))
+        pictures.append((results, 'Instructions'))
+    else:
+        tables.append('valgrind is not installed: instructions not counted')
+    results = time_calls(repetitions, number)
+    results.update(time_imports(repetitions))
+    tables.append(table(results, 'nanoseconds'))
+    pictures.append((results, 'Processor time'))
+    text = '\n\n'.join(tables)
     print text
-    with open(os.path.join(build, 'bench', 'results.txt'), 'w') as results:
-        results.write(text + '\n')
+    with open(os.path.join(build, 'bench', 'results.txt'), 'w') as report:
+        report.write(text + '\n')
     with open(os.path.join(build, 'bench', 'calls.svg'), 'w') as picture:
-        picture.write(chart(rows))
+        picture.write(chart(*pictures[0]))
 
 
 if __name__ == '__main__':
