@@ -2,7 +2,7 @@
 //
 //     generator --root DIR --out DIR     reads DIR/platform, DIR/catalogue and DIR/api
 //     generator --list-rules             what the check pass looks at
-//     generator --list-kinds             the conversion kinds with their declared types
+//     generator --list-kinds             the declared types that cross, with their kinds
 //
 // Exit status 0 and one line of totals, or 1 with every fault of the run and no output written.
 
@@ -137,12 +137,11 @@ int generate(const fs::path &root, const fs::path &out) {
 int list_kinds(const fs::path &root) {
     Model model;
     Faults faults;
+    read_headers(root, model, faults);
     read_catalogue(root, model, faults);
-    std::sort(model.kinds.begin(), model.kinds.end(), [](const KindRow &a, const KindRow &b) {
-        return std::tie(a.kind, a.type) < std::tie(b.kind, b.type);
-    });
+    resolve(model, faults);
     for (const auto &row : model.kinds)
-        std::cout << kind_name(row.kind) << "\t" << row.type << "\n";
+        if (row.used) std::cout << traits(row.kind).name << "\t" << row.type << "\n";
     return 0;
 }
 

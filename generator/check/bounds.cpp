@@ -1,3 +1,4 @@
+// Array bounds as integer expressions.
 #include "generator/check/bounds.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// The check pass.
 #include "generator/check/check.h"
 
 #include <algorithm>
@@ -18,14 +19,15 @@ struct Rule {
     const char *says;
 };
 
-constexpr std::array<Rule, 28> kRules = {{
+constexpr std::array<Rule, 29> kRules = {{
     {"grammar", "a header holds only what docs/declarations.md names"},
     {"purpose", "a header's first line is a comment that says what it is for"},
     {"columns", "a line of a table has all its columns"},
     {"kind-group", "a kinds table is made of [kind] groups"},
     {"kind-missing", "every declared type has a conversion kind"},
     {"kind-twice", "no type has two kinds"},
-    {"kind-form", "a reference is spelled with an ampersand, a value fills its alignment"},
+    {"kind-needed", "a line of the kinds table is used, and says what no declaration does"},
+    {"kind-form", "a value fills its alignment"},
     {"slot-missing", "every pointer type has a row in the type table"},
     {"type-order", "the type table ascends by the bytes of the mangled name, each name once"},
     {"pretty-twice", "no spelling belongs to two types"},
@@ -140,9 +142,9 @@ class Checker {
                             "'" + row.type + "' has a kind on line " +
                                 std::to_string(found->second->place.line) + "; keep one");
             }
-            if (row.kind == Kind::reference && !row.type.ends_with(" &")) {
-                faults_.add(row.place, "kind-form",
-                            "'" + row.type + "' is no reference; spell it 'TYPE &'");
+            if (!row.derived && !row.used) {
+                faults_.add(row.place, "kind-needed",
+                            "'" + row.type + "' is no parameter, field or result; remove the line");
             }
             if (row.kind == Kind::by_value && !fills_alignment(row)) {
                 faults_.add(row.place, "kind-form",
@@ -204,12 +206,10 @@ class Checker {
     void check_results() {
         for (const auto &function : model_.functions) {
             const Kind kind = function.conversion.kind;
-            const bool none = kind == Kind::unsigned_long || kind == Kind::reference ||
-                              kind == Kind::mac_string || kind == Kind::fixed_array;
-            if (none && function.hand_written.empty()) {
+            if (traits(kind).no_result && function.hand_written.empty()) {
                 faults_.add(function.place, "result-kind",
                             "'" + function.row + "' returns '" + function.result + "', of kind " +
-                                kind_name(kind) +
+                                traits(kind).name +
                                 ", which has no result; return another type, "
                                 "or add a departure 'body'");
             }

@@ -1,3 +1,4 @@
+// The resolve pass: conversions, layouts, twins and departures.
 #include "generator/check/resolve.h"
 
 #include <algorithm>
@@ -6,6 +7,7 @@
 #include <unordered_map>
 
 #include "generator/check/bounds.h"
+#include "generator/check/derive_kinds.h"
 
 namespace generator {
 namespace {
@@ -37,6 +39,7 @@ class Resolver {
     Resolver(Model &model, Faults &faults) : model_(model), faults_(faults) {}
 
     void run() {
+        derive_kinds(model_, faults_);
         add_twins();
         index();
         for (auto &record : model_.structs) lay_out(record);
@@ -69,7 +72,8 @@ class Resolver {
             mangled_[model_.types[i].mangled] = static_cast<int>(i);
             for (const auto &name : model_.types[i].pretty) pretty_[name] = static_cast<int>(i);
         }
-        for (const auto &row : model_.kinds) kinds_[row.type] = &row;
+        for (auto &row : model_.kinds)
+            if (!kinds_.emplace(row.type, &row).second) row.used = true;  // told by kind-twice
         for (const auto &row : model_.typedefs) typedefs_[row.name] = &row;
         for (auto &record : model_.structs) structs_[record.name] = &record;
         names_.insert(model_.defines.begin(), model_.defines.end());
@@ -104,28 +108,6 @@ class Resolver {
         conversion.slot = plain == "void *" ? any_slot() : conversion.result_slot;
     }
 
-    static std::pair<std::size_t, std::size_t> width(Kind kind) {
-        switch (kind) {
-            case Kind::signed_8:
-            case Kind::unsigned_8:
-            case Kind::strict_bool:
-                return {1, 1};
-            case Kind::signed_16:
-            case Kind::unsigned_16:
-                return {2, 2};
-            case Kind::signed_32:
-            case Kind::unsigned_32:
-            case Kind::address_32:
-                return {4, 4};
-            case Kind::port_bitmap:
-                return {72, 4};
-            case Kind::mac_string:
-                return {6, 1};
-            default:
-                return {8, 8};
-        }
-    }
-
     // The conversion of a type as a parameter or a result; fields are bent below.
     Conversion convert(const Variable &variable) {
         Conversion conversion;
@@ -135,14 +117,20 @@ class Resolver {
         if (!variable.bounds.empty()) {
             convert_array(conversion, type, variable.bounds, variable.place);
         } else if (row != kinds_.end()) {
+            row->second->used = true;
             convert_named(conversion, *row->second, variable.place);
+        } else if (ends_with(type, " &")) {
+            const KindTraits &kind = traits(Kind::reference);
+            convert_named(conversion, {type, kind.kind, kind.size, kind.align, variable.place},
+                          variable.place);
         } else if (type == "void") {
             conversion.kind = Kind::nothing;
         } else if (type == "PyObject *") {
             conversion.kind = Kind::object;
         } else if (ends_with(type, "*")) {
             conversion.kind = Kind::pointer;
-            conversion.size = conversion.align = 8;
+            conversion.size = traits(Kind::pointer).size;
+            conversion.align = traits(Kind::pointer).align;
             set_pointer_slots(conversion, type, variable.place);
         } else if (Struct *record = find_struct(type)) {
             lay_out(*record);
@@ -157,19 +145,16 @@ class Resolver {
         } else {
             faults_.add(variable.place, "kind-missing",
                         "'" + type +
-                            "' has no conversion kind; add a line to "
-                            "catalogue/kinds.txt, or declare the struct");
+                            "' has no conversion kind; declare it by a typedef, OMBRA_ENUM "
+                            "or struct, or add a line to catalogue/kinds.txt");
         }
         return conversion;
     }
 
     void convert_named(Conversion &conversion, const KindRow &row, const Place &place) {
         conversion.kind = row.kind;
-        std::tie(conversion.size, conversion.align) = width(row.kind);
-        if (row.kind == Kind::by_value) {
-            conversion.size = row.size;
-            conversion.align = row.align;
-        }
+        conversion.size = row.size;
+        conversion.align = row.align;
         if (row.kind == Kind::by_value || row.kind == Kind::reference) {
             std::string target = without_const(row.type);
             if (row.kind == Kind::reference)
@@ -183,16 +168,10 @@ class Resolver {
     // Bytes of a plain number behind any number of typedefs, 0 for anything else: the element of an
     // array may be a name that crosses nowhere alone.
     std::size_t number_width(const std::string &type) const {
-        static const std::unordered_map<std::string, std::size_t> widths = {
-            {"char", 1},         {"signed char", 1},    {"unsigned char", 1},
-            {"short", 2},        {"unsigned short", 2}, {"int", 4},
-            {"unsigned int", 4}, {"long", 8},           {"unsigned long", 8}};
-        const auto width = widths.find(type);
-        if (width != widths.end()) return width->second;
         const auto row = typedefs_.find(type);
-        return row == typedefs_.end() || !row->second->bounds.empty()
-                   ? 0
-                   : number_width(row->second->type);
+        if (row != typedefs_.end() && row->second->bounds.empty())
+            return number_width(row->second->type);
+        return traits(kind_of_native(type)).size;
     }
 
     void convert_array(Conversion &conversion, const std::string &element,
@@ -288,6 +267,8 @@ class Resolver {
     void set_visible(const Departure &departure, Function &function);
 
     void resolve_variable(GlobalVariable &variable) {
+        if (const auto row = kinds_.find(variable.type); row != kinds_.end())
+            row->second->used = true;
         if (variable.mangled == "-") {
             static const std::set<std::string> pointers = {"struct", "pointer-array", "function",
                                                            "read-only-array"};
@@ -312,7 +293,7 @@ class Resolver {
     Faults &faults_;
     std::unordered_map<std::string, int> mangled_;
     std::unordered_map<std::string, int> pretty_;
-    std::unordered_map<std::string, const KindRow *> kinds_;
+    std::unordered_map<std::string, KindRow *> kinds_;
     std::unordered_map<std::string, const Typedef *> typedefs_;
     std::unordered_map<std::string, Struct *> structs_;
     std::set<const Struct *> laying_out_;

@@ -1,3 +1,4 @@
+// Makes the rows out of the model, with their names, messages and docstrings.
 #include "generator/check/rows.h"
 
 #include <algorithm>
@@ -8,11 +9,6 @@ namespace generator {
 namespace {
 
 const std::string kNullPrefix = "invalid null reference ";
-
-// Whether a null pointer of this kind is refused as an argument.
-bool refuses_null(Kind kind) {
-    return kind == Kind::by_value || kind == Kind::reference || kind == Kind::nested_struct;
-}
 
 std::string method_text(const std::string &row, std::size_t index, const std::string &type) {
     return "in method '" + row + "', argument " + std::to_string(index + 1) + " of type '" + type +
@@ -46,7 +42,7 @@ Row function_row(const Function &function) {
     row.header = function.place.file;
     for (const auto &parameter : function.visible) {
         add_argument(row, parameter.name, parameter.conversion,
-                     refuses_null(parameter.conversion.kind));
+                     traits(parameter.conversion.kind).refuses_null);
     }
     row.result_type = function.visible_result;
     row.result = function.conversion;
@@ -78,7 +74,7 @@ void add_field_rows(const Model &model, const Struct &record, const Variable &fi
     Row setter = class_row(record, RowRole::setter, record.name + "_" + field.name + "_set");
     setter.field = &field;
     add_argument(setter, "self", self, true);
-    add_argument(setter, field.name, field.conversion, refuses_null(field.conversion.kind));
+    add_argument(setter, field.name, field.conversion, traits(field.conversion.kind).refuses_null);
     if (field.conversion.kind == Kind::fixed_array) {
         setter.field_null_text = kNullPrefix + "in variable '" + field.name + "' of type '" +
                                  field.conversion.text + "'";
@@ -166,7 +162,7 @@ void add_box_rows(const Model &model, const Helper &box, std::vector<Row> &rows)
     add_argument(destroy, "self", self, false);
     Row assign = helper_row(RowRole::box, box.name + "_assign");
     add_argument(assign, "self", self, true);
-    add_argument(assign, "value", box.value, refuses_null(box.value.kind));
+    add_argument(assign, "value", box.value, traits(box.value.kind).refuses_null);
     Row value = helper_row(RowRole::box, box.name + "_value");
     add_argument(value, "self", self, true);
     value.result_type = box.element;
@@ -204,7 +200,7 @@ void add_array_rows(const Model &model, const Helper &array, std::vector<Row> &r
     Row set = helper_row(RowRole::array, array.name + "_setitem");
     add_argument(set, "ary", pointer, true);
     add_argument(set, "index", index, false);
-    add_argument(set, "value", array.value, refuses_null(array.value.kind));
+    add_argument(set, "value", array.value, traits(array.value.kind).refuses_null);
     for (Row *row : {&create, &destroy, &get, &set}) {
         finish(*row);
         rows.push_back(std::move(*row));

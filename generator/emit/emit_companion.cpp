@@ -170,9 +170,9 @@ struct CallbackName {
 std::vector<CallbackName> callback_names(const Model &model) {
     std::vector<CallbackName> names;
     for (const auto &row : model.kinds)
-        if (row.kind == Kind::function_pointer)
+        if (row.used && row.kind == Kind::function_pointer)
             names.push_back({row.type, row.type, slot_of_pretty(model, row.type)});
-        else if (row.kind == Kind::by_value && ends_with(row.type, "_cb_t"))
+        else if (row.used && row.kind == Kind::by_value && ends_with(row.type, "_cb_t"))
             names.push_back({row.type, row.type, 0});
     for (const auto &variable : model.variables)
         if (variable.kind == "function")

@@ -1,3 +1,4 @@
+// The rows of boxes and arrays.
 #include "generator/check/rows.h"
 #include "generator/emit/emitters.h"
 #include "generator/emit/output.h"

@@ -53,18 +53,11 @@ std::string type_name(const Model &model, int slot) {
     return index < model.types.size() ? model.types[index].mangled : "";
 }
 
-// Conversions whose objects carry a type.
-bool has_slot(Kind kind) {
-    return kind == Kind::pointer || kind == Kind::function_pointer || kind == Kind::by_value ||
-           kind == Kind::reference || kind == Kind::fixed_array || kind == Kind::nested_struct ||
-           kind == Kind::pointer_field;
-}
-
 Object conversion(const Model &model, const Conversion &value) {
     Object object;
-    object.add("kind", kind_name(value.kind)).add("type", value.text);
+    object.add("kind", traits(value.kind).name).add("type", value.text);
     object.add("size", value.size).add("align", value.align).add("count", value.count);
-    if (has_slot(value.kind)) {
+    if (traits(value.kind).typed) {
         object.add("slot", type_name(model, value.slot));
         object.add("result_slot", type_name(model, value.result_slot));
     }

@@ -45,7 +45,7 @@ std::string class_text(const Struct &record) {
     std::string fields;
     for (const auto &field : record.fields) {
         fields += "| " + field.name + " | " + cell(spelled(field.type, field.bounds)) + " | " +
-                  kind_name(field.conversion.kind) + " |\n";
+                  traits(field.conversion.kind).name + " |\n";
     }
     return fill(kClass,
                 {{"name", record.name}, {"size", std::to_string(record.size)}, {"fields", fields}});

@@ -1,3 +1,4 @@
+// The rows of a header: records, entries, and the proofs of layouts.
 #include <algorithm>
 #include <set>
 
@@ -112,41 +113,12 @@ std::string function_text(const Row &row) {
                  {"native", native}});
 }
 
-std::string getter_of(const Conversion &field) {
-    switch (field.kind) {
-        case Kind::text:
-            return "get_text";
-        case Kind::mac_string:
-            return "get_mac";
-        case Kind::fixed_array:
-        case Kind::nested_struct:
-            return "get_alias";
-        case Kind::pointer_field:
-        case Kind::function_pointer:
-            return "get_pointer";
-        case Kind::by_value:
-            return "get_copy";
-        default:
-            return "get_value<" + kind_class(field) + ">";
-    }
-}
-
-std::string setter_of(const Variable &field) {
-    switch (field.conversion.kind) {
-        case Kind::text:
-            return field.type == "char *" ? "set_text" : "set_constant_text";
-        case Kind::mac_string:
-            return "set_mac";
-        case Kind::fixed_array:
-            return "set_array";
-        case Kind::pointer_field:
-            return "set_pointer";
-        case Kind::nested_struct:
-        case Kind::by_value:
-            return "set_copy";
-        default:
-            return "set_value<" + kind_class(field.conversion) + ">";
-    }
+// "get_value" and "set_value" are templates on the kind.
+std::string accessor_of(const Variable &field, bool getter) {
+    const KindTraits &kind = traits(field.conversion.kind);
+    const std::string name = getter ? kind.getter : kind.setter;
+    if (name.ends_with("_value")) return name + "<" + kind_class(field.conversion) + ">";
+    return name == "set_text" && field.type == "char const *" ? "set_constant_text" : name;
 }
 
 std::string field_text(const Row &row) {
@@ -161,7 +133,7 @@ std::string field_text(const Row &row) {
                          {"offset", std::to_string(row.field->offset)},
                          {"size", std::to_string(field.size)},
                          {"count", std::to_string(field.count)},
-                         {"accessor", getter ? getter_of(field) : setter_of(*row.field)}});
+                         {"accessor", accessor_of(*row.field, getter)}});
 }
 
 std::string row_text(const Row &row) {
@@ -242,47 +214,10 @@ std::string emit_shapes(const Model &model, unsigned part) {
 }
 
 std::string kind_class(const Conversion &conversion) {
-    switch (conversion.kind) {
-        case Kind::signed_8:
-            return "Signed8";
-        case Kind::signed_16:
-            return "Signed16";
-        case Kind::signed_32:
-            return "Signed32";
-        case Kind::unsigned_8:
-            return "Unsigned8";
-        case Kind::unsigned_16:
-            return "Unsigned16";
-        case Kind::unsigned_32:
-            return "Unsigned32";
-        case Kind::unsigned_long:
-            return "UnsignedLong";
-        case Kind::unsigned_64:
-            return "Unsigned64";
-        case Kind::address_32:
-            return "Address32";
-        case Kind::strict_bool:
-            return "StrictBool";
-        case Kind::text:
-            return "Text";
-        case Kind::function_pointer:
-            return "FunctionPointer";
-        case Kind::reference:
-            return "Reference";
-        case Kind::port_bitmap:
-            return "PortBitmap";
-        case Kind::mac_string:
-            return "MacString";
-        case Kind::object:
-            return "Object";
-        case Kind::nothing:
-            return "Nothing";
-        case Kind::by_value:
-            return "ByValue<" + std::to_string(conversion.size) + ", " +
-                   std::to_string(conversion.align) + ">";
-        default:
-            return "Pointer";
-    }
+    const std::string name = traits(conversion.kind).frame;
+    if (conversion.kind != Kind::by_value) return name;
+    return name + "<" + std::to_string(conversion.size) + ", " + std::to_string(conversion.align) +
+           ">";
 }
 
 std::string rows_file(const std::string &header) {

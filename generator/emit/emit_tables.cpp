@@ -1,3 +1,4 @@
+// The tables that stand once: methods, types, constants and variables.
 #include <algorithm>
 
 #include "generator/check/rows.h"

@@ -1,3 +1,4 @@
+// Templates with holes, literals, and files written only when they differ.
 #include "generator/emit/output.h"
 
 #include <filesystem>

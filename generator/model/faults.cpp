@@ -1,3 +1,4 @@
+// Collects and prints the faults of a run.
 #include "generator/model/faults.h"
 
 #include <algorithm>

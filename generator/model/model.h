@@ -10,37 +10,13 @@
 #include <string>
 #include <vector>
 
+#include "generator/model/kinds.h"
+
 namespace generator {
 
 struct Place {
     std::string file;  // "platform/sdk/bcm/l2.h"
     int line = 0;      // 41
-};
-
-enum class Kind {
-    none,
-    signed_8,
-    signed_16,
-    signed_32,
-    unsigned_8,
-    unsigned_16,
-    unsigned_32,
-    unsigned_long,
-    unsigned_64,
-    address_32,
-    strict_bool,
-    text,
-    pointer,
-    function_pointer,
-    by_value,
-    reference,
-    port_bitmap,
-    mac_string,
-    fixed_array,
-    nested_struct,
-    pointer_field,
-    object,  // any Python object, passed through; only in hand-written rows
-    nothing  // a `void` result
 };
 
 // Everything a declared type decides about how a value crosses.
@@ -91,7 +67,7 @@ struct Struct {
 
 struct Typedef {
     std::string name;                 // "bcm_mac_t"
-    std::string type;                 // "unsigned char"
+    std::string type;                 // "unsigned char"; "(*)" for a callback
     std::vector<std::string> bounds;  // {"6"}
     Place place;
 };
@@ -104,11 +80,13 @@ struct TypeRow {
 };
 
 struct KindRow {
-    std::string type;  // "bcm_gport_t"
+    std::string type;  // "sal_vaddr_t"
     Kind kind = Kind::none;
     std::size_t size = 0;  // of a value
     std::size_t align = 0;
     Place place;
+    bool derived = false;  // from a declaration; the table lists the exceptions
+    bool used = false;
 };
 
 // One step of filling the module dictionary.
@@ -155,8 +133,5 @@ struct Model {
 
 // "unsigned char [16]": a declared type with its bounds.
 std::string spelled(const std::string &type, const std::vector<std::string> &bounds);
-
-// The name of a kind as the tables write it, "signed-32".
-const char *kind_name(Kind kind);
 
 }  // namespace generator

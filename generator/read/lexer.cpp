@@ -1,3 +1,4 @@
+// Cuts the text of a header into tokens.
 #include "generator/read/lexer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Reads the tables: lines, columns, numbers.
 #include "generator/read/read_catalogue.h"
 
 #include <charconv>
@@ -30,12 +31,6 @@ template <typename Number>
 bool read_number(const std::string &text, Number &value) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     return error == std::errc() && end == text.data() + text.size();
-}
-
-Kind kind_of_name(const std::string &name) {
-    for (int i = 1; i <= static_cast<int>(Kind::nothing); ++i)
-        if (name == kind_name(static_cast<Kind>(i))) return static_cast<Kind>(i);
-    return Kind::none;
 }
 
 }  // namespace
@@ -75,6 +70,8 @@ void read_kinds(const std::string &file, const std::string &source, Model &model
         group = {};
         group.kind = words.empty() ? Kind::none : kind_of_name(words[0]);
         const bool sized = group.kind == Kind::by_value;
+        group.size = traits(group.kind).size;
+        group.align = traits(group.kind).align;
         if (group.kind == Kind::none || words.size() != (sized ? 3U : 1U) ||
             (sized &&
              (!read_number(words[1], group.size) || !read_number(words[2], group.align)))) {

@@ -1,3 +1,4 @@
+// The parser of the declarations.
 #include "generator/read/read_headers.h"
 
 #include <algorithm>
@@ -149,12 +150,14 @@ class Parser {
     void enumeration() {
         take();
         expect("(");
-        expect_name();
+        const Place place = here();
+        const std::string tag = expect_name();
         expect(",");
         const std::string name = expect_name();
         expect(")");
         expect(";");
-        model_.typedefs.push_back({name, "int", {}, here()});
+        model_.typedefs.push_back({tag, "int", {}, place});
+        model_.typedefs.push_back({name, "int", {}, place});
     }
 
     void type_definition() {
@@ -181,7 +184,8 @@ class Parser {
                 return;
             }
         }
-        if (is_callback()) {
+        if (const std::string name = callback_name(); !name.empty()) {
+            model_.typedefs.push_back({name, "(*)", {}, here()});
             skip_statement();
             return;
         }
@@ -193,10 +197,10 @@ class Parser {
     }
 
     // typedef RESULT (*NAME)(...): the type table and the kinds know it by its name.
-    bool is_callback() const {
+    std::string callback_name() const {
         for (std::size_t i = 0; peek(i).text != ";" && peek(i).type != Token::Type::end; ++i)
-            if (peek(i).text == "(") return peek(i + 1).text == "*";
-        return false;
+            if (peek(i).text == "(") return peek(i + 1).text == "*" ? peek(i + 2).text : "";
+        return "";
     }
 
     void named_struct() {

@@ -2,11 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "driver.h"
 
 namespace {
+
+std::ptrdiff_t count(const std::string &text, const std::string &line) {
+    const auto lines = lines_of(text);
+    return std::count(lines.begin(), lines.end(), line);
+}
 
 TEST(Options, UsageErrors) {
     const std::vector<std::vector<std::string>> wrong = {{},
@@ -39,20 +45,15 @@ TEST(Options, RulesAreListedOnceWithWhatTheySay) {
     EXPECT_FALSE(names.empty());
 }
 
-// Every line of the kinds table with its group.
+// What a line gives and what a declaration gives, but nothing that crosses nowhere.
 TEST(Options, KindsAreListedWithTheirTypes) {
-    const fs::path small = tests_folder() / "small";
-    std::multiset<std::string> expected;
-    std::string kind;
-    for (const auto &line : lines_of(read_text(small / "catalogue/kinds.txt")))
-        if (line[0] == '[')
-            kind = line.substr(1, line.find_first_of(" ]") - 1);
-        else if (line[0] != '#')
-            expected.insert(kind + "\t" + line);
-    const Outcome run = run_generator({"--root", small.string(), "--list-kinds"});
+    const Outcome run =
+        run_generator({"--root", (tests_folder() / "small").string(), "--list-kinds"});
     EXPECT_EQ(run.status, 0);
-    const auto lines = lines_of(run.out);
-    EXPECT_EQ(std::multiset<std::string>(lines.begin(), lines.end()), expected);
+    for (const char *line : {"signed-32\tint", "signed-32\ttiny_color_e", "unsigned-64\tuint64",
+                             "text\tchar const *", "function-pointer\ttiny_cb"})
+        EXPECT_EQ(count(run.out, line), 1) << line;
+    EXPECT_EQ(count(run.out, "unsigned-16\tunsigned short"), 0);
 }
 
 TEST(Options, SuccessIsOneLineOfTotals) {
