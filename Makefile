@@ -17,7 +17,7 @@ compile_debug := cmake --build build/debug --parallel $(JOBS)
 python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
 have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
 
-.PHONY: help demo test build debug bench docs fuzz install format tidy setup configure clean
+.PHONY: help demo test build debug bench docs fuzz install format tidy setup configure mutants clean
 
 demo: build ## install what is missing, build, and run the quick start
 	@$(call python,examples/quickstart.py)
@@ -62,6 +62,9 @@ setup: ## install what is missing on this machine, nothing else
 
 configure: setup
 	@setup/configure.sh release
+
+mutants: build ## plant faults one by one; the release suites must catch each
+	@tests/mutants/run.py build $(JOBS)
 
 clean: ## remove all that was built
 	rm -rf build

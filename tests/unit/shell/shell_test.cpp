@@ -74,7 +74,7 @@ std::string replay(const std::string &session) {
 class ShellSession : public ShellTest, public ::testing::WithParamInterface<const char *> {};
 
 TEST_P(ShellSession, GoesAsItDidBefore) {
-    std::string path = std::string(DIAG_GOLDEN_DIR) + '/' + GetParam() + ".txt";
+    std::string path = std::string(GOLDEN_DIR) + '/' + GetParam() + ".txt";
     std::string session = content(path);
     std::string went = replay(session);
     if (std::getenv("OMBRA_ACCEPT") != nullptr && went != session) {

@@ -5,7 +5,7 @@
 #include "sdk/soc/reg.h"
 #include "standin/phy/hooks.h"
 #include "standin/regs/hooks.h"
-#include "tests/unit/chip/chip_fixture.h"
+#include "chip_fixture.h"
 
 namespace standin {
 
