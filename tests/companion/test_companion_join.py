@@ -38,13 +38,6 @@ class JoinTestCase(unittest.TestCase):
 
 class JoinTest(JoinTestCase):
 
-    def test_alone(self):
-        self.check_facts('_swig_companion')
-
-    def test_neighbour_in_either_order(self):
-        self.check_facts('_swig_companion', '_swig_neighbour')
-        self.check_facts('_swig_neighbour', '_swig_companion')
-
     def test_class_registered_by_one_serves_the_other(self):
         self.assertEqual(run_child(
             'import _swig_neighbour as neighbour\n'

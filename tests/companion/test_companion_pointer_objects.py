@@ -117,14 +117,6 @@ class PointerObjectTest(CompanionTest):
         self.assertEqual(texts[0].count('<Swig Object'), 3)
         self.assertNotIn('> <', texts[0])
 
-    def test_append_over_an_earlier_one(self):
-        first, second, third = [companion.make(BASE, 8) for _ in range(3)]
-        count = sys.getrefcount(second)
-        first.append(second)
-        first.append(third)
-        self.assertIs(first.next(), third)
-        self.assertEqual(sys.getrefcount(second), count)
-
     def test_append_takes_pointer_objects_only(self):
         pointer = companion.make(BASE, 8)
         foreign = neighbour.make(BASE, 16)
@@ -143,30 +135,6 @@ class PointerObjectTest(CompanionTest):
         self.assertEqual(companion.convert(first, DERIVED)[0],
                          companion.STATUS_GENERIC)
         first.append(companion.make(BASE, 24))
-
-
-class PackedObjectTest(CompanionTest):
-
-    def test_texts(self):
-        self.assertEqual(repr(companion.packed),
-                         '<Swig Packed at _2a000000%s>' % UNNAMED)
-        self.assertEqual(str(companion.packed), '_2a000000' + UNNAMED)
-        self.assertEqual(str(companion.packed_511), '_' + '00' * 511 + UNNAMED)
-        self.assertEqual(repr(companion.packed_512),
-                         '<Swig Packed %s>' % UNNAMED)
-        self.assertEqual(str(companion.packed_512), UNNAMED)
-        self.assertIsNone(companion.packed_null)
-        self.assertEqual(type(companion.packed).__name__, 'SwigPyPacked')
-
-    def test_order_is_by_size_first(self):
-        self.assertEqual(companion.packed, companion.packed_again)
-        self.assertIsNot(companion.packed, companion.packed_again)
-        self.assertLess(companion.packed, companion.packed_511)
-        self.assertGreater(companion.packed_512, companion.packed_511)
-
-    def test_is_no_pointer(self):
-        self.assertEqual(companion.convert(companion.packed, None)[0],
-                         companion.STATUS_GENERIC)
 
 
 if __name__ == '__main__':

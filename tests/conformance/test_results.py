@@ -7,6 +7,7 @@ import struct
 from kinds import bitmap, valid_objects, values
 from support import (PLAIN, RECORDER, ConformanceTest, address_of, disown,
                      display_name, module, pattern)
+from totals import TOTALS
 
 SIGNED = [0, 1, -1, -16, 2 ** 31 - 1, -2 ** 31]
 
@@ -93,7 +94,7 @@ class ResultTest(ConformanceTest):
 
     def test_appended_numbers(self):
         appended = [row for row in PLAIN if row.appended]
-        self.assertEqual(len(appended), 10)
+        self.assertEqual(len(appended), TOTALS['appended outputs'])
         for row in appended:
             valids = valid_objects(row)
             for number in SIGNED:

@@ -7,8 +7,10 @@ import sys
 import unittest
 
 import _echo
+import leaks
 
 DEBUG = hasattr(sys, 'gettotalrefcount')
+leaks.native_blocks = _echo.live_blocks
 
 
 def proxy_class(name):

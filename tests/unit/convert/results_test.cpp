@@ -13,17 +13,6 @@ namespace {
 using ombra::PyRef;
 using ResultsTest = tiny::Test;
 
-TEST_F(ResultsTest, Texts) {
-    const PyRef none(ombra::text_result(nullptr));
-    EXPECT_EQ(none.get(), Py_None);
-    for (const char *text : {"", "text", "\xff\xfe"}) {
-        const PyRef result(ombra::text_result(text));
-        ASSERT_TRUE(PyString_Check(result.get()));
-        EXPECT_STREQ(PyString_AS_STRING(result.get()), text);
-        EXPECT_NE(PyString_AS_STRING(result.get()), text);
-    }
-}
-
 // A text of `length` characters in little memory: one block of 'x', mapped over and over.
 class LongText {
   public:
@@ -67,18 +56,6 @@ TEST_F(ResultsTest, TextOfTwoGigabytes) {
     EXPECT_EQ(object->ptr, text.text());
     EXPECT_EQ(object->type, tiny::type(tiny::character));
     EXPECT_EQ(object->own, 0);
-}
-
-TEST_F(ResultsTest, CopiesAreOwnedAndApart) {
-    const int value = 77;
-    const PyRef result(ombra::owned_copy(&value, sizeof value, tiny::type(tiny::unnamed)));
-    ASSERT_TRUE(SwigPyObject_Test(result.get()));
-    auto *object = ombra::as_pointer_object(result.get());
-    EXPECT_NE(object->ptr, &value);
-    EXPECT_EQ(*static_cast<int *>(object->ptr), 77);
-    EXPECT_EQ(object->own, 1);
-    object->own = 0;
-    ::operator delete(object->ptr);
 }
 
 TEST_F(ResultsTest, AnAllocationOfNoKnownType) {

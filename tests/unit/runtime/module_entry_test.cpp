@@ -28,18 +28,6 @@ std::string refused(const char *statement, PyObject *exception_class) {
     return done == nullptr ? tiny::take_error(exception_class) : "";
 }
 
-TEST_F(ModuleEntryTest, FillsTheDictionary) {
-    EXPECT_EQ(evaluate("(least, two, most)"), "(-2147483648, 2, 2147483647)");
-    EXPECT_EQ(evaluate("target").find("<Swig Object of type 'tiny_t *' at 0x"), 0U);
-    EXPECT_EQ(evaluate("target.own()"), "False");
-    EXPECT_EQ(evaluate("(packed, str(packed))"),
-              "(<Swig Packed at _07000000_p_int>, '_07000000_p_int')");
-    EXPECT_EQ(evaluate("nothing"), "None");
-    EXPECT_EQ(evaluate("skipped"), "name 'skipped' is not defined");
-    EXPECT_EQ(evaluate("__doc__"), "None");
-    EXPECT_EQ(evaluate("SWIG_PyInstanceMethod_New(0)"), "error return without exception set");
-}
-
 TEST_F(ModuleEntryTest, VariableLink) {
     EXPECT_EQ(evaluate("(cvar, str(cvar))"), "(<Swig global variables>, '(limit, silent, level)')");
     EXPECT_EQ(refused("cvar.level = 5", PyExc_Exception), "");

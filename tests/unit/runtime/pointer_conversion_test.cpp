@@ -41,21 +41,6 @@ TEST_F(PointerConversionTest, MereTestRunsNoConverter) {
     EXPECT_EQ(raw(square)->own, 0);
 }
 
-TEST_F(PointerConversionTest, ObjectsWithoutTypePassForAnyPointerOnly) {
-    const PyRef untyped(SwigPyObject_New(memory_.data(), nullptr, 0));
-    void *out = nullptr;
-    EXPECT_EQ(SWIG_Python_ConvertPtrAndOwn(untyped.get(), &out, nullptr, 0), STATUS_OK);
-    EXPECT_EQ(out, memory_.data());
-    EXPECT_EQ(SWIG_Python_ConvertPtrAndOwn(untyped.get(), &out, tiny::type(tiny::shape), 0),
-              STATUS_GENERIC);
-    EXPECT_EQ(tiny::repr(untyped.get()).find("<Swig Object of type 'unknown' at 0x"), 0U);
-}
-
-TEST_F(PointerConversionTest, NullPointerIsNoneWhateverTheFlags) {
-    const PyRef none(SWIG_Python_NewPointerObj(nullptr, tiny::type(tiny::shape), 7));
-    EXPECT_EQ(none.get(), Py_None);
-}
-
 TEST_F(PointerConversionTest, LongChainsDieWithoutNesting) {
     PyRef head = make(memory_.data(), tiny::shape);
     for (int count = 0; count < 300000; ++count) {

@@ -53,14 +53,6 @@ TEST_F(TypeTableTest, CheckMovesEachHitToTheFront) {
     }
 }
 
-TEST_F(TypeTableTest, CheckRunsOneWay) {
-    EXPECT_NE(SWIG_TypeCheck("_p_intp", tiny::type(tiny::integer)), nullptr);
-    EXPECT_EQ(SWIG_TypeCheck("_p_int", tiny::type(tiny::integer_box)), nullptr);
-    EXPECT_EQ(SWIG_TypeCheck("_p_int", nullptr), nullptr);
-    swig_type_info unlinked{"_p_int", nullptr, nullptr, nullptr, nullptr, 0};
-    EXPECT_EQ(SWIG_TypeCheck("_p_int", &unlinked), nullptr);
-}
-
 // Tables of every small size, each name searched in each, and names between all neighbours.
 TEST_F(TypeTableTest, BinarySearchFindsAllAndNothingElse) {
     std::vector<std::string> names;
@@ -116,27 +108,6 @@ TEST_F(TypeTableTest, QueryTakesMangledNamesAndSpellings) {
         EXPECT_EQ(SWIG_Python_TypeQuery(entry.key), entry.expected) << entry.key;
     EXPECT_EQ(SWIG_pchar_descriptor(), tiny::type(tiny::character));
     EXPECT_EQ(SWIG_pchar_descriptor(), tiny::type(tiny::character));
-}
-
-TEST_F(TypeTableTest, DisplayNameIsTheLastSpelling) {
-    EXPECT_STREQ(SWIG_TypeDisplayName(tiny::type(tiny::shape)), "shape_t *");
-    EXPECT_STREQ(SWIG_TypeDisplayName(tiny::type(tiny::square)), "square_t *");
-    EXPECT_STREQ(SWIG_TypeDisplayName(tiny::type(tiny::unnamed)), "_p_Unnamed");
-    EXPECT_EQ(SWIG_TypeDisplayName(nullptr), nullptr);
-}
-
-TEST_F(TypeTableTest, ClientDataGoesToUnchangedSourcesWithoutAny) {
-    ThreeSources list;
-    list.links[1].converter = [](void *pointer, int *) { return pointer; };
-    auto *data = reinterpret_cast<SwigPyClientData *>(&list);
-    auto *other = reinterpret_cast<SwigPyClientData *>(&list.type);
-    list.c.client_data = other;
-    SWIG_TypeClientData(&list.type, data);
-    EXPECT_EQ(list.type.client_data, data);
-    EXPECT_EQ(list.a.client_data, data);
-    EXPECT_EQ(list.b.client_data, nullptr);
-    EXPECT_EQ(list.c.client_data, other);
-    EXPECT_EQ(list.a.owns_client_data, 0);
 }
 
 }  // namespace

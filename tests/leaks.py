@@ -1,9 +1,9 @@
-"""The leak detector.
+"""The leak detector of all suites.
 
 A row is hunted along one path: `call` is made over and over, and before and
 after each run the detector reads what must not change: each watched object's
 own count, that of None, the total of all references under the debug
-interpreter, and the module's native blocks. The total alone would hide a gain
+interpreter, and the native blocks, where a module counts them. The total alone would hide a gain
 beside a loss. What changed in the same direction in every run is a fault;
 what changed once is a cache that filled.
 
@@ -15,10 +15,11 @@ import array
 import gc
 import sys
 
-import _echo
-
 RUNS = 3
 DEBUG = hasattr(sys, 'gettotalrefcount')
+
+
+native_blocks = lambda: 0  # set by who counts them
 
 
 def settle():
@@ -43,7 +44,7 @@ class Readings(object):
         for i, thing in enumerate(self.watched):
             self.columns[3 + i][run] = sys.getrefcount(thing)
         self.columns[2][run] = sys.getrefcount(None)
-        self.columns[1][run] = _echo.live_blocks()
+        self.columns[1][run] = native_blocks()
         if DEBUG:
             self.columns[0][run] = sys.gettotalrefcount()
 
