@@ -140,6 +140,21 @@ class AppendedStructureTest(DepartureTest):
                              block)
             module.delete_bcm_port_config_t(result[1])
 
+    def test_a_refusal_keeps_no_structure(self):
+        """It is there before the arguments are looked at."""
+        class Usage(ctypes.Structure):
+            _fields_ = [('sizes', ctypes.c_size_t * 10)]
+        mallinfo = ctypes.CDLL(None).mallinfo2
+        mallinfo.restype = Usage
+
+        def used():
+            return mallinfo().sizes[4] + mallinfo().sizes[7]
+        used()
+        before = used()
+        for _ in xrange(100):
+            self.assertRaises(TypeError, module.bcm_port_config_get, 'x')
+        self.assertLess(used() - before, 50 * size_of('bcm_port_config_t'))
+
 
 class TupleTest(DepartureTest):
     def assert_result(self, result, expected):
