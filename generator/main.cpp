@@ -54,11 +54,10 @@ void read_headers(const fs::path &root, Model &model, Faults &faults) {
 
 void read_catalogue(const fs::path &root, Model &model, Faults &faults) {
     using Read = void (*)(const std::string &, const std::string &, Model &, Faults &);
-    const std::pair<const char *, Read> tables[] = {{"catalogue/types.txt", read_types},
-                                                    {"catalogue/kinds.txt", read_kinds},
-                                                    {"catalogue/constants.txt", read_constants},
-                                                    {"catalogue/variables.txt", read_variables},
-                                                    {"catalogue/departures.txt", read_departures}};
+    const std::pair<const char *, Read> tables[] = {
+        {"catalogue/types.txt", read_types},         {"catalogue/kinds.txt", read_kinds},
+        {"catalogue/constants.txt", read_constants}, {"catalogue/variables.txt", read_variables},
+        {"catalogue/helpers.txt", read_helpers},     {"catalogue/departures.txt", read_departures}};
     for (const auto &[table, read] : tables) read(table, read_file(root / table), model, faults);
 }
 

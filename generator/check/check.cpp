@@ -31,7 +31,7 @@ constexpr std::array<Rule, 29> kRules = {{
     {"slot-missing", "every pointer type has a row in the type table"},
     {"type-order", "the type table ascends by the bytes of the mangled name, each name once"},
     {"pretty-twice", "no spelling belongs to two types"},
-    {"helper-type", "every box and array group finds its types in the type table"},
+    {"helper", "a helper is a box or an array, of numbers or structures"},
     {"bound-unknown", "every array bound is a positive number"},
     {"recursion", "no struct contains itself"},
     {"char-array", "an array of char stands only in a row that reads its arguments by hand"},
@@ -97,33 +97,14 @@ class Checker {
         }
     }
 
-    // Helpers look their slots up by name: one that is not there would be a wrong slot.
     void check_helpers() {
-        for (const auto &box : boxes(model_)) {
-            check_helper_type(box, "_p_" + box.name, type_at(box.slot).mangled);
-            check_helper_element(box);
+        for (const auto &helper : model_.helpers) {
+            const Kind kind = helper.value.kind;
+            const bool number = kind <= Kind::strict_bool && !traits(kind).no_result;
+            if (number || kind == Kind::by_value) continue;
+            faults_.add(helper.place, "helper",
+                        "'" + helper.element + "' is no number and no structure; name one");
         }
-        for (const auto &array : arrays(model_)) check_helper_element(array);
-    }
-
-    void check_helper_element(const Helper &helper) {
-        const auto &pretty = type_at(helper.element_slot).pretty;
-        const bool found = std::find(pretty.begin(), pretty.end(), helper.pointer) != pretty.end();
-        check_helper_type(helper, helper.pointer, found ? helper.pointer : "");
-    }
-
-    void check_helper_type(const Helper &helper, const std::string &wanted,
-                           const std::string &found) {
-        if (found != wanted) {
-            faults_.add({"catalogue/types.txt", 1}, "helper-type",
-                        "'" + helper.name + "' finds no type '" + wanted + "'; add it");
-        }
-    }
-
-    const TypeRow &type_at(int slot) const {
-        static const TypeRow none;
-        const auto index = static_cast<std::size_t>(slot);
-        return index < model_.types.size() ? model_.types[index] : none;
     }
 
     // Whether a row without spellings has a line, and is not a twin made by rule.
@@ -221,7 +202,7 @@ class Checker {
         for (const auto &row : all_rows(model_)) {
             const Place place = row.function != nullptr ? row.function->place
                                 : row.record != nullptr ? row.record->place
-                                                        : Place{"generator/check/rows.cpp", 1};
+                                                        : row.helper->place;
             const auto [found, fresh] = seen.emplace(row.name, place);
             if (!fresh) {
                 faults_.add(place, "duplicate-row",

@@ -46,6 +46,7 @@ class Resolver {
         for (const auto &departure : model_.departures)
             if (is_hand_written(departure) && departure.details != "-")
                 replaced_.insert(departure.row);
+        for (auto &helper : model_.helpers) resolve_helper(helper);
         for (auto &function : model_.functions) resolve_function(function);
         apply_departures();
         for (auto &variable : model_.variables) resolve_variable(variable);
@@ -98,6 +99,14 @@ class Resolver {
             return 0;
         }
         return found->second;
+    }
+
+    int slot_of_mangled(const std::string &name, const Place &place) {
+        const auto found = mangled_.find(name);
+        if (found != mangled_.end()) return found->second;
+        faults_.add(place, "slot-missing",
+                    "'" + name + "' is no type of catalogue/types.txt; add its line");
+        return 0;
     }
 
     int any_slot() const { return static_cast<int>(model_.types.size()); }
@@ -251,6 +260,16 @@ class Resolver {
     // A row whose visible form is given by its departure: the native types may be any.
     bool is_replaced(const Function &function) const { return replaced_.contains(function.row); }
 
+    void resolve_helper(Helper &helper) {
+        Variable element;
+        element.type = helper.element;
+        element.place = helper.place;
+        helper.value = convert(element);
+        helper.element_slot = slot_of_pretty(helper.element + " *", helper.place);
+        if (helper.form == Helper::Form::box)
+            helper.slot = slot_of_mangled("_p_" + helper.name, helper.place);
+    }
+
     void resolve_function(Function &function) {
         if (is_replaced(function)) return;
         for (auto &parameter : function.parameters) parameter.conversion = convert(parameter);
@@ -280,13 +299,7 @@ class Resolver {
             }
             return;
         }
-        const auto found = mangled_.find(variable.mangled);
-        if (found == mangled_.end()) {
-            faults_.add(variable.place, "slot-missing",
-                        "'" + variable.mangled + "' is no type of catalogue/types.txt");
-            return;
-        }
-        variable.slot = found->second;
+        variable.slot = slot_of_mangled(variable.mangled, variable.place);
     }
 
     Model &model_;

@@ -104,138 +104,94 @@ void add_class_rows(const Model &model, const Struct &record, std::vector<Row> &
     rows.insert(rows.end(), {std::move(create), std::move(destroy), std::move(enrol)});
 }
 
-Conversion number(Kind kind, std::size_t size, const std::string &text) {
-    Conversion conversion;
-    conversion.kind = kind;
-    conversion.size = conversion.align = size;
-    conversion.text = text;
-    return conversion;
-}
-
-Helper helper(const Model &model, const std::string &name, const Conversion &value,
-              const std::string &mangled_element) {
-    Helper made;
-    made.name = name;
-    made.element = value.text;
-    made.pointer = value.text + " *";
-    made.value = value;
-    made.element_slot = slot_of(model, mangled_element);
-    return made;
-}
-
-// The element of a helper that holds a struct; nothing where the catalogue has no such class.
-const Struct *helper_struct(const Model &model, const std::string &name) {
-    const auto found = std::find_if(model.structs.begin(), model.structs.end(),
-                                    [&](const Struct &record) { return record.name == name; });
-    return found == model.structs.end() ? nullptr : &*found;
-}
-
-void add_struct_helper(const Model &model, const std::string &name, const std::string &element,
-                       std::vector<Helper> &helpers) {
-    const Struct *record = helper_struct(model, element);
-    if (record == nullptr) return;
-    Conversion value = number(Kind::by_value, record->size, element);
-    value.align = record->align;
-    value.slot = value.result_slot = record->slot;
-    helpers.push_back(
-        helper(model, name, value, model.types[static_cast<std::size_t>(record->slot)].mangled));
-}
-
-Row helper_row(RowRole role, const std::string &name) {
+Row helper_row(const Helper &helper, RowRole role, const std::string &name) {
     Row row;
     row.role = role;
     row.name = name;
+    row.helper = &helper;
     return row;
 }
 
-std::string without_star(const Model &model, const Helper &helper) {
-    return helper_struct(model, helper.element) == nullptr ? helper.pointer : helper.element;
-}
-
-void add_box_rows(const Model &model, const Helper &box, std::vector<Row> &rows) {
+// `element` is a pointer to the helper's element, `type` what docstrings call it.
+std::vector<Row> box_rows(const Helper &box, const Conversion &element, const std::string &type) {
     const Conversion self = pointer_to(box.name + " *", box.slot);
-    const Conversion element = pointer_to(box.pointer, box.element_slot);
-    Row create = helper_row(RowRole::box, "new_" + box.name);
+    Row create = helper_row(box, RowRole::box_new, "new_" + box.name);
     create.result_type = box.name;
     create.result = self;
-    Row destroy = helper_row(RowRole::box, "delete_" + box.name);
+    Row destroy = helper_row(box, RowRole::box_delete, "delete_" + box.name);
     add_argument(destroy, "self", self, false);
-    Row assign = helper_row(RowRole::box, box.name + "_assign");
+    Row assign = helper_row(box, RowRole::box_assign, box.name + "_assign");
     add_argument(assign, "self", self, true);
     add_argument(assign, "value", box.value, traits(box.value.kind).refuses_null);
-    Row value = helper_row(RowRole::box, box.name + "_value");
+    Row value = helper_row(box, RowRole::box_value, box.name + "_value");
     add_argument(value, "self", self, true);
     value.result_type = box.element;
     value.result = box.value;
-    Row cast = helper_row(RowRole::box, box.name + "_cast");
+    Row cast = helper_row(box, RowRole::box_cast, box.name + "_cast");
     add_argument(cast, "self", self, false);
-    cast.result_type = without_star(model, box);
+    cast.result_type = type;
     cast.result = element;
-    Row from = helper_row(RowRole::box, box.name + "_frompointer");
+    Row from = helper_row(box, RowRole::box_from_pointer, box.name + "_frompointer");
     add_argument(from, "t", element, false);
     from.result_type = box.name;
     from.result = self;
-    Row enrol = helper_row(RowRole::registration, box.name + "_swigregister");
+    Row enrol = helper_row(box, RowRole::registration, box.name + "_swigregister");
     enrol.result = self;
-    for (Row *row : {&create, &destroy, &assign, &value, &cast, &from, &enrol}) {
-        finish(*row);
-        rows.push_back(std::move(*row));
-    }
+    return {create, destroy, assign, value, cast, from, enrol};
 }
 
-void add_array_rows(const Model &model, const Helper &array, std::vector<Row> &rows) {
-    const Conversion pointer = pointer_to(array.pointer, array.element_slot);
-    const Conversion index = number(Kind::signed_32, 4, "int");
-    Row create = helper_row(RowRole::array, "new_" + array.name);
+std::vector<Row> array_rows(const Helper &array, const Conversion &element,
+                            const std::string &type) {
+    Conversion index;
+    index.kind = Kind::signed_32;
+    index.size = index.align = traits(index.kind).size;
+    index.text = "int";
+    Row create = helper_row(array, RowRole::array_new, "new_" + array.name);
     add_argument(create, "nelements", index, false);
-    create.result_type = without_star(model, array);
-    create.result = pointer;
-    Row destroy = helper_row(RowRole::array, "delete_" + array.name);
-    add_argument(destroy, "ary", pointer, false);
-    Row get = helper_row(RowRole::array, array.name + "_getitem");
-    add_argument(get, "ary", pointer, true);
+    create.result_type = type;
+    create.result = element;
+    Row destroy = helper_row(array, RowRole::array_delete, "delete_" + array.name);
+    add_argument(destroy, "ary", element, false);
+    Row get = helper_row(array, RowRole::array_get, array.name + "_getitem");
+    add_argument(get, "ary", element, true);
     add_argument(get, "index", index, false);
     get.result_type = array.element;
     get.result = array.value;
-    Row set = helper_row(RowRole::array, array.name + "_setitem");
-    add_argument(set, "ary", pointer, true);
+    Row set = helper_row(array, RowRole::array_set, array.name + "_setitem");
+    add_argument(set, "ary", element, true);
     add_argument(set, "index", index, false);
     add_argument(set, "value", array.value, traits(array.value.kind).refuses_null);
-    for (Row *row : {&create, &destroy, &get, &set}) {
-        finish(*row);
-        rows.push_back(std::move(*row));
-    }
+    return {create, destroy, get, set};
 }
 
+// In the order of `RowRole`.
+constexpr RoleTraits kRoles[] = {{"function"},
+                                 {"getter"},
+                                 {"setter"},
+                                 {"constructor"},
+                                 {"destructor"},
+                                 {"registration"},
+                                 {"box", "new_box", true},
+                                 {"box", "delete_struct"},
+                                 {"box", "assign_box", true},
+                                 {"box", "box_value", true},
+                                 {"box", "recast"},
+                                 {"box", "recast"},
+                                 {"array", "new_array", true},
+                                 {"array", "delete_array", true},
+                                 {"array", "get_item", true},
+                                 {"array", "set_item", true}};
+static_assert(std::size(kRoles) == static_cast<std::size_t>(RowRole::array_set) + 1);
+
 }  // namespace
+
+const RoleTraits &traits(RowRole role) { return kRoles[static_cast<std::size_t>(role)]; }
 
 int slot_of(const Model &model, const std::string &mangled) {
     const auto found = std::lower_bound(
         model.types.begin(), model.types.end(), mangled,
         [](const TypeRow &row, const std::string &name) { return row.mangled < name; });
     return static_cast<int>(found - model.types.begin());
-}
-
-std::vector<Helper> boxes(const Model &model) {
-    std::vector<Helper> helpers = {
-        helper(model, "intp", number(Kind::signed_32, 4, "int"), "_p_int"),
-        helper(model, "uint16p", number(Kind::unsigned_16, 2, "unsigned short"),
-               "_p_unsigned_short"),
-        helper(model, "uint32p", number(Kind::unsigned_32, 4, "uint32"), "_p_unsigned_int"),
-        helper(model, "uintp", number(Kind::unsigned_32, 4, "unsigned int"), "_p_unsigned_int"),
-        helper(model, "uint64p", number(Kind::unsigned_64, 8, "uint64"), "_p_COMPILER_UINT64")};
-    add_struct_helper(model, "appl_dcmn_init_param_tp", "appl_dcmn_init_param_t", helpers);
-    for (auto &box : helpers) box.slot = slot_of(model, "_p_" + box.name);
-    return helpers;
-}
-
-std::vector<Helper> arrays(const Model &model) {
-    std::vector<Helper> helpers = {
-        helper(model, "uint8Array", number(Kind::unsigned_8, 1, "uint8"), "_p_unsigned_char"),
-        helper(model, "entrydata", number(Kind::unsigned_32, 4, "unsigned int"),
-               "_p_unsigned_int")};
-    add_struct_helper(model, "trunkMember", "bcm_trunk_member_t", helpers);
-    return helpers;
 }
 
 namespace {
@@ -276,8 +232,16 @@ std::vector<Row> rows_of_header(const Model &model, const std::string &header) {
 
 std::vector<Row> helper_rows(const Model &model) {
     std::vector<Row> rows;
-    for (const auto &array : arrays(model)) add_array_rows(model, array, rows);
-    for (const auto &box : boxes(model)) add_box_rows(model, box, rows);
+    for (const auto &helper : model.helpers) {
+        Variable pointer;
+        pointer.type = helper.element + " *";
+        const Conversion element = pointer_to(pointer.type, helper.element_slot);
+        const auto make = helper.form == Helper::Form::box ? box_rows : array_rows;
+        for (auto &row : make(helper, element, docstring_type(model, pointer))) {
+            finish(row);
+            rows.push_back(std::move(row));
+        }
+    }
     return rows;
 }
 

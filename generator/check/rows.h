@@ -16,9 +16,25 @@ enum class RowRole {
     constructor,
     destructor,
     registration,
-    box,   // _assign, _value, _cast, _frompointer
-    array  // new_, delete_, _getitem, _setitem of an array group
+    box_new,
+    box_delete,
+    box_assign,
+    box_value,
+    box_cast,
+    box_from_pointer,
+    array_new,
+    array_delete,
+    array_get,
+    array_set
 };
+
+struct RoleTraits {
+    const char *name;            // "box", in model.json
+    const char *call = nullptr;  // "new_box", of classes/boxes.h, for rows of helpers
+    bool on_kind = false;        // `call` is a template on the element's kind
+};
+
+const RoleTraits &traits(RowRole role);
 
 // One argument as Python passes it.
 struct RowArgument {
@@ -42,20 +58,8 @@ struct Row {
     const Function *function = nullptr;
     const Struct *record = nullptr;
     const Variable *field = nullptr;
+    const Helper *helper = nullptr;
 };
-
-// A one-element box of Python's, or a counted array of native elements.
-struct Helper {
-    std::string name;      // "intp", "uint8Array"
-    std::string element;   // "int", as messages name it
-    std::string pointer;   // "int *", whose slot is the element's
-    Conversion value;      // of the element
-    int slot = 0;          // `_p_intp`, for a box
-    int element_slot = 0;  // `_p_int`
-};
-
-std::vector<Helper> boxes(const Model &model);
-std::vector<Helper> arrays(const Model &model);
 
 // The rows that one header gives, in the order of the method table.
 std::vector<Row> rows_of_header(const Model &model, const std::string &header);

@@ -109,7 +109,8 @@ class Elements {
         for (const auto &function : model.functions)
             for (const auto &parameter : function.visible) add_of(parameter);
         for (const auto &value : opaque_values(model)) add(value.type, value.slot);
-        for (const auto &box : boxes(model)) add(box.element, box.element_slot);
+        for (const auto &helper : model.helpers)
+            if (helper.form == Helper::Form::box) add(helper.element, helper.element_slot);
         add("char", slot_of(model, "_p_char"));  // room for texts that the SDK writes
     }
 

@@ -7,28 +7,6 @@
 namespace generator {
 namespace {
 
-const char *role_name(RowRole role) {
-    switch (role) {
-        case RowRole::function:
-            return "function";
-        case RowRole::getter:
-            return "getter";
-        case RowRole::setter:
-            return "setter";
-        case RowRole::constructor:
-            return "constructor";
-        case RowRole::destructor:
-            return "destructor";
-        case RowRole::registration:
-            return "registration";
-        case RowRole::box:
-            return "box";
-        case RowRole::array:
-            return "array";
-    }
-    return "";
-}
-
 class Object {
   public:
     Object &add(const std::string &name, const std::string &text) {
@@ -73,7 +51,7 @@ std::string list(const List &items, Format format) {
 
 std::string row_text(const Model &model, const Row &row) {
     Object object;
-    object.add("name", row.name).add("role", role_name(row.role)).add("doc", row.doc);
+    object.add("name", row.name).add("role", traits(row.role).name).add("doc", row.doc);
     object.add_raw("arguments", list(row.arguments, [&](const RowArgument &argument) {
                        return conversion(model, argument.conversion)
                            .add("name", argument.name)

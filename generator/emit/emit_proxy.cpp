@@ -67,7 +67,8 @@ std::string classes(const Model &model) {
 
 std::string box_lines(const Model &model) {
     std::string text;
-    for (const auto &box : boxes(model)) {
+    for (const auto &box : model.helpers) {
+        if (box.form != Helper::Form::box) continue;
         const bool structure = box.value.kind == Kind::by_value;
         text += "    ('" + box.name + "', " +
                 (structure ? "'" + box.element + "'" : std::string("None")) + "),\n";

@@ -107,6 +107,17 @@ struct GlobalVariable {
     int slot = 0;  // resolved
 };
 
+// A one-element box of Python's, or a counted array of native elements.
+struct Helper {
+    enum class Form { box, array } form = Form::box;
+    std::string name;     // "intp"
+    std::string element;  // "int", as messages name it
+    Place place;
+    Conversion value;      // of the element, resolved
+    int slot = 0;          // `_p_intp`, of a box, resolved
+    int element_slot = 0;  // `_p_int`, resolved
+};
+
 struct Departure {
     std::string word;     // "hidden-output"
     std::string row;      // "bcm_field_entry_create"
@@ -128,6 +139,7 @@ struct Model {
     std::vector<KindRow> kinds;
     std::vector<InstallRow> install;
     std::vector<GlobalVariable> variables;
+    std::vector<Helper> helpers;
     std::vector<Departure> departures;
 };
 

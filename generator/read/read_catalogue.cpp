@@ -116,6 +116,20 @@ void read_variables(const std::string &file, const std::string &source, Model &m
     });
 }
 
+void read_helpers(const std::string &file, const std::string &source, Model &model,
+                  Faults &faults) {
+    for_each_row(file, source, [&](const Place &place, const Columns &columns) {
+        if (!has_columns(place, columns, 3, faults)) return;
+        if (columns[0] != "box" && columns[0] != "array") {
+            faults.add(place, "helper", "'" + columns[0] + "' is no helper; write box or array");
+            return;
+        }
+        Helper helper{Helper::Form::box, columns[1], columns[2], place, {}};
+        if (columns[0] == "array") helper.form = Helper::Form::array;
+        model.helpers.push_back(std::move(helper));
+    });
+}
+
 void read_departures(const std::string &file, const std::string &source, Model &model,
                      Faults &faults) {
     for_each_row(file, source, [&](const Place &place, const Columns &columns) {

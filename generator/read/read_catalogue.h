@@ -14,6 +14,7 @@ void read_constants(const std::string &file, const std::string &source, Model &m
                     Faults &faults);
 void read_variables(const std::string &file, const std::string &source, Model &model,
                     Faults &faults);
+void read_helpers(const std::string &file, const std::string &source, Model &model, Faults &faults);
 void read_departures(const std::string &file, const std::string &source, Model &model,
                      Faults &faults);
 

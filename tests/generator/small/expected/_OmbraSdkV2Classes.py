@@ -41,10 +41,6 @@ whole: uint64
 # Boxes, each with the structure in it, or None for a number.
 BOXES = (
     ('intp', None),
-    ('uint16p', None),
-    ('uint32p', None),
-    ('uintp', None),
-    ('uint64p', None),
 )
 
 # Opaque values: the class, the type, and other names of the class.

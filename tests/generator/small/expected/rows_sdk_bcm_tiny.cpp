@@ -55,7 +55,7 @@ static constexpr CallRow row_tiny_pointers{
     "in method 'tiny_pointers', argument 3 of type 'uint16 const *'\0"
     "in method 'tiny_pointers', argument 4 of type 'void *'\0"
     "in method 'tiny_pointers', argument 5 of type 'tiny_cb'",
-    {0, 10, 17, 19, 3, 0, 0, 0, 0, 0}};
+    {0, 10, 15, 17, 3, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_pointers(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Text, Pointer, Pointer, Pointer, FunctionPointer)>;
     return Shape::run(row_tiny_pointers, Shape::native(&tiny_pointers), args);
@@ -80,7 +80,7 @@ static constexpr CallRow row_tiny_arrays{
     "in method 'tiny_arrays', argument 1 of type 'int'\0"
     "in method 'tiny_arrays', argument 2 of type 'unsigned int [2]'\0"
     "in method 'tiny_arrays', argument 3 of type 'int const [8]'",
-    {0, 16, 5, 0, 0, 0, 0, 0, 0, 0}};
+    {0, 14, 5, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_arrays(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Pointer, Pointer)>;
     return Shape::run(row_tiny_arrays, Shape::native(&tiny_arrays), args);

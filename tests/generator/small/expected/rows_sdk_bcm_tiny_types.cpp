@@ -347,7 +347,7 @@ static constexpr FieldRow row_tiny_all_t_vector_set{
      "invalid null reference in method 'tiny_all_t_vector_set', argument 1 of type 'tiny_all_t *'\0"
     "in method 'tiny_all_t_vector_set', argument 2 of type 'unsigned int [_SHR_BITDCLSIZE(tinyLast)]'\0"
     "invalid null reference in variable 'vector' of type 'unsigned int [_SHR_BITDCLSIZE(tinyLast)]'",
-     {7, 16}},
+     {7, 14}},
     128, 4, 2};
 PyObject *_wrap_tiny_all_t_vector_set(PyObject *, PyObject *args) {
     return set_array(row_tiny_all_t_vector_set, args);
@@ -356,7 +356,7 @@ PyObject *_wrap_tiny_all_t_vector_set(PyObject *, PyObject *args) {
 static constexpr FieldRow row_tiny_all_t_vector_get{
     {"tiny_all_t_vector_get",
      "invalid null reference in method 'tiny_all_t_vector_get', argument 1 of type 'tiny_all_t *'",
-     {7, 16}},
+     {7, 14}},
     128, 4, 2};
 PyObject *_wrap_tiny_all_t_vector_get(PyObject *, PyObject *args) {
     return get_alias(row_tiny_all_t_vector_get, args);
@@ -444,7 +444,7 @@ static constexpr FieldRow row_tiny_all_t_cookie_set{
     {"tiny_all_t_cookie_set",
      "invalid null reference in method 'tiny_all_t_cookie_set', argument 1 of type 'tiny_all_t *'\0"
     "in method 'tiny_all_t_cookie_set', argument 2 of type 'void *'",
-     {7, 19}},
+     {7, 17}},
     200, 8, 1};
 PyObject *_wrap_tiny_all_t_cookie_set(PyObject *, PyObject *args) {
     return set_pointer(row_tiny_all_t_cookie_set, args);
@@ -453,7 +453,7 @@ PyObject *_wrap_tiny_all_t_cookie_set(PyObject *, PyObject *args) {
 static constexpr FieldRow row_tiny_all_t_cookie_get{
     {"tiny_all_t_cookie_get",
      "invalid null reference in method 'tiny_all_t_cookie_get', argument 1 of type 'tiny_all_t *'",
-     {7, 18}},
+     {7, 16}},
     200, 8, 1};
 PyObject *_wrap_tiny_all_t_cookie_get(PyObject *, PyObject *args) {
     return get_pointer(row_tiny_all_t_cookie_get, args);

@@ -17,10 +17,8 @@ static swig_type_info type_p_tiny_all_t{"_p_tiny_all_t", "tiny_all_t *", nullptr
 static swig_type_info type_p_tiny_any{"_p_tiny_any", "tiny_any *", nullptr, nullptr, nullptr, 0};
 static swig_type_info type_p_tiny_opaque_t{"_p_tiny_opaque_t", "tiny_opaque_t *", nullptr, nullptr, nullptr, 0};
 static swig_type_info type_p_tiny_pair_s{"_p_tiny_pair_s", "tiny_pair_s *|tiny_pair_t *", nullptr, nullptr, nullptr, 0};
-static swig_type_info type_p_uint16p{"_p_uint16p", "uint16p *", nullptr, nullptr, nullptr, 0};
-static swig_type_info type_p_uint32p{"_p_uint32p", "uint32p *", nullptr, nullptr, nullptr, 0};
-static swig_type_info type_p_uint64p{"_p_uint64p", "uint64p *", nullptr, nullptr, nullptr, 0};
-static swig_type_info type_p_uintp{"_p_uintp", "uintp *", nullptr, nullptr, nullptr, 0};
+static swig_type_info type_p_uint16p{"_p_uint16p", nullptr, nullptr, nullptr, nullptr, 0};
+static swig_type_info type_p_uintp{"_p_uintp", nullptr, nullptr, nullptr, nullptr, 0};
 static swig_type_info type_p_unsigned_char{"_p_unsigned_char", "uint8 *|unsigned char *", nullptr, nullptr, nullptr, 0};
 static swig_type_info type_p_unsigned_int{"_p_unsigned_int", "unsigned int *|uint32 *", nullptr, nullptr, nullptr, 0};
 static swig_type_info type_p_unsigned_short{"_p_unsigned_short", "unsigned short *|uint16 *", nullptr, nullptr, nullptr, 0};
@@ -37,8 +35,6 @@ static swig_cast_link casts_p_tiny_any[] = {{&type_p_tiny_any, nullptr, nullptr,
 static swig_cast_link casts_p_tiny_opaque_t[] = {{&type_p_tiny_opaque_t, nullptr, nullptr, nullptr}, {nullptr, nullptr, nullptr, nullptr}};
 static swig_cast_link casts_p_tiny_pair_s[] = {{&type_p_tiny_pair_s, nullptr, nullptr, nullptr}, {nullptr, nullptr, nullptr, nullptr}};
 static swig_cast_link casts_p_uint16p[] = {{&type_p_uint16p, nullptr, nullptr, nullptr}, {nullptr, nullptr, nullptr, nullptr}};
-static swig_cast_link casts_p_uint32p[] = {{&type_p_uint32p, nullptr, nullptr, nullptr}, {nullptr, nullptr, nullptr, nullptr}};
-static swig_cast_link casts_p_uint64p[] = {{&type_p_uint64p, nullptr, nullptr, nullptr}, {nullptr, nullptr, nullptr, nullptr}};
 static swig_cast_link casts_p_uintp[] = {{&type_p_uintp, nullptr, nullptr, nullptr}, {nullptr, nullptr, nullptr, nullptr}};
 static swig_cast_link casts_p_unsigned_char[] = {{&type_p_unsigned_char, nullptr, nullptr, nullptr}, {nullptr, nullptr, nullptr, nullptr}};
 static swig_cast_link casts_p_unsigned_int[] = {{&type_p_uintp, identity, nullptr, nullptr}, {&type_p_unsigned_int, nullptr, nullptr, nullptr}, {nullptr, nullptr, nullptr, nullptr}};
@@ -58,8 +54,6 @@ swig_type_info *const swig_type_seeds[] = {
     &type_p_tiny_opaque_t,
     &type_p_tiny_pair_s,
     &type_p_uint16p,
-    &type_p_uint32p,
-    &type_p_uint64p,
     &type_p_uintp,
     &type_p_unsigned_char,
     &type_p_unsigned_int,
@@ -80,8 +74,6 @@ swig_cast_link *const swig_cast_seeds[] = {
     casts_p_tiny_opaque_t,
     casts_p_tiny_pair_s,
     casts_p_uint16p,
-    casts_p_uint32p,
-    casts_p_uint64p,
     casts_p_uintp,
     casts_p_unsigned_char,
     casts_p_unsigned_int,
@@ -89,6 +81,6 @@ swig_cast_link *const swig_cast_seeds[] = {
     casts_p_void,
 };
 
-swig_type_info *swig_type_slots[20];
+swig_type_info *swig_type_slots[18];
 
-swig_module_table swig_module{swig_type_slots, 19, nullptr, nullptr, nullptr, nullptr};
+swig_module_table swig_module{swig_type_slots, 17, nullptr, nullptr, nullptr, nullptr};

@@ -15,13 +15,11 @@ inline constexpr unsigned _p_tiny_any = 8;
 inline constexpr unsigned _p_tiny_opaque_t = 9;
 inline constexpr unsigned _p_tiny_pair_s = 10;
 inline constexpr unsigned _p_uint16p = 11;
-inline constexpr unsigned _p_uint32p = 12;
-inline constexpr unsigned _p_uint64p = 13;
-inline constexpr unsigned _p_uintp = 14;
-inline constexpr unsigned _p_unsigned_char = 15;
-inline constexpr unsigned _p_unsigned_int = 16;
-inline constexpr unsigned _p_unsigned_short = 17;
-inline constexpr unsigned _p_void = 18;
-inline constexpr unsigned any_pointer = 19;
+inline constexpr unsigned _p_uintp = 12;
+inline constexpr unsigned _p_unsigned_char = 13;
+inline constexpr unsigned _p_unsigned_int = 14;
+inline constexpr unsigned _p_unsigned_short = 15;
+inline constexpr unsigned _p_void = 16;
+inline constexpr unsigned any_pointer = 17;
 
 }  // namespace slots
