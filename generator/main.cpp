@@ -58,7 +58,12 @@ void read_catalogue(const fs::path &root, Model &model, Faults &faults) {
         {"catalogue/types.txt", read_types},         {"catalogue/kinds.txt", read_kinds},
         {"catalogue/constants.txt", read_constants}, {"catalogue/variables.txt", read_variables},
         {"catalogue/helpers.txt", read_helpers},     {"catalogue/departures.txt", read_departures}};
-    for (const auto &[table, read] : tables) read(table, read_file(root / table), model, faults);
+    for (const auto &[table, read] : tables) {
+        if (!fs::exists(root / table))
+            faults.add({table, 1}, "table-missing",
+                       "the table is not there; make it, if only of a comment on its columns");
+        read(table, read_file(root / table), model, faults);
+    }
 }
 
 using Emitter = std::function<std::string(const Model &)>;

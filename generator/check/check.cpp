@@ -19,10 +19,13 @@ struct Rule {
     const char *says;
 };
 
-constexpr std::array<Rule, 29> kRules = {{
+constexpr std::array<Rule, 33> kRules = {{
     {"grammar", "a header holds only what docs/declarations.md names"},
     {"purpose", "a header's first line is a comment that says what it is for"},
+    {"prototype-place", "a header of types holds no prototypes"},
+    {"table-missing", "every table is there"},
     {"columns", "a line of a table has all its columns"},
+    {"blanks", "no line of a table ends in blanks"},
     {"kind-group", "a kinds table is made of [kind] groups"},
     {"kind-missing", "every declared type has a conversion kind"},
     {"kind-twice", "no type has two kinds"},
@@ -47,6 +50,7 @@ constexpr std::array<Rule, 29> kRules = {{
     {"getter-types-differ", "what a _get twin reports is a pointer to what its _set takes"},
     {"departure-word", "a departure is one that the generator knows"},
     {"departure-details", "the details of a hand-written row are '-' or its visible form"},
+    {"departure-output", "a hidden output is the last parameter, and a pointer to an int"},
     {"departure-reason", "every departure has its reason"},
     {"departure-unused", "every departure is needed"},
 }};

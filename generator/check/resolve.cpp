@@ -283,6 +283,7 @@ class Resolver {
 
     void apply_departures();
     void apply(Departure &departure, Function &function);
+    void hide_output(const Departure &departure, Function &function);
     void set_visible(const Departure &departure, Function &function);
 
     void resolve_variable(GlobalVariable &variable) {
@@ -326,12 +327,8 @@ void Resolver::apply_departures() {
 
 void Resolver::apply(Departure &departure, Function &function) {
     if (departure.word == "append-output") {
-        departure.used =
-            !function.visible.empty() && function.visible.back().name == departure.details;
-        if (departure.used) {
-            function.appended = departure.details;
-            function.visible.pop_back();
-        }
+        departure.used = true;
+        hide_output(departure, function);
     } else if (departure.word == "overload") {
         departure.used =
             std::count_if(model_.functions.begin(), model_.functions.end(),
@@ -341,6 +338,30 @@ void Resolver::apply(Departure &departure, Function &function) {
         function.hand_written = departure.word;
         set_visible(departure, function);
     }
+}
+
+// The native parameter that the departure names leaves the visible ones.
+void Resolver::hide_output(const Departure &departure, Function &function) {
+    const auto &parameters = function.parameters;
+    const auto found = std::find_if(parameters.begin(), parameters.end(), [&](const Variable &one) {
+        return one.name == departure.details;
+    });
+    const std::string wanted = "; the hidden output of '" + function.row + "' is ";
+    std::string fault;
+    if (found == parameters.end())
+        fault = "is no parameter" + wanted + "its last one, named as the prototype names it";
+    else if (found + 1 != parameters.end())
+        fault = "is not the last parameter" + wanted + "its last one, or add a departure 'entry'";
+    else if (!ends_with(found->type, " *") || !found->bounds.empty() ||
+             number_width(found->type.substr(0, found->type.size() - 2)) != sizeof(int))
+        fault = "is a '" + spelled(found->type, found->bounds) + "'" + wanted +
+                "a pointer to an int, or add a departure 'entry'";
+    if (!fault.empty()) {
+        faults_.add(departure.place, "departure-output", "'" + departure.details + "' " + fault);
+        return;
+    }
+    function.appended = departure.details;
+    function.visible.pop_back();
 }
 
 // Details of a hand-written row: "-" where Python sees the prototype, else the visible form as a

@@ -98,11 +98,11 @@ struct InstallRow {
 };
 
 struct GlobalVariable {
-    std::string name;     // "sh_rcload_depth"
-    std::string type;     // "int"
-    std::string kind;     // "int"
-    std::string mangled;  // "_p_int", or "-"
-    std::string detail;   // "66", or "-"
+    std::string name;     // "phy_port_info"
+    std::string type;     // "soc_phy_info_t *[SOC_MAX_NUM_DEVICES]"
+    std::string kind;     // "pointer-array"
+    std::string mangled;  // "_p_p_soc_phy_info_s"; a dash for none
+    std::string detail;   // "66"; a dash for none
     Place place;
     int slot = 0;  // resolved
 };
@@ -119,10 +119,10 @@ struct Helper {
 };
 
 struct Departure {
-    std::string word;     // "hidden-output"
-    std::string row;      // "bcm_field_entry_create"
-    std::string details;  // "entry"
-    std::string reason;   // "the id is the result that callers want"
+    std::string word;     // "append-output"
+    std::string row;      // "bcm_field_qualify_ExactMatchGroupClassId_get"
+    std::string details;  // "group"
+    std::string reason;   // "the id of the group comes back as a number"
     Place place;
     bool used = false;
 };

@@ -12,11 +12,18 @@ using Columns = std::vector<std::string>;
 using ReadRow = std::function<void(const Place &, const Columns &)>;
 
 // Hands the columns of each line to `read`, comments and blank lines left out.
-void for_each_row(const std::string &file, const std::string &source, const ReadRow &read) {
+void for_each_row(const std::string &file, const std::string &source, Faults &faults,
+                  const ReadRow &read) {
     std::istringstream lines(source);
     std::string line;
-    for (int number = 1; std::getline(lines, line); ++number)
-        if (!line.empty() && line[0] != '#') read({file, number}, split(line, '\t'));
+    for (int number = 1; std::getline(lines, line); ++number) {
+        if (line.empty() || line[0] == '#') continue;
+        const std::size_t end = line.find_last_not_of(" \t\r") + 1;
+        if (end != line.size())
+            faults.add({file, number}, "blanks", "the line ends in blanks; remove them");
+        line.resize(end);
+        if (end != 0) read({file, number}, split(line, '\t'));
+    }
 }
 
 bool has_columns(const Place &place, const Columns &columns, std::size_t least, Faults &faults) {
@@ -43,8 +50,8 @@ std::vector<std::string> split(const std::string &text, char separator) {
     return pieces;
 }
 
-void read_types(const std::string &file, const std::string &source, Model &model, Faults &) {
-    for_each_row(file, source, [&](const Place &place, const Columns &columns) {
+void read_types(const std::string &file, const std::string &source, Model &model, Faults &faults) {
+    for_each_row(file, source, faults, [&](const Place &place, const Columns &columns) {
         TypeRow row{columns[0], {}, place, ""};
         if (columns.size() > 1) row.pretty = split(columns[1], '|');
         model.types.push_back(std::move(row));
@@ -53,7 +60,7 @@ void read_types(const std::string &file, const std::string &source, Model &model
 
 void read_kinds(const std::string &file, const std::string &source, Model &model, Faults &faults) {
     KindRow group;
-    for_each_row(file, source, [&](const Place &place, const Columns &columns) {
+    for_each_row(file, source, faults, [&](const Place &place, const Columns &columns) {
         const std::string &text = columns[0];
         if (text[0] != '[') {
             if (group.kind == Kind::none) {
@@ -84,7 +91,7 @@ void read_kinds(const std::string &file, const std::string &source, Model &model
 
 void read_constants(const std::string &file, const std::string &source, Model &model,
                     Faults &faults) {
-    for_each_row(file, source, [&](const Place &place, const Columns &columns) {
+    for_each_row(file, source, faults, [&](const Place &place, const Columns &columns) {
         InstallRow row;
         row.place = place;
         if (columns[0] == "@cvar") {
@@ -108,7 +115,7 @@ void read_constants(const std::string &file, const std::string &source, Model &m
 
 void read_variables(const std::string &file, const std::string &source, Model &model,
                     Faults &faults) {
-    for_each_row(file, source, [&](const Place &place, const Columns &columns) {
+    for_each_row(file, source, faults, [&](const Place &place, const Columns &columns) {
         if (has_columns(place, columns, 5, faults)) {
             model.variables.push_back(
                 {columns[0], columns[1], columns[2], columns[3], columns[4], place, 0});
@@ -118,7 +125,7 @@ void read_variables(const std::string &file, const std::string &source, Model &m
 
 void read_helpers(const std::string &file, const std::string &source, Model &model,
                   Faults &faults) {
-    for_each_row(file, source, [&](const Place &place, const Columns &columns) {
+    for_each_row(file, source, faults, [&](const Place &place, const Columns &columns) {
         if (!has_columns(place, columns, 3, faults)) return;
         if (columns[0] != "box" && columns[0] != "array") {
             faults.add(place, "helper", "'" + columns[0] + "' is no helper; write box or array");
@@ -132,7 +139,7 @@ void read_helpers(const std::string &file, const std::string &source, Model &mod
 
 void read_departures(const std::string &file, const std::string &source, Model &model,
                      Faults &faults) {
-    for_each_row(file, source, [&](const Place &place, const Columns &columns) {
+    for_each_row(file, source, faults, [&](const Place &place, const Columns &columns) {
         if (has_columns(place, columns, 3, faults)) {
             const std::string reason = columns.size() > 3 ? columns[3] : "";
             model.departures.push_back({columns[0], columns[1], columns[2], reason, place, false});

@@ -312,7 +312,15 @@ class Parser {
         }
         expect(")");
         expect(";");
-        if (role_ != HeaderRole::types_only) model_.functions.push_back(std::move(function));
+        if (role_ == HeaderRole::types_only) return;
+        if (const std::string types = "_types.h"; file_.ends_with(types)) {
+            const std::string calls = file_.substr(0, file_.size() - types.size()) + ".h";
+            faults_.add(
+                function.place, "prototype-place",
+                "'" + function.row + "' is a prototype in a header of types; move it to " + calls);
+            return;
+        }
+        model_.functions.push_back(std::move(function));
     }
 
     std::string file_;

@@ -5,6 +5,7 @@
 //     expect: 1 fault
 //     file: PATH       the lines below are the file PATH, new or in place of small's
 //     add: PATH        the lines below are added to the end of small's PATH
+//     gone: PATH       small's PATH is not there
 //
 // A line number "+2" is the second line of what is added. The generator must end with status 1,
 // print exactly these messages, and leave no output behind.
@@ -25,6 +26,7 @@ struct BadFile {
     std::vector<std::string> expected;
     std::map<std::string, std::string> files;      // path -> text
     std::map<std::string, std::string> additions;  // path -> text
+    std::vector<std::string> gone;
 };
 
 bool takes_prefix(const std::string &line, const std::string &prefix, std::string &rest) {
@@ -42,6 +44,8 @@ BadFile read_bad_file(const std::string &name) {
             section = &bad.files[rest];
         else if (takes_prefix(line, "add: ", rest))
             section = &bad.additions[rest];
+        else if (takes_prefix(line, "gone: ", rest))
+            bad.gone.push_back(rest);
         else if (section != nullptr)
             *section += line + "\n";
         else if (takes_prefix(line, "expect: ", rest))
@@ -81,6 +85,7 @@ TEST_P(Bad, IsRefusedWithTheWholeMessage) {
     const fs::path out = scratch.path() / "out";
     copy_small(root);
     for (const auto &[path, text] : bad.files) write_text(root / path, text);
+    for (const auto &path : bad.gone) fs::remove(root / path);
     std::map<std::string, std::size_t> lines;
     for (const auto &[path, text] : bad.additions) {
         const std::string before = read_text(root / path);

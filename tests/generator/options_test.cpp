@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <regex>
 #include <set>
 
 #include "driver.h"
@@ -72,6 +73,44 @@ TEST(Options, AnOutputThatCannotBeWritten) {
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(run.err, (taken / "generated/entries.h").string() + ": cannot be written\n");
+}
+
+// The examples beside the fields of a table's record are the words of one line of that table.
+TEST(Model, ExamplesAreALineOfTheTable) {
+    const fs::path project = tests_folder() / "../..";
+    const std::string model = read_text(project / "generator/model/model.h");
+    const std::regex field(R"((?:std::string|vector<std::string>) \w+;\s*// ([^\n]*))");
+    const std::regex quoted("\"([^\"]*)\"");
+    for (const auto &[record, table] : {std::pair{"TypeRow", "types"},
+                                        {"KindRow", "kinds"},
+                                        {"InstallRow", "constants"},
+                                        {"GlobalVariable", "variables"},
+                                        {"Helper", "helpers"},
+                                        {"Departure", "departures"}}) {
+        const auto begin = model.find("struct " + std::string(record) + " {");
+        ASSERT_NE(begin, std::string::npos) << record;
+        const std::string body = model.substr(begin, model.find("\n};", begin) - begin);
+        std::vector<std::string> words;
+        for (std::sregex_iterator at(body.begin(), body.end(), field), end; at != end; ++at) {
+            const std::string comment = (*at)[1];
+            for (std::sregex_iterator word(comment.begin(), comment.end(), quoted); word != end;
+                 ++word)
+                words.push_back((*word)[1]);
+        }
+        EXPECT_FALSE(words.empty()) << record;
+        const auto lines =
+            lines_of(read_text(project / "catalogue" / (std::string(table) + ".txt")));
+        EXPECT_TRUE(std::any_of(
+            lines.begin(), lines.end(),
+            [&](const std::string &line) {
+                const std::string bounded =
+                    "|" + std::regex_replace(line, std::regex("\t"), "|") + "|";
+                return std::all_of(words.begin(), words.end(), [&](const std::string &word) {
+                    return bounded.find("|" + word + "|") != std::string::npos;
+                });
+            }))
+            << record << ": " << testing::PrintToString(words);
+    }
 }
 
 }  // namespace
