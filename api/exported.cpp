@@ -3,9 +3,12 @@
 #include <cstddef>
 #include <cstring>
 
+#include "layout/sdk_words.h"
 #include "native/symbols.h"
 #include "sdk/constants.h"
 #include "sdk/variables.h"
+
+using namespace sdk_words;
 
 namespace {
 
@@ -18,23 +21,6 @@ bool inside(int id, int count) { return id >= 0 && id < count; }
 
 SHR_BITDCL bit_of(int id) { return SHR_BITDCL{1} << (id % kWordBits); }
 
-// A system port as a global port number.
-constexpr int kSystemPortType = 27;
-constexpr int kTypeShift = 26;
-constexpr int kSystemPortMask = 0xffffff;
-
-// Cells of the control record, by byte position. The record's other members are the SDK's own.
-constexpr std::size_t kCellEgq = 0x1c0e0;
-constexpr std::size_t kCellIhb = 0x1c104;
-constexpr std::size_t kCellIhp = 0x1c10c;
-constexpr std::size_t kCellIqm = 0x1c120;
-constexpr std::size_t kAllCoresEgq = 0x1c620;
-constexpr std::size_t kAllCoresIhb = 0x1c628;
-constexpr std::size_t kAllCoresIhp = 0x1c62c;
-constexpr std::size_t kAllCoresIqm = 0x1c634;
-constexpr std::size_t kCellMemory = 0x3560c;
-constexpr int kMemories = 11000;
-constexpr int kCores = 2;
 constexpr int kAllCores = -17;
 
 int read_cell(int unit, std::size_t position) {
@@ -45,11 +31,9 @@ int read_cell(int unit, std::size_t position) {
     return value;
 }
 
-int read_core_cell(int unit, int core, std::size_t per_core, std::size_t all_cores) {
-    if (core == kAllCores) return read_cell(unit, all_cores);
-    return inside(core, kCores)
-               ? read_cell(unit, per_core + static_cast<std::size_t>(core) * sizeof(int))
-               : -1;
+int read_core_cell(int unit, int core, const CopyCells &cells) {
+    if (core == kAllCores) return read_cell(unit, cells.all_cores);
+    return inside(core, kCores) ? read_cell(unit, cells.of_core(core)) : -1;
 }
 
 SOC_PPC_LAG_MEMBER lag_member(uint32 sys_port, uint32 member_id) {
@@ -90,35 +74,23 @@ unsigned int bcm_field_aset_test(bcm_field_aset_t &aset, bcm_field_action_e e) {
     return inside(e, kActions) ? aset.w[e / kWordBits] & bit_of(e) : 0;
 }
 
-int bcm_get_gport_from_sys_port_id(int sysPortId) {
-    return (sysPortId & kSystemPortMask) | kSystemPortType << kTypeShift;
-}
+int bcm_get_gport_from_sys_port_id(int sysPortId) { return kSystemGport.cut(sysPortId); }
 
 int bcm_get_sys_port_id_from_gport(int gPort) {
-    return gPort >> kTypeShift == kSystemPortType ? gPort & kSystemPortMask : -1;
+    return gport_type(gPort) == kSystemGport.type ? gPort & kSystemGport.mask : -1;
 }
 
 int get_copyno_any(int unit, int mem) {
-    return inside(mem, kMemories)
-               ? read_cell(unit, kCellMemory + static_cast<std::size_t>(mem) * sizeof(int))
-               : -1;
+    return inside(mem, kMemories) ? read_cell(unit, memory_cell(mem)) : -1;
 }
 
-int get_copyno_egq(int unit, int core) {
-    return read_core_cell(unit, core, kCellEgq, kAllCoresEgq);
-}
+int get_copyno_egq(int unit, int core) { return read_core_cell(unit, core, kEgressQueueing); }
 
-int get_copyno_ihb(int unit, int core) {
-    return read_core_cell(unit, core, kCellIhb, kAllCoresIhb);
-}
+int get_copyno_ihb(int unit, int core) { return read_core_cell(unit, core, kIngressHeader1); }
 
-int get_copyno_ihp(int unit, int core) {
-    return read_core_cell(unit, core, kCellIhp, kAllCoresIhp);
-}
+int get_copyno_ihp(int unit, int core) { return read_core_cell(unit, core, kIngressHeader2); }
 
-int get_copyno_iqm(int unit, int core) {
-    return read_core_cell(unit, core, kCellIqm, kAllCoresIqm);
-}
+int get_copyno_iqm(int unit, int core) { return read_core_cell(unit, core, kIngressQueueManager); }
 
 void soc_ppd_lag_member_add_wrapper(int unit, uint32 lag_ndx, uint32 sys_port, uint32 member_id) {
     SOC_PPC_LAG_MEMBER member = lag_member(sys_port, member_id);

@@ -2,27 +2,18 @@
 
 #include "api/hand_rows.h"
 #include "convert/mac_text.h"
+#include "layout/sdk_words.h"
 #include "runtime/py_ref.h"
 #include "sdk/bcm/l2.h"
 
+using namespace sdk_words;
+
 namespace {
 
-constexpr unsigned kDiscard = 0x00000004;  // the destination is the black hole
-constexpr unsigned kStatic = 0x00000020;
-constexpr unsigned kTrunk = 0x00000080;  // the destination is a trunk
-
-// Global port numbers keep their type from bit 26 upward.
-constexpr unsigned kTypeShift = 26;
-constexpr unsigned long kLocal = 1UL << kTypeShift;
-constexpr unsigned long kLag = 3UL << kTypeShift;
-constexpr unsigned long kBlackHole = 4UL << kTypeShift;
-constexpr unsigned kLocalMask = 0x7ff;
-constexpr unsigned kLagMask = 0x3ffffff;
-
-unsigned long global_port(const bcm_l2_addr_t &entry) {
-    if ((entry.flags & kDiscard) != 0) return kBlackHole;
-    if ((entry.flags & kTrunk) != 0) return (static_cast<unsigned>(entry.tgid) & kLagMask) | kLag;
-    return (static_cast<unsigned>(entry.port) & kLocalMask) | kLocal;
+int global_port(const bcm_l2_addr_t &entry) {
+    if ((entry.flags & kL2BlackHole) != 0) return kBlackHoleGport.of(0);
+    if ((entry.flags & kL2Trunk) != 0) return kTrunkGport.cut(entry.tgid);
+    return kLocalGport.cut(entry.port);
 }
 
 // One row, or null with an exception. Built item by item: a format string would be read again for
@@ -30,11 +21,11 @@ unsigned long global_port(const bcm_l2_addr_t &entry) {
 PyObject *snapshot_row(const bcm_l2_addr_t &entry) {
     PyObject *row = PyTuple_New(4);
     if (row == nullptr) return nullptr;
-    const bool is_static = (entry.flags & kStatic) != 0;
+    const bool is_static = (entry.flags & kL2Static) != 0;
     PyObject *const items[] = {
         PyString_FromStringAndSize(macaddrToString(entry.mac), kMacTextLength),
         PyInt_FromLong(entry.vid),
-        PyInt_FromLong(static_cast<long>(global_port(entry))),
+        PyInt_FromLong(global_port(entry)),
         PyString_FromString(is_static ? "static" : "dynamic"),
     };
     bool whole = true;
@@ -75,13 +66,13 @@ PyObject *getHwMacTable(int unit) {
 PyObject *getGPortType(unsigned long gport) {
     constexpr unsigned long type_mask = 0x3f;
     constexpr unsigned long reserved = 0x3e00000;
-    const unsigned long type = gport >> kTypeShift;
+    const unsigned long type = gport >> kGportTypeShift;
     const char *word = "unknown";
-    if ((type & type_mask) == 1 && (gport & reserved) == 0)
+    if ((type & type_mask) == kLocalGport.type && (gport & reserved) == 0)
         word = "local";
-    else if (type == 3)
+    else if (type == kTrunkGport.type)
         word = "lag";
-    else if (gport == kBlackHole)
+    else if (gport == kBlackHoleGport.of(0))
         word = "blackhole";
     return PyString_FromString(word);
 }

@@ -101,13 +101,13 @@ int bcm_l2_addr_delete_by_vlan_port(int unit, bcm_vlan_t vid, bcm_module_t mod, 
 
 int bcm_l2_addr_delete_by_trunk(int unit, bcm_trunk_t tid, uint32 flags) {
     return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
-        return points_at(entry, 0, trunk_gport(tid));
+        return points_at(entry, 0, kTrunkGport.of(tid));
     });
 }
 
 int bcm_l2_addr_delete_by_vlan_trunk(int unit, bcm_vlan_t vid, bcm_trunk_t tid, uint32 flags) {
     return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
-        return entry.vid == vid && points_at(entry, 0, trunk_gport(tid));
+        return entry.vid == vid && points_at(entry, 0, kTrunkGport.of(tid));
     });
 }
 

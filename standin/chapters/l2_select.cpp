@@ -45,28 +45,28 @@ int settle_destination(bcm_l2_addr_t &entry) {
     if ((entry.flags & kL2BlackHole) != 0) return BCM_E_NONE;
     if ((entry.flags & kL2Trunk) == 0) {
         switch (gport_type(entry.port)) {
-            case kGportTrunk:
+            case kTrunkGport.type:
                 entry.flags |= kL2Trunk;
-                entry.tgid = entry.port & kTrunkMask;
+                entry.tgid = entry.port & kTrunkGport.mask;
                 entry.port = 0;
                 return BCM_E_NONE;
-            case kGportBlackHole:
+            case kBlackHoleGport.type:
                 entry.flags |= kL2BlackHole;
                 entry.port = 0;
                 return BCM_E_NONE;
-            case kGportSystemPort:
+            case kSystemGport.type:
                 return BCM_E_NONE;
             default:
                 break;
         }
         // What ports another module has is not known here.
-        if (entry.modid != 0) return within(entry.port, 0, kLocalPortMask) ? 0 : BCM_E_PORT;
+        if (entry.modid != 0) return within(entry.port, 0, kLocalGport.mask) ? 0 : BCM_E_PORT;
         const int port = local_port(entry.port);
         if (port < 0) return BCM_E_PORT;
         entry.port = port;
         return BCM_E_NONE;
     }
-    return within(entry.tgid, 0, kTrunkMask) ? BCM_E_NONE : BCM_E_PARAM;
+    return within(entry.tgid, 0, kTrunkGport.mask) ? BCM_E_NONE : BCM_E_PARAM;
 }
 
 void tell_l2_watchers(int unit) {

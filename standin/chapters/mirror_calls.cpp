@@ -9,7 +9,7 @@ using namespace standin;
 
 namespace {
 
-constexpr bcm_gport_t kFirst = kGportMirror << kGportTypeShift | 1;
+constexpr bcm_gport_t kFirst = kMirrorGport.of(1);
 constexpr Numbering<bcm_gport_t> kNumbers{"mirror", kMirrorDestinations, kFirst,
                                           kFirst + static_cast<int>(kMirrorDestinations) - 1};
 

@@ -24,7 +24,7 @@ int on_members(const char *function, int unit, bcm_multicast_t group, Members Mu
 }
 
 int add_member(Members &members, bcm_gport_t port, bcm_if_t encap_id) {
-    if (gport_type(port) <= kGportLocal && local_port(port) < 0) return BCM_E_PORT;
+    if (gport_type(port) <= kLocalGport.type && local_port(port) < 0) return BCM_E_PORT;
     const MulticastGroup::Member member{port, encap_id};
     if (std::ranges::find(members, member) != members.end()) return BCM_E_EXISTS;
     members.push_back(member);
@@ -199,7 +199,7 @@ int bcm_multicast_get(int unit, bcm_multicast_t group, uint32, int rep_max,
 int bcm_multicast_l2_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_vlan_t vid,
                                bcm_if_t *encap_id) {
     return on_entry(__func__, unit, groups_of, group, [&](MulticastGroup &) {
-        if (gport_type(port) <= kGportLocal && local_port(port) < 0) return BCM_E_PORT;
+        if (gport_type(port) <= kLocalGport.type && local_port(port) < 0) return BCM_E_PORT;
         return is_vlan(vid) ? give(encap_id, vid) : BCM_E_PARAM;
     });
 }
@@ -207,7 +207,7 @@ int bcm_multicast_l2_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port
 int bcm_multicast_l3_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t intf,
                                bcm_if_t *encap_id) {
     return on_entry(__func__, unit, groups_of, group, [&](MulticastGroup &) {
-        if (gport_type(port) <= kGportLocal && local_port(port) < 0) return BCM_E_PORT;
+        if (gport_type(port) <= kLocalGport.type && local_port(port) < 0) return BCM_E_PORT;
         return intf > 0 ? give(encap_id, intf) : BCM_E_PARAM;
     });
 }

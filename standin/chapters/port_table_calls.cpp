@@ -76,7 +76,7 @@ int bcm_port_get(int unit, bcm_port_t port, uint32 *flags,
 int bcm_port_gport_get(int unit, bcm_port_t port, bcm_gport_t *gport) {
     return on_switch(__func__, unit, [&](Switch &) {
         const int number = local_port(port);
-        return number < 0 ? BCM_E_PORT : give(gport, local_gport(number));
+        return number < 0 ? BCM_E_PORT : give(gport, kLocalGport.of(number));
     });
 }
 

@@ -16,9 +16,9 @@ std::map<bcm_trunk_t, Trunk> &trunks_of(Switch &chip) { return chip.groups.trunk
 
 // A member's port as a gport; 0 if it is neither a port of this switch nor a system port.
 bcm_gport_t member_gport(bcm_gport_t gport) {
-    if (gport_type(gport) == kGportSystemPort) return gport;
+    if (gport_type(gport) == kSystemGport.type) return gport;
     const int port = local_port(gport);
-    return port < 0 ? 0 : local_gport(port);
+    return port < 0 ? 0 : kLocalGport.of(port);
 }
 
 auto find_member(Trunk &trunk, bcm_gport_t gport) {
@@ -251,10 +251,10 @@ void SOC_PPC_LAG_MEMBER_clear(SOC_PPC_LAG_MEMBER *member) {
 int soc_ppd_lag_member_add(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member, int *success) {
     const auto tid = static_cast<bcm_trunk_t>(lag_ndx);
     const int status = on_trunk(__func__, unit, tid, [&](Switch &chip, Trunk &trunk) {
-        if (member == nullptr || success == nullptr || member->sys_port > 0xffffff)
+        if (member == nullptr || success == nullptr || member->sys_port > kSystemGport.mask)
             return BCM_E_PARAM;
         bcm_trunk_member_t added{};
-        added.gport = kGportSystemPort << kGportTypeShift | static_cast<int>(member->sys_port);
+        added.gport = kSystemGport.of(static_cast<int>(member->sys_port));
         const int answer = add_member(chip, tid, trunk, added);
         if (answer == BCM_E_NONE) trunk.member_ids[added.gport] = member->member_id;
         return answer;
@@ -266,9 +266,8 @@ int soc_ppd_lag_member_add(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member,
 int soc_ppd_lag_member_remove(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member) {
     const auto tid = static_cast<bcm_trunk_t>(lag_ndx);
     return on_trunk(__func__, unit, tid, [&](Switch &, Trunk &trunk) {
-        if (member == nullptr || member->sys_port > 0xffffff) return BCM_E_PARAM;
-        const bcm_gport_t gport =
-            kGportSystemPort << kGportTypeShift | static_cast<int>(member->sys_port);
+        if (member == nullptr || member->sys_port > kSystemGport.mask) return BCM_E_PARAM;
+        const bcm_gport_t gport = kSystemGport.of(static_cast<int>(member->sys_port));
         const std::uint32_t *const id = find_in(trunk.member_ids, gport);
         if (id == nullptr || *id != member->member_id) return BCM_E_NOT_FOUND;
         return delete_member(trunk, gport);

@@ -31,7 +31,7 @@ std::vector<std::pair<bcm_gport_t, int>> members_of(const Vlan &vlan) {
     std::vector<std::pair<bcm_gport_t, int>> members;
     for (int port = 0; port < kPorts; ++port) {
         if (!has_port(vlan.members, port)) continue;
-        members.emplace_back(local_gport(port),
+        members.emplace_back(kLocalGport.of(port),
                              has_port(vlan.untagged, port) ? kVlanGportUntagged : 0);
     }
     members.insert(members.end(), vlan.gports.begin(), vlan.gports.end());
@@ -149,7 +149,7 @@ int bcm_vlan_gport_add(int unit, bcm_vlan_t vlan, bcm_gport_t port, int flags) {
                                               : remove_port(one.untagged, number);
             return BCM_E_NONE;
         }
-        if (gport_type(port) <= kGportLocal) return BCM_E_PORT;
+        if (gport_type(port) <= kLocalGport.type) return BCM_E_PORT;
         one.gports[port] = flags;
         return BCM_E_NONE;
     });
@@ -177,7 +177,7 @@ int bcm_vlan_gport_delete_all(int unit, bcm_vlan_t vlan) {
 int bcm_vlan_gport_get(int unit, bcm_vlan_t vlan, bcm_gport_t port, int *flags) {
     return on_vlan(__func__, unit, vlan, [&](const Vlan &one) {
         const int number = local_port(port);
-        const bcm_gport_t wanted = number < 0 ? port : local_gport(number);
+        const bcm_gport_t wanted = number < 0 ? port : kLocalGport.of(number);
         for (const auto &[gport, its_flags] : members_of(one))
             if (gport == wanted) return give(flags, its_flags);
         return int{BCM_E_NOT_FOUND};

@@ -18,9 +18,6 @@ constexpr std::size_t kMulticastGroups = 4096;
 constexpr std::size_t kMirrorDestinations = 32;
 constexpr std::size_t kPolicers = 4096;
 
-// The type of the global port numbers of mirror destinations.
-constexpr int kGportMirror = 21;
-
 // A local port or a system port is member of one trunk at most.
 struct Trunk {
     bcm_trunk_info_t info{};

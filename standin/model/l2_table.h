@@ -11,14 +11,12 @@
 #include <unordered_map>
 #include <vector>
 
+#include "layout/sdk_words.h"
 #include "sdk/bcm/l2_types.h"
 
 namespace standin {
 
-// Bits of `bcm_l2_addr_t.flags` that mean something here; the others are kept as given.
-constexpr std::uint32_t kL2BlackHole = 0x04;
-constexpr std::uint32_t kL2Static = 0x20;
-constexpr std::uint32_t kL2Trunk = 0x80;
+using namespace sdk_words;
 
 constexpr std::size_t kL2Capacity = 65'536;
 

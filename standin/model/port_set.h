@@ -2,33 +2,23 @@
 #pragma once
 #include <cstdint>
 
+#include "layout/sdk_words.h"
 #include "native/values.h"
 #include "sdk/scalars.h"
 
 namespace standin {
+
+using namespace sdk_words;
 
 // Port 0 is the processor's; the front ports follow.
 constexpr int kCpuPort = 0;
 constexpr int kFrontPorts = 64;
 constexpr int kPorts = 1 + kFrontPorts;
 
-// A global port number keeps its type in the bits from 26 upward.
-constexpr int kGportTypeShift = 26;
-constexpr int kGportLocal = 1;
-constexpr int kGportTrunk = 3;
-constexpr int kGportBlackHole = 4;
-constexpr int kGportSystemPort = 27;
-constexpr int kLocalPortMask = 0x7ff;
-constexpr int kTrunkMask = 0x3ffffff;
-
-constexpr int gport_type(int gport) { return gport >> kGportTypeShift; }
-constexpr int local_gport(int port) { return kGportLocal << kGportTypeShift | port; }
-constexpr int trunk_gport(int trunk) { return kGportTrunk << kGportTypeShift | trunk; }
-
 // The local number behind a port argument, which is such a number or a local gport; -1 if the
 // switch has no such port.
 constexpr int local_port(int port) {
-    if (gport_type(port) == kGportLocal) port &= (1 << kGportTypeShift) - 1;
+    if (gport_type(port) == kLocalGport.type) port &= (1 << kGportTypeShift) - 1;
     return port >= 0 && port < kPorts ? port : -1;
 }
 

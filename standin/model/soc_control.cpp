@@ -1,5 +1,6 @@
 #include "standin/model/soc_control.h"
 
+#include "layout/sdk_words.h"
 #include "sdk/constants.h"
 #include "sdk/variables.h"
 
@@ -10,23 +11,13 @@ soc_control_t *soc_control[SOC_MAX_NUM_DEVICES];
 namespace standin {
 namespace {
 
-constexpr int kCores = 2;
+using namespace sdk_words;
 
-// The cells of one kind of block: where they are, and the copy number of its first core.
-struct BlockCells {
-    std::size_t per_core;
-    std::size_t all_cores;
-    std::int32_t first_copy;
-};
+constexpr CopyCells kBlocks[] = {kEgressQueueing, kIngressHeader1, kIngressHeader2,
+                                 kIngressQueueManager};
 
-constexpr BlockCells kBlocks[] = {
-    {0x1c0e0, 0x1c620, 8},
-    {0x1c104, 0x1c628, 16},
-    {0x1c10c, 0x1c62c, 24},
-    {0x1c120, 0x1c634, 32},
-};
-
-// The copy that stands for all cores of a kind is the one behind theirs.
+// Each kind of block has as many numbers, kind after kind behind those of the memories. The copy
+// that stands for all cores of a kind is the one behind theirs.
 constexpr std::int32_t kCopies = 8;
 
 }  // namespace
@@ -36,14 +27,14 @@ ControlRecord::~ControlRecord() {
 }
 
 void ControlRecord::attach(int unit) {
-    words_.assign(kControlRecordBytes / sizeof words_[0], 0);
-    for (const BlockCells &block : kBlocks) {
-        for (int core = 0; core < kCores; ++core)
-            put(block.per_core + 4 * static_cast<std::size_t>(core), block.first_copy + core);
-        put(block.all_cores, block.first_copy + kCores);
+    words_.assign(memory_cell(kMemories) / sizeof words_[0], 0);
+    std::int32_t copy = kCopies;
+    for (const CopyCells &block : kBlocks) {
+        for (int core = 0; core < kCores; ++core) put(block.of_core(core), copy + core);
+        put(block.all_cores, copy + kCores);
+        copy += kCopies;
     }
-    for (int mem = 0; mem < kMemories; ++mem)
-        put(kMemoryCells + 4 * static_cast<std::size_t>(mem), mem % kCopies);
+    for (int mem = 0; mem < kMemories; ++mem) put(memory_cell(mem), mem % kCopies);
     unit_ = unit;
     soc_control[unit] = reinterpret_cast<soc_control_t *>(words_.data());
 }

@@ -108,16 +108,11 @@ std::int32_t control_cell(int unit, std::size_t offset) {
     return words[offset / sizeof words[0]];
 }
 
-struct CopyCells {
-    std::string_view block;
-    std::size_t per_core;
-    std::size_t all_cores;
-};
-constexpr CopyCells kCopyCells[] = {
-    {"EGQ", 0x1c0e0, 0x1c620},
-    {"IHB", 0x1c104, 0x1c628},
-    {"IHP", 0x1c10c, 0x1c62c},
-    {"IQM", 0x1c120, 0x1c634},
+constexpr std::pair<std::string_view, CopyCells> kCopyCells[] = {
+    {"EGQ", kEgressQueueing},
+    {"IHB", kIngressHeader1},
+    {"IHP", kIngressHeader2},
+    {"IQM", kIngressQueueManager},
 };
 
 bool table_open(const Unit &unit, const MemoryLayout &layout) {
@@ -164,15 +159,13 @@ int find_instances(const RegisterLayout &layout, int port, Instances &found) {
 
 int find_copies(int unit, const MemoryLayout &layout, int copyno, Instances &found) {
     found = {0, layout.block->count};
-    const std::size_t memory = 4 * static_cast<std::size_t>(layout.id);
-    if (copyno == kEveryCopy || copyno == 0 || copyno == control_cell(unit, kMemoryCells + memory))
+    if (copyno == kEveryCopy || copyno == 0 || copyno == control_cell(unit, memory_cell(layout.id)))
         return BCM_E_NONE;
-    for (const CopyCells &cells : kCopyCells) {
-        if (cells.block != layout.block->name) continue;
+    for (const auto &[block, cells] : kCopyCells) {
+        if (block != layout.block->name) continue;
         if (copyno == control_cell(unit, cells.all_cores)) return BCM_E_NONE;
         for (int core = 0; core < layout.block->count; ++core) {
-            const std::size_t cell = cells.per_core + 4 * static_cast<std::size_t>(core);
-            if (copyno != control_cell(unit, cell)) continue;
+            if (copyno != control_cell(unit, cells.of_core(core))) continue;
             found = {core, 1};
             return BCM_E_NONE;
         }

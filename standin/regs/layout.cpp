@@ -28,7 +28,6 @@ constexpr BlockRow kBlockRows[] = {
 
 // The block of names that have none: what the MAC of a port counts.
 constexpr std::string_view kCounterBlock = "CLMAC";
-constexpr int kCores = 2;
 
 std::vector<Block> make_blocks() {
     std::vector<Block> blocks;

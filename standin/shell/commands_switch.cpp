@@ -15,10 +15,10 @@
 namespace standin {
 namespace {
 
-constexpr int kGportLocalType = 1;
-
 // The number of a local port, which may come as a global port number.
-int plain_port(int port) { return port >> 26 == kGportLocalType ? port & 0x7ff : port; }
+int plain_port(int port) {
+    return gport_type(port) == kLocalGport.type ? port & kLocalGport.mask : port;
+}
 
 // What picks rows of the MAC table, and what a new row holds.
 struct L2Options {

@@ -2,25 +2,18 @@
 
 #include <bit>
 
+#include "layout/sdk_words.h"
 #include "standin/base/number_text.h"
 #include "standin/base/scan.h"
 
 namespace standin {
 namespace {
 
-// Types of global ports, in the bits from 26 upward, and what they leave for the number.
-struct GportType {
-    std::string_view word;
-    std::uint32_t type;
-    std::uint32_t mask;
-};
-constexpr std::array kGportTypes = {
-    GportType{"local", 1, 0x7ff},
-    GportType{"trunk", 3, 0x3ffffff},
-    GportType{"sysport", 27, 0xffffff},
-};
-constexpr std::uint32_t kTypeShift = 26;
-constexpr std::uint32_t kBlackHole = 4U << kTypeShift;
+using namespace sdk_words;
+
+constexpr std::pair<std::string_view, Gport> kGportTypes[] = {
+    {"local", kLocalGport}, {"trunk", kTrunkGport}, {"sysport", kSystemGport}};
+constexpr std::int32_t kBlackHole = kBlackHoleGport.of(0);
 
 std::optional<std::uint32_t> read_dotted(std::string_view text) {
     std::vector<std::string_view> parts = split(text, ".");
@@ -99,28 +92,24 @@ std::string mac_text(const std::uint8_t *bytes) {
 }
 
 std::string gport_text(std::int32_t gport) {
-    std::uint32_t word = static_cast<std::uint32_t>(gport);
-    if (word == kBlackHole) return "blackhole";
-    for (const GportType &entry : kGportTypes) {
-        std::uint32_t number = word & entry.mask;
-        if ((entry.type << kTypeShift | number) != word) continue;
-        return std::string(entry.word) + '.' + std::to_string(number);
-    }
-    return text_of("0x%x", word);
+    if (gport == kBlackHole) return "blackhole";
+    for (const auto &[word, type] : kGportTypes)
+        if (type.cut(gport) == gport)
+            return std::string(word) + '.' + std::to_string(gport & type.mask);
+    return text_of("0x%x", static_cast<std::uint32_t>(gport));
 }
 
 std::optional<std::int32_t> read_gport(std::string_view text, const PortNames &names) {
     text = trim(text);
-    if (same_word(text, "blackhole")) return static_cast<std::int32_t>(kBlackHole);
+    if (same_word(text, "blackhole")) return kBlackHole;
     std::string_view word;
     std::string_view number_text;
     cut(text, '.', word, number_text);
-    for (const GportType &entry : kGportTypes) {
-        if (!same_word(word, entry.word)) continue;
+    for (const auto &[name, type] : kGportTypes) {
+        if (!same_word(word, name)) continue;
         std::optional<std::uint64_t> number = read_u64(number_text);
-        if (!number || *number > entry.mask) return std::nullopt;
-        return static_cast<std::int32_t>(entry.type << kTypeShift |
-                                         static_cast<std::uint32_t>(*number));
+        if (!number || *number > static_cast<std::uint64_t>(type.mask)) return std::nullopt;
+        return type.of(static_cast<std::int32_t>(*number));
     }
     for (const PortName &entry : names)
         if (same_word(entry.name, text)) return entry.port;

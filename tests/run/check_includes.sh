@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
-outside='native|sdk|helper|toolkit'
+outside='native|layout|sdk|helper|toolkit'
 declare -A may=(
     [runtime]='runtime'
     [convert]="convert|runtime|$outside"

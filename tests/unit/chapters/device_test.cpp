@@ -6,7 +6,6 @@
 #include "sdk/bcm/vlan.h"
 #include "sdk/diag/appl.h"
 #include "sdk/variables.h"
-#include "standin/model/soc_control.h"
 
 namespace standin {
 namespace {
@@ -55,19 +54,6 @@ TEST_F(Devices, StandbyTellsWhatItWasTold) {
     EXPECT_EQ(getDevId(0), 7u);
     EXPECT_EQ(getDevRev(0), 8u);
     EXPECT_EQ(getNumDevices(), 5);
-}
-
-TEST_F(Devices, ControlRecordHasTheCopyNumbers) {
-    ASSERT_EQ(addOmbraDevice(0, 1, 0, 0), 0);
-    const auto *words = reinterpret_cast<const std::int32_t *>(soc_control[0]);
-    const std::size_t per_core[] = {0x1c0e0, 0x1c104, 0x1c10c, 0x1c120};
-    const std::size_t all_cores[] = {0x1c620, 0x1c628, 0x1c62c, 0x1c634};
-    for (int kind = 0; kind < 4; ++kind) {
-        const std::int32_t *cores = words + per_core[kind] / 4;
-        EXPECT_EQ(cores[1], cores[0] + 1);
-        EXPECT_EQ(words[all_cores[kind] / 4], cores[0] + 2);
-    }
-    EXPECT_EQ(words[(kMemoryCells + 4 * (kMemories - 1)) / 4], (kMemories - 1) % 8);
 }
 
 // Each step: a call, and what it has to answer at this point.

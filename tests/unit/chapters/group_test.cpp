@@ -37,7 +37,7 @@ TEST_F(Chip, TrunkMembersAreSetAsAWhole) {
     info.psc = 3;
     bcm_trunk_member_t members[3] = {};
     members[0].gport = 7;
-    members[1].gport = local_gport(8);
+    members[1].gport = kLocalGport.of(8);
     EXPECT_EQ(bcm_trunk_set(0, one, &info, 2, members), BCM_E_NONE);
     EXPECT_EQ(bcm_trunk_set(0, one, &info, 2, members), BCM_E_NONE) << "the same again";
     EXPECT_EQ(bcm_trunk_set(0, other, &info, 1, members), BCM_E_EXISTS) << "port of the first";
@@ -52,7 +52,7 @@ TEST_F(Chip, TrunkMembersAreSetAsAWhole) {
     int count = -1;
     EXPECT_EQ(bcm_trunk_get(0, one, &info, 3, found, &count), BCM_E_NONE);
     ASSERT_EQ(count, 2) << "refused calls change nothing";
-    EXPECT_EQ(found[0].gport, local_gport(7));
+    EXPECT_EQ(found[0].gport, kLocalGport.of(7));
     EXPECT_EQ(info.psc, 3);
     EXPECT_EQ(bcm_trunk_get(0, one, &info, 1, found, &count), BCM_E_NONE);
     EXPECT_EQ(count, 1);
@@ -148,12 +148,12 @@ TEST_F(Chip, MulticastWalkMayDestroyWhatItSees) {
 
 TEST_F(Chip, MirrorDestinationInUseStays) {
     bcm_mirror_destination_t made{};
-    made.gport = local_gport(9);
+    made.gport = kLocalGport.of(9);
     EXPECT_EQ(bcm_mirror_destination_create(0, &made), BCM_E_NONE);
     const bcm_gport_t id = made.mirror_dest_id;
     bcm_mirror_destination_t found{};
     EXPECT_EQ(bcm_mirror_destination_get(0, id, &found), BCM_E_NONE);
-    EXPECT_EQ(found.gport, local_gport(9));
+    EXPECT_EQ(found.gport, kLocalGport.of(9));
     EXPECT_EQ(bcm_mirror_port_dest_add(0, 3, 1, id), BCM_E_NONE);
     EXPECT_EQ(bcm_mirror_port_dest_add(0, 3, 1, id), BCM_E_EXISTS);
     EXPECT_EQ(bcm_mirror_port_dest_add(0, 3, 1, id + 1), BCM_E_NOT_FOUND);

@@ -49,8 +49,8 @@ TEST_F(Chip, EntriesReadBackInOneForm) {
         int trunk;
     } const cases[] = {
         {5, kL2Static, BCM_E_NONE, 5, kL2Static, 0},
-        {local_gport(5), 0, BCM_E_NONE, 5, 0, 0},
-        {trunk_gport(9), kL2Static, BCM_E_NONE, 0, kL2Static | kL2Trunk, 9},
+        {kLocalGport.of(5), 0, BCM_E_NONE, 5, 0, 0},
+        {kTrunkGport.of(9), kL2Static, BCM_E_NONE, 0, kL2Static | kL2Trunk, 9},
         {0x10000000, 0, BCM_E_NONE, 0, kL2BlackHole, 0},
         {5, kL2BlackHole | kL2Trunk, BCM_E_NONE, 5, kL2BlackHole | kL2Trunk, 0},
         {65, 0, BCM_E_PORT, 0, 0, 0},
@@ -129,7 +129,7 @@ TEST_F(Chip, BulkDeletesTakeWhatTheyName) {
         add(1, 10, 1);
         add(2, 10, 2);
         add(3, 20, 1);
-        add(4, 10, trunk_gport(7));
+        add(4, 10, kTrunkGport.of(7));
         add(5, 10, 1, kL2Static);
         bcm_l2_addr_t remote = entry(6, 10, 1);
         remote.modid = 3;
@@ -137,7 +137,9 @@ TEST_F(Chip, BulkDeletesTakeWhatTheyName) {
     };
     const Case cases[] = {
         {"port", [] { return bcm_l2_addr_delete_by_port(0, 0, 1, 0); }, {2, 4, 5, 6}},
-        {"gport", [] { return bcm_l2_addr_delete_by_port(0, 0, local_gport(1), 0); }, {2, 4, 5, 6}},
+        {"gport",
+         [] { return bcm_l2_addr_delete_by_port(0, 0, kLocalGport.of(1), 0); },
+         {2, 4, 5, 6}},
         {"static too", [] { return bcm_l2_addr_delete_by_port(0, 0, 1, kL2Static); }, {2, 4, 6}},
         {"module", [] { return bcm_l2_addr_delete_by_port(0, 3, 1, 0); }, {1, 2, 3, 4, 5}},
         {"vlan", [] { return bcm_l2_addr_delete_by_vlan(0, 10, 0); }, {3, 5}},

@@ -33,7 +33,7 @@ TEST_F(Chip, PortSettingsReadBack) {
         int value = -1;
         EXPECT_EQ(pair.set(0, 5, pair.good), BCM_E_NONE);
         EXPECT_EQ(pair.set(0, 5, pair.bad), pair.refusal);
-        EXPECT_EQ(pair.get(0, local_gport(5), &value), BCM_E_NONE);
+        EXPECT_EQ(pair.get(0, kLocalGport.of(5), &value), BCM_E_NONE);
         EXPECT_EQ(value, pair.good);
         EXPECT_EQ(pair.get(0, 6, &value), BCM_E_NONE);
         EXPECT_NE(value, pair.good) << "another port changed";
@@ -140,8 +140,8 @@ TEST_F(Chip, VlanListsAreLoans) {
 
 TEST_F(Chip, VlanGportsOfEachKind) {
     bcm_vlan_create(0, 10);
-    EXPECT_EQ(bcm_vlan_gport_add(0, 10, local_gport(4), 1), BCM_E_NONE);
-    EXPECT_EQ(bcm_vlan_gport_add(0, 10, trunk_gport(2), 0), BCM_E_NONE);
+    EXPECT_EQ(bcm_vlan_gport_add(0, 10, kLocalGport.of(4), 1), BCM_E_NONE);
+    EXPECT_EQ(bcm_vlan_gport_add(0, 10, kTrunkGport.of(2), 0), BCM_E_NONE);
     EXPECT_EQ(bcm_vlan_gport_add(0, 10, 70, 0), BCM_E_PORT);
     bcm_pbmp_t members{}, untagged{};
     bcm_vlan_port_get(0, 10, &members, &untagged);
@@ -151,7 +151,7 @@ TEST_F(Chip, VlanGportsOfEachKind) {
     int size = -1;
     EXPECT_EQ(bcm_vlan_gport_get_all(0, 10, 4, gports, flags, &size), BCM_E_NONE);
     ASSERT_EQ(size, 2);
-    EXPECT_EQ(gports[1], trunk_gport(2));
+    EXPECT_EQ(gports[1], kTrunkGport.of(2));
     EXPECT_EQ(bcm_vlan_gport_get_all(0, 10, 0, nullptr, nullptr, &size), BCM_E_NONE);
     EXPECT_EQ(size, 2) << "max 0 asks for the number";
     EXPECT_EQ(bcm_vlan_gport_delete(0, 10, 4), BCM_E_NONE);

@@ -48,7 +48,7 @@ TEST_F(PhyTest, PortAndPhyAreOfOneMind) {
     ASSERT_EQ(bcm_port_loopback_set(0, 7, BCM_PORT_LOOPBACK_MAC), BCM_E_NONE);
     ASSERT_EQ(soc_phyctrl_loopback_set(0, 7, 0, 0), BCM_E_NONE);
     EXPECT_EQ(number(bcm_port_loopback_get, 7), BCM_PORT_LOOPBACK_MAC);
-    EXPECT_EQ(number(soc_phyctrl_duplex_get, local_gport(7)), 1);
+    EXPECT_EQ(number(soc_phyctrl_duplex_get, kLocalGport.of(7)), 1);
     ASSERT_EQ(bcm_port_phy_set(0, 7, 0, 0x10002, 0x55), BCM_E_NONE);
     uint32 value = 0;
     ASSERT_EQ(soc_phyctrl_reg_read(0, 7, 0, 0x10002, &value), BCM_E_NONE);

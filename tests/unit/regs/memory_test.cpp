@@ -25,7 +25,7 @@ Entry read(int mem, int copy, int index, unsigned array = 0) {
 int cell(std::size_t offset) {
     return *reinterpret_cast<const int *>(reinterpret_cast<const char *>(soc_control[0]) + offset);
 }
-int copy_any(int mem) { return cell(0x3560c + 4 * static_cast<std::size_t>(mem)); }
+int copy_any(int mem) { return cell(memory_cell(mem)); }
 
 TEST_F(MemoriesTest, EachKeepsTheBitsOfItsFirstAndLastEntry) {
     for (const MemoryLayout &layout : all_memories()) {
@@ -59,29 +59,25 @@ TEST_F(MemoriesTest, WhatDoesNotExistHasAStatus) {
 }
 
 TEST_F(MemoriesTest, ACopyIsThatOfACoreOrOfAll) {
-    struct Case {
-        int mem;
-        std::size_t per_core;
-        std::size_t all_cores;
-    };
-    constexpr Case cases[] = {{EGQ_PCTm, 0x1c0e0, 0x1c620},
-                              {IHB_PINFO_FLPm, 0x1c104, 0x1c628},
-                              {IHP_PP_PORT_INFOm, 0x1c10c, 0x1c62c},
-                              {IQM_CNREDm, 0x1c120, 0x1c634}};
-    for (const Case &one : cases) {
-        const int core0 = cell(one.per_core);
-        const int core1 = cell(one.per_core + 4);
+    EXPECT_EQ(copy_any(kMemories - 1), 7);
+    constexpr std::pair<int, CopyCells> cases[] = {{EGQ_PCTm, kEgressQueueing},
+                                                   {IHB_PINFO_FLPm, kIngressHeader1},
+                                                   {IHP_PP_PORT_INFOm, kIngressHeader2},
+                                                   {IQM_CNREDm, kIngressQueueManager}};
+    for (const auto &[mem, cells] : cases) {
+        const int core0 = cell(cells.of_core(0));
+        const int core1 = cell(cells.of_core(1));
         unsigned int entry[3] = {1};
-        ASSERT_EQ(soc_mem_write(0, one.mem, cell(one.all_cores), 0, entry), BCM_E_NONE);
-        EXPECT_EQ(read(one.mem, core1, 0)[0], 1u);
+        ASSERT_EQ(soc_mem_write(0, mem, cell(cells.all_cores), 0, entry), BCM_E_NONE);
+        EXPECT_EQ(read(mem, core1, 0)[0], 1u);
         entry[0] = 2;
-        ASSERT_EQ(soc_mem_write(0, one.mem, core1, 0, entry), BCM_E_NONE);
-        EXPECT_EQ(read(one.mem, core1, 0)[0], 2u);
-        EXPECT_EQ(read(one.mem, core0, 0)[0], 1u);
-        EXPECT_EQ(read(one.mem, copy_any(one.mem), 0)[0], 1u);
+        ASSERT_EQ(soc_mem_write(0, mem, core1, 0, entry), BCM_E_NONE);
+        EXPECT_EQ(read(mem, core1, 0)[0], 2u);
+        EXPECT_EQ(read(mem, core0, 0)[0], 1u);
+        EXPECT_EQ(read(mem, copy_any(mem), 0)[0], 1u);
         entry[0] = 3;
-        ASSERT_EQ(soc_mem_write(0, one.mem, copy_any(one.mem), 0, entry), BCM_E_NONE);
-        EXPECT_EQ(read(one.mem, core1, 0)[0], 3u);
+        ASSERT_EQ(soc_mem_write(0, mem, copy_any(mem), 0, entry), BCM_E_NONE);
+        EXPECT_EQ(read(mem, core1, 0)[0], 3u);
         // The copies of one kind of block mean nothing to a table of another.
         EXPECT_EQ(soc_mem_read(0, CGM_HAPMm, core0, 0, entry), BCM_E_PARAM);
     }

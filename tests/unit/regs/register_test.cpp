@@ -114,7 +114,7 @@ TEST_F(RegistersTest, AWriteToNoInstanceInParticularReachesBothCores) {
     EXPECT_EQ(get32(IHP_GENERAL_TRAPr, 1), 8u);
     ASSERT_EQ(soc_reg32_set(0, IHP_GENERAL_TRAPr, 1, 0, 9), BCM_E_NONE);
     EXPECT_EQ(get32(IHP_GENERAL_TRAPr), 8u);
-    EXPECT_EQ(get32(PORT_CNTMAXSIZEr, local_gport(7)), 1518u);
+    EXPECT_EQ(get32(PORT_CNTMAXSIZEr, kLocalGport.of(7)), 1518u);
 }
 
 TEST_F(RegistersTest, AnAddressLeadsToTheSameRegister) {
