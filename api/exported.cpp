@@ -1,3 +1,4 @@
+// Bits of field sets, system ports, copy numbers and LAG members.
 #include "api/exported.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// Reading `self` and the value, and the store or load of each kind of field.
 #include "classes/accessor.h"
 
 #include <cstring>

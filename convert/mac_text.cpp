@@ -1,3 +1,4 @@
+// MAC addresses read from text and written with a table of digits.
 #include "convert/mac_text.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// Port bitmaps filled from a list and turned into one.
 #include "convert/port_list.h"
 
 #include <array>

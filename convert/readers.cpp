@@ -1,3 +1,4 @@
+// Readers of numbers, bools and texts that take more than a type test.
 #include "convert/readers.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// Raising the exception that belongs to each refusal.
 #include "convert/refuse.h"
 
 #include <cstring>

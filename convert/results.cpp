@@ -1,3 +1,4 @@
+// Texts, and pointer objects that own their block.
 #include "convert/results.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// Refusing a value for a variable, and the copy that a text variable keeps.
 #include "convert/variables.h"
 
 #include <new>

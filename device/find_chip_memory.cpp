@@ -1,3 +1,4 @@
+// Choosing the shape of findChipMemory by its arguments, and its counted result.
 #include "device/find_chip_memory.h"
 
 #include <bit>

@@ -1,3 +1,4 @@
+// Wrapping the Python object and installing it as an accessor.
 #include "device/mdio_bridge.h"
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// Growing a single result into a list.
 #include "runtime/append_output.h"
 
 #include <utility>

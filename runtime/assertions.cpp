@@ -1,3 +1,4 @@
+// The end of the process at a condition that does not hold.
 #include "runtime/assertions.h"
 
 #include <cstdio>

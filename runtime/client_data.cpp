@@ -1,3 +1,4 @@
+// Taking from a proxy class what makes and destroys its instances, and keeping it on the type.
 #include "runtime/client_data.h"
 
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// Digits from bytes, and bytes from digits.
 #include "runtime/hex_text.h"
 
 namespace {

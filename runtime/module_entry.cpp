@@ -1,3 +1,4 @@
+// Filling the module's dictionary: methods, constants, docstrings, `cvar`.
 #include "runtime/module_entry.h"
 
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// Joining the ring of type tables, and settling each type with its namesakes.
 #include "runtime/module_list.h"
 
 #include "runtime/client_data.h"

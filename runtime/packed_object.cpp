@@ -1,3 +1,4 @@
+// The Python type of packed objects: printing, comparing, freeing.
 #include "runtime/packed_object.h"
 
 #include <cstdio>

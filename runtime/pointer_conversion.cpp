@@ -1,3 +1,4 @@
+// The unusual ways of pointer conversion: casts, proxies, docstrings, ownership.
 #include "runtime/pointer_conversion.h"
 
 #include <cstring>

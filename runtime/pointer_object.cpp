@@ -1,3 +1,4 @@
+// The Python type of pointer objects: its methods, chains and destruction.
 #include "runtime/pointer_object.h"
 
 #include <cstdio>

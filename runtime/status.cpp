@@ -1,3 +1,4 @@
+// The exception class of each failing status.
 #include "runtime/status.h"
 
 PyObject *SWIG_Python_ErrorType(int status) {

@@ -1,3 +1,4 @@
+// Searches by name and cast lists that move a hit to their front.
 #include "runtime/type_table.h"
 
 #include <cstring>

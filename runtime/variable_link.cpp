@@ -1,3 +1,4 @@
+// The Python type of `cvar`: its list of variables, their lookup and its text.
 #include "runtime/variable_link.h"
 
 #include <cstdio>

@@ -1,3 +1,4 @@
+// Making, indexing, slicing and freeing an Array.
 #include "python/companion/array.h"
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// Finding the callable of a native call, running it, and cookies and bindings.
 #include "python/companion/callbacks.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// Loading and storing one element of each form.
 #include "python/companion/element.h"
 
 #include <algorithm>

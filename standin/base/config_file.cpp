@@ -1,3 +1,4 @@
+// Reading and writing the lines of configuration files.
 #include "standin/base/config_file.h"
 
 #include <fcntl.h>

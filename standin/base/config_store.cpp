@@ -1,3 +1,4 @@
+// The settings of the process under their lock, and their way from and to the file.
 #include "standin/base/config_store.h"
 
 #include <fnmatch.h>

@@ -1,3 +1,4 @@
+// Faults read from their settings, waited out and counted down.
 #include "standin/base/faults.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The levels, descriptors and captured lines behind the log and the trace.
 #include "standin/base/log.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// Parsers and formatters of numbers of 32 and 64 bits.
 #include "standin/base/number_text.h"
 
 #include <algorithm>

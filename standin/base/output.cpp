@@ -1,3 +1,4 @@
+// The captures of a thread, the pager and standard output behind them, and columns.
 #include "standin/base/output.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Cutting, trimming and comparing text without regard to the locale.
 #include "standin/base/scan.h"
 
 #include <algorithm>

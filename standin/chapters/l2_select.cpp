@@ -1,3 +1,4 @@
+// Matching rows of the MAC table, settling their destination, telling the watchers.
 #include "standin/chapters/l2_select.h"
 
 #include <cstring>

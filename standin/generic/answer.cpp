@@ -1,3 +1,4 @@
+// What each kind of generated call does to the table of its family.
 #include <cstring>
 #include <limits>
 #include <optional>

@@ -1,3 +1,4 @@
+// Bytes of keys and rows out of arguments, and the rows that these select.
 #include "standin/generic/selection.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Copies of the rows that a traversal selects, and memory for its callback's arguments.
 #include "standin/generic/walk.h"
 
 #include <algorithm>

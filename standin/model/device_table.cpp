@@ -1,3 +1,4 @@
+// The device table, and the lock under which all of the model stands.
 #include "standin/model/device_table.h"
 
 #include "standin/model/model.h"

@@ -1,3 +1,4 @@
+// Rows of the MAC table by key, and the squeezing out of gaps.
 #include "standin/model/l2_table.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Which interfaces can be pointed at and let go; addresses and masks of both versions.
 #include "standin/model/l3.h"
 
 #include <algorithm>

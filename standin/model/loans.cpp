@@ -1,3 +1,4 @@
+// The book of lent arrays, under a lock of its own.
 #include "standin/model/loans.h"
 
 namespace standin {

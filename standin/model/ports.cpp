@@ -1,3 +1,4 @@
+// What a port is on the first day, and which speeds it can run at.
 #include "standin/model/ports.h"
 
 #include <algorithm>

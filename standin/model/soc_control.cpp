@@ -1,3 +1,4 @@
+// Filling the copy numbers of a control record and publishing it.
 #include "standin/model/soc_control.h"
 
 #include "layout/sdk_words.h"

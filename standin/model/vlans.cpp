@@ -1,3 +1,4 @@
+// VLANs and groups on the first day, and the port states of spanning trees.
 #include "standin/model/vlans.h"
 
 #include "standin/model/model.h"

@@ -1,3 +1,4 @@
+// The book of installed PHY accessors and told versions, under its lock.
 #include "standin/phy/accessors.h"
 
 #include <limits>

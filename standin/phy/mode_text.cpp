@@ -1,3 +1,4 @@
+// Items of port modes and abilities, and their words in both directions.
 #include "standin/phy/mode_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Checks, the caller's access functions, the words and the watchers, in this order.
 #include "standin/regs/access.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Places of fields, elements and entries, made by rule from the rows, once a process.
 #include "standin/regs/layout.h"
 
 #include <algorithm>

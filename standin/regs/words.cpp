@@ -1,3 +1,4 @@
+// Reads and writes of one word, through the shadow or past it.
 #include "standin/regs/words.h"
 
 #include "standin/base/log.h"

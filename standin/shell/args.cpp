@@ -1,3 +1,4 @@
+// Taking words off a command's arguments, and storing options by key.
 #include "standin/shell/args.h"
 
 #include "sdk/constants.h"

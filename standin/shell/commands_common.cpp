@@ -1,3 +1,4 @@
+// What several commands share: status texts, port lists, patterns of names.
 #include <fnmatch.h>
 
 #include "sdk/diag/parse.h"

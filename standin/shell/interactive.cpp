@@ -1,3 +1,4 @@
+// The prompt, its loop over the lines of a person, and the end of input.
 #include "standin/shell/interactive.h"
 
 #include <cstdio>

@@ -1,3 +1,4 @@
+// The mark that SIGINT leaves, and the handler that stands meanwhile.
 #include "standin/shell/interrupt.h"
 
 #include <atomic>

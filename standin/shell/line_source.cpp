@@ -1,3 +1,4 @@
+// Lines from an editor with history on a terminal, else from standard input.
 #include "standin/shell/line_source.h"
 
 #include <stdlib.h>

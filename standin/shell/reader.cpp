@@ -1,3 +1,4 @@
+// Splitting lines into commands and words, with quotes, variables and units.
 #include "standin/shell/reader.h"
 
 #include "standin/base/number_text.h"

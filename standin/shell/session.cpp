@@ -1,3 +1,4 @@
+// Running lines, files and single commands, and the variables of each unit.
 #include "standin/shell/session.h"
 
 #include <array>

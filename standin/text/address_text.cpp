@@ -1,3 +1,4 @@
+// Parsers and formatters of addresses, global ports and ranges.
 #include "standin/text/address_text.h"
 
 #include <bit>

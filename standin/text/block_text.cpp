@@ -1,3 +1,4 @@
+// Names of block types, and ranges of copies read and written.
 #include "standin/text/block_text.h"
 
 #include "standin/base/scan.h"

@@ -1,3 +1,4 @@
+// References to registers and memories taken apart and put together.
 #include "standin/text/identifier_text.h"
 
 #include "standin/base/number_text.h"

@@ -1,3 +1,4 @@
+// The families of constants, gathered once from the list of all constants.
 #include "standin/text/name_text.h"
 
 #include <algorithm>

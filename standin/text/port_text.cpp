@@ -1,3 +1,4 @@
+// Items of port lists read into sets, and sets written as short lists.
 #include "standin/text/port_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The addresses of every instance and element that a reference means.
 #include "standin/text/register_list.h"
 
 #include "sdk/constants.h"

@@ -1,3 +1,4 @@
+// Asking the library for a unit's ports and their names.
 #include "standin/text/unit_ports.h"
 
 #include "sdk/bcm/port.h"

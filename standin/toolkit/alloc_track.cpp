@@ -1,3 +1,4 @@
+// The list of tracked classes, and sums over their live objects.
 #include "toolkit/alloc_track.h"
 
 #include <mutex>

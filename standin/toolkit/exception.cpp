@@ -1,3 +1,4 @@
+// The exception for a value outside its range, thrown out of line.
 #include "toolkit/exception.h"
 
 namespace Lumo {

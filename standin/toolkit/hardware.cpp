@@ -1,3 +1,4 @@
+// Constructors and destructors of the objects that stand for hardware.
 #include <utility>
 
 #include "toolkit/chip_memory.h"

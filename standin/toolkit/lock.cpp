@@ -1,3 +1,4 @@
+// The activity lock, which its holder may take again.
 #include "toolkit/lock.h"
 
 namespace Lumo {

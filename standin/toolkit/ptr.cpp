@@ -1,3 +1,4 @@
+// Memory of counted objects, and their end at zero references.
 #include "toolkit/ptr.h"
 
 #include <new>

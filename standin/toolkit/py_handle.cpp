@@ -1,3 +1,4 @@
+// Taking and dropping the handle's reference under the interpreter lock.
 #include "standin/toolkit/interpreter.h"
 
 #include "toolkit/py_handle.h"

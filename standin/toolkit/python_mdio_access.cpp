@@ -1,3 +1,4 @@
+// An MDIO accessor whose reads and writes are methods of a Python object.
 #include "standin/toolkit/interpreter.h"
 
 #include <utility>

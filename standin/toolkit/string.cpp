@@ -1,3 +1,4 @@
+// The shared body behind texts and names, and formatted texts.
 #include "toolkit/string.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The record of each call: its arguments, and the answers that were set for it.
 #include "tests/recording/record.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The configuration store and the text form of its file.
 #include <sys/stat.h>
 
 #include <thread>

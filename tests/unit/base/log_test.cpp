@@ -1,3 +1,4 @@
+// Levels, captures and descriptors of the log and the trace.
 #include "standin/base/log.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// Numbers, lines and bytes of packets as text.
 #include "standin/base/number_text.h"
 
 #include "diag_fixture.h"

@@ -1,3 +1,4 @@
+// What import leaves in a module, tried on a module of a handful of types.
 #include "runtime/module_entry.h"
 
 #include <cstdio>

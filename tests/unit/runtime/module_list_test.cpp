@@ -1,3 +1,4 @@
+// How the type tables of several modules come together.
 #include "runtime/module_list.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// A module of a handful of types, linked with the runtime alone.
 #include "tests/unit/runtime/tiny_module.h"
 
 #include "runtime/module_entry.h"

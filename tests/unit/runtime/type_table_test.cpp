@@ -1,3 +1,4 @@
+// Searches in type tables, casts and client data.
 #include "runtime/type_table.h"
 
 #include <array>

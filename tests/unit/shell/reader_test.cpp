@@ -1,3 +1,4 @@
+// From lines to words, and from words to options.
 #include "standin/shell/reader.h"
 
 #include "diag_fixture.h"

@@ -1,3 +1,4 @@
+// The shell: whole sessions, files, variables, interrupts.
 #include <csignal>
 #include <cstdlib>
 

@@ -1,3 +1,4 @@
+// Names of field qualifiers, actions and modes, and sets of them as text.
 #include "diag_fixture.h"
 #include "sdk/constants.h"
 #include "sdk/diag/format.h"

@@ -1,3 +1,4 @@
+// Ports, addresses, blocks, identifiers and port modes as text.
 #include "standin/text/port_text.h"
 
 #include "diag_fixture.h"
