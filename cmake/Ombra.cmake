@@ -2,6 +2,12 @@
 
 set(OMBRA_MADE ${CMAKE_BINARY_DIR}/made)
 
+# Tells this folder that the generator makes these sources: before CMake 3.20 a folder knows that
+# only of what its own commands make.
+function(ombra_made_here)
+    set_source_files_properties(${ARGN} PROPERTIES GENERATED TRUE)
+endfunction()
+
 # Interpreters as targets: `python27` carries the headers, `python27_embed` the library as well;
 # the same with `_debug` in a tree for the debug interpreter. A module never links the library: it
 # runs inside a program that has it.

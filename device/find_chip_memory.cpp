@@ -1,8 +1,9 @@
 // Choosing the shape of findChipMemory by its arguments, and its counted result.
 #include "device/find_chip_memory.h"
 
-#include <bit>
+#include <cstring>
 #include <limits>
+#include <type_traits>
 
 #include "convert/frame_body.h"
 #include "device/counted_result.h"
@@ -20,6 +21,15 @@ constexpr char kNoShapeFits[] =
     "  Possible C/C++ prototypes are:\n"
     "    TesselApi::findChipMemory(int,int,Hardware::ChipAddress,U32)\n"
     "    TesselApi::findChipMemory(int,int,int)\n";
+
+// The value that the bytes of a by-value argument are.
+template <class T, class Bytes>
+T value_of(const Bytes &bytes) {
+    static_assert(sizeof(T) == sizeof(Bytes) && std::is_trivially_copyable_v<T>);
+    T value;
+    std::memcpy(static_cast<void *>(&value), &bytes, sizeof value);
+    return value;
+}
 
 bool could_be_int(PyObject *object) {
     long value = 0;
@@ -42,8 +52,8 @@ PyObject *by_address(const FindChipMemoryRows &rows, PyObject *args) {
     return call_with<Signed32, Signed32, Address, Size>(
         rows.by_address, args, [&rows](int unit, int mem, const auto &sca, const auto &size) {
             return counted_result(
-                TesselApi::findChipMemory(unit, mem, std::bit_cast<Hardware::ChipAddress>(sca),
-                                          std::bit_cast<U32>(size)),
+                TesselApi::findChipMemory(unit, mem, value_of<Hardware::ChipAddress>(sca),
+                                          value_of<U32>(size)),
                 result_type(rows));
         });
 }

@@ -5,7 +5,9 @@
 namespace standin {
 namespace {
 
-using enum MemoryKind;
+constexpr auto kSdk = MemoryKind::kSdk;
+constexpr auto kInterfaces = MemoryKind::kInterfaces;
+constexpr auto kPlatform = MemoryKind::kPlatform;
 
 #define F(name, bits) \
     FieldRow { name##f, #name, bits }

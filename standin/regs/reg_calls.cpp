@@ -9,7 +9,8 @@ using namespace standin;
 
 namespace {
 
-using enum Direction;
+constexpr auto kRead = Direction::kRead;
+constexpr auto kWrite = Direction::kWrite;
 
 constexpr std::uint32_t low_word(uint64 value) { return static_cast<std::uint32_t>(value); }
 constexpr std::uint32_t high_word(uint64 value) { return static_cast<std::uint32_t>(value >> 32); }

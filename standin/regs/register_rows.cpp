@@ -5,7 +5,8 @@
 namespace standin {
 namespace {
 
-using enum RegisterKind;
+constexpr auto kShadowed = RegisterKind::kShadowed;
+constexpr auto kVolatile = RegisterKind::kVolatile;
 
 #define F(name, bits) \
     FieldRow { name##f, #name, bits }

@@ -18,6 +18,6 @@ fi
 status=0
 for tree in "${trees[@]}"; do
     echo "==> Tests of $tree"
-    ctest --test-dir "$tree" --output-on-failure --no-tests=error --parallel "${1:-2}" || status=1
+    (cd "$tree" && ctest --output-on-failure --no-tests=error --parallel "${1:-2}") || status=1
 done
 exit "$status"

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
+#include <cstring>
 #include <thread>
 #include <vector>
 
@@ -104,7 +104,10 @@ TEST(CountedObjectLayout, VirtualOperationsKeepTheirSlots) {
         std::ptrdiff_t adjustment;
     };
     const auto slot = [](auto member) {
-        return (std::bit_cast<MemberPointer>(member).address - 1) / sizeof(void *);
+        MemberPointer pointer;
+        static_assert(sizeof pointer == sizeof member);
+        std::memcpy(&pointer, &member, sizeof pointer);
+        return (pointer.address - 1) / sizeof(void *);
     };
     EXPECT_EQ(slot(&Lumo::PtrInterface::onZeroReferences), 0u);
     EXPECT_EQ(slot(&Lumo::PtrInterface::hasNotificationActiveIs), 1u);
