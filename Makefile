@@ -7,6 +7,7 @@ SHELL := /bin/bash
 
 JOBS ?= $(shell nproc)
 prefix ?= /usr/local
+SUITE ?= bullseye
 DESTDIR ?=
 export DESTDIR PYTHON27 PYTHON27_DEBUG
 
@@ -17,12 +18,13 @@ compile_debug := cmake --build build/debug --parallel $(JOBS)
 python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
 have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
 
-.PHONY: help demo test build debug bench docs fuzz install format tidy setup configure mutants clean
+.PHONY: help demo test build debug bench docs fuzz portable install install-standin uninstall deb \
+    deb-test root-test format tidy setup configure mutants clean
 
 demo: build ## install what is missing, build, and run the quick start
 	@$(call python,examples/quickstart.py)
 
-test: build debug ## the same, and every test: release, then debug interpreter and sanitizers
+test: build portable debug ## the same, and every test: release, then debug interpreter and sanitizers
 	@tests/run/ctest_all.sh $(JOBS)
 
 build: configure ## the module, its libraries and Python files, together in build/lib
@@ -44,8 +46,27 @@ fuzz: setup ## feed the parsers and the conversions hostile input
 	@setup/configure.sh fuzz
 	@cmake --build build/fuzz --parallel $(JOBS) --target fuzz
 
-install: build ## install below DESTDIR and prefix (/usr/local)
-	@cmake --install build --prefix "$(prefix)"
+portable: build ## module and companion for older C and C++ libraries, in build/portable
+	@$(compile) --target portable
+
+install: build ## install module, proxy and companion below DESTDIR and prefix (/usr/local)
+	@cmake --install build --prefix "$(prefix)" --component module --strip
+
+install-standin: build ## install the stand-in, into a folder that no loader searches by itself
+	@cmake --install build --prefix "$(prefix)" --component standin --strip
+
+uninstall: ## remove what install and install-standin have put there
+	@packaging/uninstall.sh build
+
+deb: portable ## Debian packages of the module, the stand-in and the documents, in build/deb
+	@setup/packages.sh deb
+	@packaging/make_deb.sh build/deb
+
+deb-test: deb ## install, use and remove the packages in a bare root
+	@packaging/deb_test.sh build/roots bookworm
+
+root-test: ## demo and tests in a bare root of Debian SUITE=bullseye, as a new user's
+	@packaging/root_test.sh build/roots "$(SUITE)"
 
 format: ## lay out all C++ sources by .clang-format
 	@setup/packages.sh format
@@ -71,4 +92,4 @@ clean: ## remove all that was built
 
 help: ## this list
 	@echo "usage: make TARGET [PYTHON27=/path/to/python2.7] [JOBS=n] [prefix=/usr/local] [DESTDIR=]"
-	@sed -n 's/^\([a-z]*\):[^#]*## \(.*\)/  \1\t\2/p' Makefile | expand -t 12
+	@sed -n 's/^\([a-z-]*\):[^#]*## \(.*\)/  \1\t\2/p' Makefile | expand -t 20

@@ -2,7 +2,7 @@
 # Installs what a group of make targets needs and the machine lacks. Does nothing,
 # in a fraction of a second, when all of it is there.
 #
-# usage: setup/packages.sh build|format|tidy|fuzz
+# usage: setup/packages.sh build|format|tidy|fuzz|root|deb
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . setup/lib.sh
@@ -12,8 +12,10 @@ case "${1:-}" in
     build)  packages=(g++ cmake ninja-build libgtest-dev libedit-dev) ;;
     format) packages=(clang-format-16) ;;
     tidy)   packages=(clang-tidy) ;;
+    root)   packages=(debootstrap) ;;
+    deb)    packages=(dpkg-dev debhelper fakeroot lintian) ;;
     fuzz)   packages=(clang libclang-rt-dev) ;;
-    *)      die "usage: setup/packages.sh build|format|tidy|fuzz" ;;
+    *)      die "usage: setup/packages.sh build|format|tidy|fuzz|root|deb" ;;
 esac
 
 mapfile -t missing < <(missing_packages "${packages[@]}")
