@@ -83,13 +83,7 @@ int bcm_field_stat_create_id(int unit, bcm_field_group_t group, int nstat,
 }
 
 int bcm_field_stat_destroy(int unit, int stat_id) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        const FieldStat *const one = find_in(stats_of(chip), stat_id);
-        if (one == nullptr) return BCM_E_NOT_FOUND;
-        if (one->users > 0) return BCM_E_BUSY;
-        stats_of(chip).erase(stat_id);
-        return BCM_E_NONE;
-    });
+    return erase_unused(__func__, unit, stats_of, stat_id);
 }
 
 int bcm_field_stat_size(int unit, int stat_id, int *stat_size) {

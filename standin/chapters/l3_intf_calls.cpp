@@ -17,11 +17,7 @@ constexpr Numbering<bcm_if_t> kEgresses{"l3_egress", kL3Egresses, kFirstEgress,
 std::map<bcm_if_t, bcm_l3_egress_t> &egresses_of(Switch &chip) { return chip.l3.egresses; }
 
 int clear_l3(const char *function, int unit) {
-    return on_switch(function, unit, [](Switch &chip) {
-        chip.l3 = L3{};
-        forget_generic(chip, "bcm_l3_");
-        return BCM_E_NONE;
-    });
+    return start_chapter(function, unit, "bcm_l3_", &Switch::l3);
 }
 
 bool same_mac(const bcm_mac_t one, const bcm_mac_t other) {

@@ -59,13 +59,7 @@ int marked(const char *function, int unit, bcm_port_t port, int *enable,
 
 extern "C" {
 
-int bcm_mirror_init(int unit) {
-    return on_switch(__func__, unit, [](Switch &chip) {
-        mirrors_of(chip) = Mirrors{};
-        forget_generic(chip, "bcm_mirror_");
-        return BCM_E_NONE;
-    });
-}
+int bcm_mirror_init(int unit) { return start_chapter(__func__, unit, "bcm_mirror_", mirrors_of); }
 
 int bcm_mirror_mode_set(int unit, int mode) {
     return on_switch(__func__, unit, [&](Switch &chip) {

@@ -77,11 +77,7 @@ int on_replications(const char *function, int unit, bcm_multicast_t group, int c
 }
 
 int clear_groups(const char *function, int unit) {
-    return on_switch(function, unit, [](Switch &chip) {
-        groups_of(chip).clear();
-        forget_generic(chip, "bcm_multicast_");
-        return BCM_E_NONE;
-    });
+    return start_chapter(function, unit, "bcm_multicast_", groups_of);
 }
 
 }  // namespace

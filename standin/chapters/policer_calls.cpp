@@ -50,13 +50,7 @@ int bcm_policer_get(int unit, bcm_policer_t policer_id, bcm_policer_config_t *po
 }
 
 int bcm_policer_destroy(int unit, bcm_policer_t policer_id) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        const Policer *const one = find_in(policers_of(chip), policer_id);
-        if (one == nullptr) return BCM_E_NOT_FOUND;
-        if (one->users > 0) return BCM_E_BUSY;
-        policers_of(chip).erase(policer_id);
-        return BCM_E_NONE;
-    });
+    return erase_unused(__func__, unit, policers_of, policer_id);
 }
 
 int bcm_policer_traverse(int unit, bcm_policer_traverse_cb cb, void *user_data) {

@@ -18,25 +18,39 @@ bool good_settings(const bcm_port_info_t &info) {
            within(info.pause_rx, 0, 1) && within(info.frame_max, kSmallestFrame, kLargestFrame);
 }
 
+template <class T>
+void assign(T &to, const auto &from) {
+    to = static_cast<T>(from);
+}
+
+// Calls `each` with every setting that the structure and the port have in common, but the address.
+void each_setting(auto &info, auto &port, auto each) {
+    each(info.enable, port.enable);
+    each(info.autoneg, port.autoneg);
+    each(info.speed, port.speed);
+    each(info.duplex, port.duplex);
+    each(info.linkscan, port.linkscan);
+    each(info.learn, port.learn);
+    each(info.discard, port.discard);
+    each(info.vlanfilter, port.ifilter);
+    each(info.untagged_priority, port.untagged_priority);
+    each(info.untagged_vlan, port.untagged_vlan);
+    each(info.pfm, port.pfm);
+    each(info.loopback, port.loopback);
+    each(info.phy_master, port.master);
+    each(info.pause_tx, port.pause_tx);
+    each(info.pause_rx, port.pause_rx);
+    each(info.local_ability, port.advertised);
+    each(info.frame_max, port.frame_max);
+}
+
 }  // namespace
 
 extern "C" {
 
-int bcm_port_init(int unit) {
-    return on_switch(__func__, unit, [](Switch &chip) {
-        chip.ports = Ports{};
-        forget_generic(chip, "bcm_port_");
-        return BCM_E_NONE;
-    });
-}
+int bcm_port_init(int unit) { return start_chapter(__func__, unit, "bcm_port_", &Switch::ports); }
 
-int bcm_port_clear(int unit) {
-    return on_switch(__func__, unit, [](Switch &chip) {
-        chip.ports = Ports{};
-        forget_generic(chip, "bcm_port_");
-        return BCM_E_NONE;
-    });
-}
+int bcm_port_clear(int unit) { return start_chapter(__func__, unit, "bcm_port_", &Switch::ports); }
 
 int bcm_port_config_get(int unit, bcm_port_config_t *config) {
     return on_switch(__func__, unit, [&](Switch &) {
@@ -104,27 +118,11 @@ int bcm_port_info_get(int unit, bcm_port_t port, bcm_port_info_t *info) {
         if (info == nullptr) return BCM_E_PARAM;
         const Stg &stg = chip.vlans.stgs.at(chip.vlans.default_stg);
         *info = bcm_port_info_t{};
-        info->enable = one->enable;
+        each_setting(*info, *one, [](auto &told, const auto &kept) { assign(told, kept); });
         info->linkstatus = one->link();
-        info->autoneg = one->autoneg;
-        info->speed = one->speed;
         info->speed_max = one->speed_max;
-        info->duplex = one->duplex;
-        info->linkscan = one->linkscan;
-        info->learn = one->learn;
-        info->discard = one->discard;
-        info->vlanfilter = static_cast<uint32>(one->ifilter);
-        info->untagged_priority = one->untagged_priority;
-        info->untagged_vlan = one->untagged_vlan;
         info->stp_state = stg.state[static_cast<std::size_t>(local_port(port))];
-        info->pfm = one->pfm;
-        info->loopback = one->loopback;
-        info->phy_master = one->master;
-        info->pause_tx = one->pause_tx;
-        info->pause_rx = one->pause_rx;
         std::ranges::copy(one->pause_address, info->pause_mac);
-        info->local_ability = one->advertised;
-        info->frame_max = one->frame_max;
         return BCM_E_NONE;
     });
 }
@@ -134,24 +132,8 @@ int bcm_port_info_set(int unit, bcm_port_t port, bcm_port_info_t *info) {
     return on_port(__func__, unit, port, [&](Port &one) {
         if (info == nullptr || !good_settings(*info)) return BCM_E_PARAM;
         if (!can_run_at(one, info->speed)) return BCM_E_CONFIG;
-        one.enable = info->enable;
-        one.autoneg = info->autoneg;
-        one.speed = info->speed;
-        one.duplex = info->duplex;
-        one.linkscan = info->linkscan;
-        one.learn = info->learn;
-        one.discard = info->discard;
-        one.ifilter = static_cast<int>(info->vlanfilter);
-        one.untagged_priority = info->untagged_priority;
-        one.untagged_vlan = info->untagged_vlan;
-        one.pfm = info->pfm;
-        one.loopback = info->loopback;
-        one.master = info->phy_master;
-        one.pause_tx = info->pause_tx;
-        one.pause_rx = info->pause_rx;
+        each_setting(*info, one, [](const auto &told, auto &kept) { assign(kept, told); });
         std::copy_n(info->pause_mac, one.pause_address.size(), one.pause_address.begin());
-        one.advertised = info->local_ability;
-        one.frame_max = info->frame_max;
         return BCM_E_NONE;
     });
 }

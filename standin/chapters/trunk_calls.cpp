@@ -58,11 +58,7 @@ void clear_members(Trunk &trunk) {
 }
 
 int clear_trunks(const char *function, int unit) {
-    return on_switch(function, unit, [](Switch &chip) {
-        trunks_of(chip).clear();
-        forget_generic(chip, "bcm_trunk_");
-        return BCM_E_NONE;
-    });
+    return start_chapter(function, unit, "bcm_trunk_", trunks_of);
 }
 
 template <class Body>

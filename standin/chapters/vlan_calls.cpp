@@ -42,13 +42,7 @@ std::vector<std::pair<bcm_gport_t, int>> members_of(const Vlan &vlan) {
 
 extern "C" {
 
-int bcm_vlan_init(int unit) {
-    return on_switch(__func__, unit, [](Switch &chip) {
-        chip.vlans = Vlans{};
-        forget_generic(chip, "bcm_vlan_");
-        return BCM_E_NONE;
-    });
-}
+int bcm_vlan_init(int unit) { return start_chapter(__func__, unit, "bcm_vlan_", &Switch::vlans); }
 
 int bcm_vlan_create(int unit, bcm_vlan_t vid) {
     return on_switch(__func__, unit, [&](Switch &chip) {

@@ -107,6 +107,29 @@ inline void forget_generic(Switch &chip, std::string_view prefix) {
     std::erase_if(chip.generic, [&](const auto &one) { return one.first.starts_with(prefix); });
 }
 
+// Starts a chapter anew: what `kept` finds in a switch, and what calls without a model keep.
+template <class Kept>
+int start_chapter(const char *function, int unit, std::string_view prefix, Kept kept) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        auto &all = std::invoke(kept, chip);
+        all = std::remove_reference_t<decltype(all)>{};
+        forget_generic(chip, prefix);
+        return BCM_E_NONE;
+    });
+}
+
+// Takes `id` out of a table whose entries count their users; BCM_E_BUSY while there are any.
+template <class Table, class Id>
+int erase_unused(const char *function, int unit, Table table, Id id) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        const auto *const one = find_in(table(chip), id);
+        if (one == nullptr) return BCM_E_NOT_FOUND;
+        if (one->users > 0) return BCM_E_BUSY;
+        table(chip).erase(id);
+        return BCM_E_NONE;
+    });
+}
+
 // What a call answers whose callback is null, after the unit.
 inline int refuse(const char *function, int unit) {
     return on_switch(function, unit, [](Switch &) { return int{BCM_E_PARAM}; });
