@@ -16,27 +16,45 @@ int global_port(const bcm_l2_addr_t &entry) {
     return kLocalGport.cut(entry.port);
 }
 
+// "static" or "dynamic", the same object each time; new reference, or null with an exception.
+PyObject *word(bool is_static) {
+    static PyObject *words[2] = {};
+    PyObject *&shared = words[is_static ? 1 : 0];
+    if (shared == nullptr) [[unlikely]] {
+        shared = PyString_InternFromString(is_static ? "static" : "dynamic");
+        if (shared == nullptr) return nullptr;
+    }
+    Py_INCREF(shared);
+    return shared;
+}
+
+// The number of a VLAN, the same object as long as it stays the same.
+PyObject *vlan_number(long vid) {
+    static PyObject *last = nullptr;
+    if (last == nullptr || PyInt_AS_LONG(last) != vid) {
+        PyObject *number = PyInt_FromLong(vid);
+        if (number == nullptr) return nullptr;
+        Py_XDECREF(last);
+        last = number;
+    }
+    Py_INCREF(last);
+    return last;
+}
+
 // One row, or null with an exception. Built item by item: a format string would be read again for
 // each of up to 65,536 rows.
 PyObject *snapshot_row(const bcm_l2_addr_t &entry) {
     PyObject *row = PyTuple_New(4);
     if (row == nullptr) return nullptr;
-    const bool is_static = (entry.flags & kL2Static) != 0;
     PyObject *const items[] = {
-        PyString_FromStringAndSize(macaddrToString(entry.mac), kMacTextLength),
-        PyInt_FromLong(entry.vid),
+        ombra::mac_text(entry.mac),
+        vlan_number(entry.vid),
         PyInt_FromLong(global_port(entry)),
-        PyString_FromString(is_static ? "static" : "dynamic"),
+        word((entry.flags & kL2Static) != 0),
     };
-    bool whole = true;
-    for (Py_ssize_t i = 0; i < 4; ++i) {
-        whole = whole && items[i] != nullptr;
-        PyTuple_SET_ITEM(row, i, items[i]);  // a tuple may hold nulls until it dies
-    }
-    if (!whole) {
-        Py_DECREF(row);
-        return nullptr;
-    }
+    for (Py_ssize_t i = 0; i < 4; ++i) PyTuple_SET_ITEM(row, i, items[i]);
+    if (!items[0] || !items[1] || !items[2] || !items[3]) [[unlikely]]
+        Py_CLEAR(row);  // a tuple may hold nulls until it dies
     return row;
 }
 

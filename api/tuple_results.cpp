@@ -17,15 +17,13 @@ namespace {
 // exception, gives null and keeps nothing.
 template <typename... Items>
 PyObject *tuple_of(Items... items) {
-    const std::array<PyObject *, sizeof...(Items)> all{items...};
-    bool whole = true;
-    for (const PyObject *item : all) whole = whole && item != nullptr;
-    PyObject *tuple = whole ? PyTuple_New(sizeof...(Items)) : nullptr;
-    for (std::size_t i = 0; i < all.size(); ++i)
-        if (tuple != nullptr)
-            PyTuple_SET_ITEM(tuple, static_cast<Py_ssize_t>(i), all[i]);
-        else
-            Py_XDECREF(all[i]);
+    PyObject *tuple = ((items != nullptr) && ...) ? PyTuple_New(sizeof...(Items)) : nullptr;
+    if (tuple == nullptr) [[unlikely]] {
+        ([](PyObject *item) { Py_XDECREF(item); }(items), ...);
+        return nullptr;
+    }
+    Py_ssize_t next = 0;
+    ((PyTuple_SET_ITEM(tuple, next, items), ++next), ...);
     return tuple;
 }
 

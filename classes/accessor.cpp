@@ -12,23 +12,30 @@ namespace {
 constexpr unsigned kSelf = 0;
 constexpr unsigned kField = 1;
 
-// Takes `self` out of a getter's tuple. False with an exception for a wrong count, a wrong type or
-// a null pointer.
-bool read_self(const FieldRow &row, PyObject *args, void *&self) {
+// Takes `self` out of a getter's tuple. Null with an exception for a wrong count, a wrong type or a
+// null pointer.
+[[gnu::always_inline]] inline void *read_self(const FieldRow &row, PyObject *args) {
     PyObject *object = nullptr;
-    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 1, 1, &object)) return false;
-    const int status = SWIG_Python_ConvertPtrAndOwn(object, &self, slot(row.call, kSelf), 0);
-    if (status < 0) return refuse(row.call, kSelf, status);
-    return self != nullptr || refuse_null(row.call, kSelf);
+    if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 1, 1, &object)) return nullptr;
+    const PointerRead self = read_pointer(object, row.call, kSelf);
+    if (self.pointer == nullptr && self.status >= 0) [[unlikely]]
+        refuse_null(row.call, kSelf);
+    return self.pointer;
 }
 
-// Takes both arguments of a setter apart and converts `self`, which may come out null.
-bool read_setter(const FieldRow &row, PyObject *args, void *&self, PyObject *&value) {
+// Both arguments of a setter: `self` converted, which may be null, and the value.
+struct Setter {
+    void *self;
+    PyObject *value;  // null: exception set
+};
+
+[[gnu::always_inline]] inline Setter read_setter(const FieldRow &row, PyObject *args) {
     PyObject *object = nullptr;
+    PyObject *value = nullptr;
     if (!PyArg_UnpackTuple(args, const_cast<char *>(row.call.name), 2, 2, &object, &value))
-        return false;
-    const int status = SWIG_Python_ConvertPtrAndOwn(object, &self, slot(row.call, kSelf), 0);
-    return status >= 0 || refuse(row.call, kSelf, status);
+        return {nullptr, nullptr};
+    const PointerRead self = read_pointer(object, row.call, kSelf);
+    return {self.pointer, self.status >= 0 ? value : nullptr};
 }
 
 void *field_address(const FieldRow &row, void *self) {
@@ -66,13 +73,10 @@ void copy_elements(void *to, const void *from, std::size_t size, std::size_t cou
 }
 
 PyObject *set_text_field(const FieldRow &row, PyObject *args, bool free_old) {
-    void *self = nullptr;
-    PyObject *object = nullptr;
     Text value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField) ||
-        !require_self(row, self)) {
+    const auto [self, object] = read_setter(row, args);
+    if (object == nullptr || !value.read(object, row.call, kField) || !require_self(row, self))
         return nullptr;
-    }
     char *copy = nullptr;
     if (value.native() != nullptr) {
         const std::size_t bytes = std::strlen(value.native()) + 1;
@@ -90,8 +94,8 @@ PyObject *set_text_field(const FieldRow &row, PyObject *args, bool free_old) {
 
 template <typename Kind>
 PyObject *get_value(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    if (!read_self(row, args, self)) return nullptr;
+    void *const self = read_self(row, args);
+    if (self == nullptr) return nullptr;
     if constexpr (std::is_class_v<typename Kind::Native>) {
         // A port list is read where it lies.
         return Kind::result(*static_cast<const typename Kind::Native *>(field_address(row, self)),
@@ -105,11 +109,9 @@ PyObject *get_value(const FieldRow &row, PyObject *args) {
 
 template <typename Kind>
 PyObject *set_value(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    PyObject *object = nullptr;
     Kind value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField))
-        return nullptr;
+    const auto [self, object] = read_setter(row, args);
+    if (object == nullptr || !value.read(object, row.call, kField)) return nullptr;
     if (self != nullptr) {
         const auto &native = value.native();
         std::memcpy(field_address(row, self), &native, sizeof native);
@@ -136,33 +138,29 @@ template PyObject *set_value<FunctionPointer>(const FieldRow &, PyObject *);
 #undef OMBRA_FIELD_KIND
 
 PyObject *get_copy(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    if (!read_self(row, args, self)) return nullptr;
+    void *const self = read_self(row, args);
+    if (self == nullptr) return nullptr;
     return owned_copy(field_address(row, self), row.size, slot(row.call, kField));
 }
 
 PyObject *set_copy(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    PyObject *object = nullptr;
     Reference value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField))
-        return nullptr;
+    const auto [self, object] = read_setter(row, args);
+    if (object == nullptr || !value.read(object, row.call, kField)) return nullptr;
     if (self != nullptr) std::memmove(field_address(row, self), value.native(), row.size);
     Py_RETURN_NONE;
 }
 
 PyObject *get_alias(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    if (!read_self(row, args, self)) return nullptr;
+    void *const self = read_self(row, args);
+    if (self == nullptr) return nullptr;
     return SWIG_Python_NewPointerObj(field_address(row, self), slot(row.call, kField), 0);
 }
 
 PyObject *set_array(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    PyObject *object = nullptr;
     Pointer value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField))
-        return nullptr;
+    const auto [self, object] = read_setter(row, args);
+    if (object == nullptr || !value.read(object, row.call, kField)) return nullptr;
     if (value.native() == nullptr) {
         refuse_null_field(row.call, kField + 1);
         return nullptr;
@@ -173,16 +171,15 @@ PyObject *set_array(const FieldRow &row, PyObject *args) {
 }
 
 PyObject *get_pointer(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    if (!read_self(row, args, self)) return nullptr;
+    void *const self = read_self(row, args);
+    if (self == nullptr) return nullptr;
     return SWIG_Python_NewPointerObj(load<void *>(field_address(row, self)), slot(row.call, kField),
                                      0);
 }
 
 PyObject *set_pointer(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    PyObject *object = nullptr;
-    if (!read_setter(row, args, self, object)) return nullptr;
+    const auto [self, object] = read_setter(row, args);
+    if (object == nullptr) return nullptr;
     void *value = nullptr;
     const int status =
         SWIG_Python_ConvertPtrAndOwn(object, &value, slot(row.call, kField), FLAG_DISOWN);
@@ -195,26 +192,23 @@ PyObject *set_pointer(const FieldRow &row, PyObject *args) {
 }
 
 PyObject *get_mac(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    if (!read_self(row, args, self)) return nullptr;
+    void *const self = read_self(row, args);
+    if (self == nullptr) return nullptr;
     return MacString::result(static_cast<const uint8 *>(field_address(row, self)), row.call);
 }
 
 PyObject *set_mac(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    PyObject *object = nullptr;
     MacString value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField) ||
-        !require_self(row, self)) {
+    const auto [self, object] = read_setter(row, args);
+    if (object == nullptr || !value.read(object, row.call, kField) || !require_self(row, self))
         return nullptr;
-    }
     std::memcpy(field_address(row, self), value.native(), row.size);
     Py_RETURN_NONE;
 }
 
 PyObject *get_text(const FieldRow &row, PyObject *args) {
-    void *self = nullptr;
-    if (!read_self(row, args, self)) return nullptr;
+    void *const self = read_self(row, args);
+    if (self == nullptr) return nullptr;
     return text_result(load<const char *>(field_address(row, self)));
 }
 

@@ -6,7 +6,6 @@
 #include <cxxabi.h>
 
 #include <cstddef>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -15,6 +14,16 @@
 #include "runtime/append_output.h"
 
 namespace ombra {
+
+// The kinds of all arguments. No tuple: that would zero them, and a read writes each whole.
+template <std::size_t Index, typename Kind>
+struct Argument {
+    Kind kind;
+};
+template <typename Indices, typename... Args>
+struct Arguments;
+template <std::size_t... I, typename... Args>
+struct Arguments<std::index_sequence<I...>, Args...> : Argument<I, Args>... {};
 
 // The frame around `body`, which gets the native values of the arguments and makes the Python
 // result. What a native function throws becomes a Python exception; a thread that is being
@@ -26,10 +35,10 @@ template <typename... Args, typename Body>
         [[maybe_unused]] PyObject *items[sizeof...(Args) + 1] = {};
         if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...))
             return nullptr;  // 1
-        [[maybe_unused]] std::tuple<Args...> values;
-        if (!(std::get<I>(values).read(items[I], row, I) && ...)) return nullptr;  // 2
+        [[maybe_unused]] Arguments<std::index_sequence<I...>, Args...> values;
+        if (!(values.Argument<I, Args>::kind.read(items[I], row, I) && ...)) return nullptr;  // 2
         try {
-            return body(std::get<I>(values).native()...);  // 3, 4
+            return body(values.Argument<I, Args>::kind.native()...);  // 3, 4
         } catch (abi::__forced_unwind &) {
             throw;
         } catch (...) {

@@ -17,6 +17,7 @@
 #include <type_traits>
 
 #include "convert/mac_text.h"
+#include "convert/other_readers.h"
 #include "convert/port_list.h"
 #include "convert/readers.h"
 #include "convert/refuse.h"
@@ -27,57 +28,71 @@
 
 namespace ombra {
 
-inline swig_type_info *slot(const CallRow &row, unsigned index) {
-    return swig_type_slots[row.slots[index]];
-}
-
-// Signed numbers of 8, 16 and 32 bits. The range test is one biased, unsigned compare.
+// What a reader out of line gives back: in registers, so that no value of the frame needs an
+// address.
 template <typename Number>
-class SignedKind {
-  public:
-    using Native = Number;
-
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        const int status = SWIG_AsVal_long(object, &value_);
-        if (status < 0) return refuse(row, index, status);
-        constexpr auto bias = static_cast<unsigned long>(std::numeric_limits<Number>::max()) + 1;
-        if (static_cast<unsigned long>(value_) + bias > 2 * bias - 1)
-            return refuse(row, index, STATUS_OVERFLOW);
-        return true;
-    }
-
-    Native native() const { return static_cast<Native>(value_); }
-
-    static PyObject *result(Native value, const CallRow &) { return PyInt_FromLong(value); }
-
-  private:
-    long value_;
+struct NumberRead {
+    Number value;
+    bool good;  // false: exception set
 };
 
-// Unsigned numbers of 8, 16 and 32 bits.
-template <typename Number>
-class UnsignedKind {
+// A number that comes as an `int` in range is read in line, whatever the argument's position.
+// `long` objects and refusals are one call; `Reader` is the whole reader with its wide type.
+template <typename Number, typename Wide, int (*Reader)(PyObject *, Wide *)>
+class NumberKind {
   public:
     using Native = Number;
 
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        const int status = SWIG_AsVal_unsigned_SS_long(object, &value_);
-        if (status < 0) return refuse(row, index, status);
-        if (value_ > std::numeric_limits<Number>::max()) return refuse(row, index, STATUS_OVERFLOW);
-        return true;
+    [[gnu::always_inline]] bool read(PyObject *object, const CallRow &row, unsigned index) {
+        if (PyInt_Check(object) && fits(PyInt_AS_LONG(object))) [[likely]] {
+            value_ = static_cast<Number>(PyInt_AS_LONG(object));
+            return true;
+        }
+        const NumberRead<Number> result = read_other(object, row, index);
+        value_ = result.value;
+        return result.good;
     }
 
-    Native native() const { return static_cast<Native>(value_); }
+    Native native() const { return value_; }
 
-    static PyObject *result(Native value, const CallRow &) {
+  protected:
+    Number value_;
+
+  private:
+    // Whether an `int` needs no second look. All bits above the number's own are zero, or its sign.
+    static bool fits(long value) {
+        if constexpr (sizeof(Number) == sizeof(long))
+            return value >= 0;
+        else
+            return value == static_cast<long>(static_cast<Number>(value));
+    }
+
+    [[gnu::noinline]] static NumberRead<Number> read_other(PyObject *object, const CallRow &row,
+                                                           unsigned index) {
+        Wide value = 0;
+        const int status = Reader(object, &value);
+        if (status < 0) return {0, refuse(row, index, status)};
+        if (value != static_cast<Wide>(static_cast<Number>(value)))
+            return {0, refuse(row, index, STATUS_OVERFLOW)};
+        return {static_cast<Number>(value), true};
+    }
+};
+
+template <typename Number>
+class SignedKind : public NumberKind<Number, long, SWIG_AsVal_long> {
+  public:
+    static PyObject *result(Number value, const CallRow &) { return PyInt_FromLong(value); }
+};
+
+template <typename Number>
+class UnsignedKind : public NumberKind<Number, unsigned long, SWIG_AsVal_unsigned_SS_long> {
+  public:
+    static PyObject *result(Number value, const CallRow &) {
         if constexpr (sizeof(Number) == sizeof(std::uint32_t))
             return PyInt_FromSize_t(value);
         else
             return PyInt_FromLong(value);
     }
-
-  private:
-    unsigned long value_;
 };
 
 using Signed8 = SignedKind<signed char>;
@@ -88,41 +103,17 @@ using Unsigned16 = UnsignedKind<unsigned short>;
 using Unsigned32 = UnsignedKind<unsigned int>;
 
 // `unsigned long`: the reader's own range.
-class UnsignedLong {
-  public:
-    using Native = unsigned long;
-
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        const int status = SWIG_AsVal_unsigned_SS_long(object, &value_);
-        return status >= 0 || refuse(row, index, status);
-    }
-
-    Native native() const { return value_; }
-
-  private:
-    unsigned long value_;
-};
+using UnsignedLong = NumberKind<unsigned long, unsigned long, SWIG_AsVal_unsigned_SS_long>;
 
 // 64 bits unsigned. A result is an `int` as long as it fits one, else a `long`.
-class Unsigned64 {
+class Unsigned64
+    : public NumberKind<uint64, unsigned long long, SWIG_AsVal_unsigned_SS_long_SS_long> {
   public:
-    using Native = uint64;
-
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        const int status = SWIG_AsVal_unsigned_SS_long_SS_long(object, &value_);
-        return status >= 0 || refuse(row, index, status);
-    }
-
-    Native native() const { return value_; }
-
     static PyObject *result(Native value, const CallRow &) {
         return value > static_cast<Native>(std::numeric_limits<long>::max())
                    ? PyLong_FromUnsignedLongLong(value)
                    : PyInt_FromLong(static_cast<long>(value));
     }
-
-  protected:
-    unsigned long long value_;
 };
 
 // A 32-bit address that is read like a 64-bit number: the upper half is dropped without an error.
@@ -140,10 +131,9 @@ class StrictBool {
   public:
     using Native = bool;
 
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        if (Py_TYPE(object) != &PyBool_Type) return refuse(row, index, STATUS_TYPE);
-        const int status = SWIG_AsVal_bool(object, &value_);
-        return status >= 0 || refuse(row, index, status);
+    [[gnu::always_inline]] bool read(PyObject *object, const CallRow &row, unsigned index) {
+        value_ = object == Py_True;
+        return value_ || object == Py_False || refuse(row, index, STATUS_TYPE);
     }
 
     Native native() const { return value_; }
@@ -167,13 +157,15 @@ class Text {
         if (alloc_ == STATUS_NEWOBJ) delete[] text_;
     }
 
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        if (PyString_Check(object)) {
+    [[gnu::always_inline]] bool read(PyObject *object, const CallRow &row, unsigned index) {
+        if (PyString_Check(object)) [[likely]] {
             text_ = PyString_AS_STRING(object);  // what the reader gives for a marker of 0
             return true;
         }
-        const int status = SWIG_AsCharPtrAndSize(object, &text_, nullptr, &alloc_);
-        return status >= 0 || refuse(row, index, status);
+        const OtherText result = read_other_text(object, row, index);
+        text_ = result.text;
+        alloc_ = result.alloc;
+        return result.good;
     }
 
     Native native() const { return text_; }
@@ -181,7 +173,7 @@ class Text {
     static PyObject *result(const char *value, const CallRow &) { return text_result(value); }
 
   private:
-    char *text_ = nullptr;
+    char *text_;
     int alloc_ = 0;
 };
 
@@ -191,9 +183,10 @@ class Pointer {
   public:
     using Native = void *;
 
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        const int status = SWIG_Python_ConvertPtrAndOwn(object, &value_, slot(row, index), 0);
-        return status >= 0 || refuse(row, index, status);
+    [[gnu::always_inline]] bool read(PyObject *object, const CallRow &row, unsigned index) {
+        const PointerRead result = read_pointer(object, row, index);
+        value_ = result.pointer;
+        return result.status >= 0;
     }
 
     Native native() const { return value_; }
@@ -203,7 +196,7 @@ class Pointer {
     }
 
   private:
-    void *value_ = nullptr;
+    void *value_;
 };
 
 // A native function: None, a pointer object of the callback's type, or a built-in function whose
@@ -228,20 +221,12 @@ class FunctionPointer {
 };
 
 // The address behind a C++ reference: a pointer object that must not be null.
-class Reference {
+class Reference : public Pointer {
   public:
-    using Native = void *;
-
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        const int status = SWIG_Python_ConvertPtrAndOwn(object, &value_, slot(row, index), 0);
-        if (status < 0) return refuse(row, index, status);
-        return value_ != nullptr || refuse_null(row, index);
+    [[gnu::always_inline]] bool read(PyObject *object, const CallRow &row, unsigned index) {
+        if (!Pointer::read(object, row, index)) return false;
+        return native() != nullptr || refuse_null(row, index);
     }
-
-    Native native() const { return value_; }
-
-  private:
-    void *value_ = nullptr;
 };
 
 // The bytes of a value that travels whole. Structures of more than 16 bytes pass in memory, smaller
@@ -260,13 +245,12 @@ class ByValue {
 
     ByValue() {}  // not zeroed: a read fills it whole, or the call does not happen
 
-    bool read(PyObject *object, const CallRow &row, unsigned index) {
-        void *source = nullptr;
-        const int status = SWIG_Python_ConvertPtrAndOwn(object, &source, slot(row, index), 0);
-        if (status < 0) return refuse(row, index, status);
-        if (source == nullptr) return refuse_null(row, index);
-        std::memcpy(&value_, source, Size);
-        if ((status & STATUS_NEWOBJ) != 0) ::operator delete(source);
+    [[gnu::always_inline]] bool read(PyObject *object, const CallRow &row, unsigned index) {
+        const PointerRead source = read_pointer(object, row, index);
+        if (source.status < 0) return false;
+        if (source.pointer == nullptr) return refuse_null(row, index);
+        std::memcpy(&value_, source.pointer, Size);
+        if ((source.status & STATUS_NEWOBJ) != 0) ::operator delete(source.pointer);
         return true;
     }
 
@@ -285,17 +269,12 @@ class MacString {
   public:
     using Native = uint8 *;
 
-    bool read(PyObject *object, const CallRow &, unsigned) {
-        pyStringToMacaddr(object, bytes_);
-        return PyErr_Occurred() == nullptr;
-    }
+    bool read(PyObject *object, const CallRow &, unsigned) { return read_mac(object, bytes_); }
 
     // The native prototype takes a plain pointer, also where it only reads.
     Native native() const { return const_cast<uint8 *>(bytes_); }
 
-    static PyObject *result(const uint8 *value, const CallRow &) {
-        return PyString_FromStringAndSize(macaddrToString(value), kMacTextLength);
-    }
+    static PyObject *result(const uint8 *value, const CallRow &) { return mac_text(value); }
 
   private:
     uint8 bytes_[6];

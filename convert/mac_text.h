@@ -12,7 +12,15 @@
 // the content of `out` then means nothing.
 void pyStringToMacaddr(PyObject *object, uint8 out[6]);
 
-inline constexpr long kMacTextLength = 17;
+namespace ombra {
+
+// The same; false with the exception.
+bool read_mac(PyObject *object, uint8 out[6]);
+
+// The address in lower case as a new `str`, or null with an exception.
+PyObject *mac_text(const uint8 mac[6]);
+
+}  // namespace ombra
 
 // The address in lower case, 17 characters, in one buffer of the module: the next call overwrites
 // it. REQUIRES: the interpreter lock is held until the caller has copied the text.

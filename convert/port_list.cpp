@@ -32,18 +32,28 @@ Chunks reported(const bcm_pbmp_t &pbmp) {
     return chunks;
 }
 
+// The bits of a word. The machine's instruction for it is not on every machine, and would be a
+// call.
+unsigned count_bits(std::uint64_t bits) {
+    bits -= bits >> 1U & 0x5555555555555555U;
+    bits = (bits & 0x3333333333333333U) + (bits >> 2U & 0x3333333333333333U);
+    bits = (bits + (bits >> 4U)) & 0x0f0f0f0f0f0f0f0fU;
+    return static_cast<unsigned>(bits * 0x0101010101010101U >> 56U);
+}
+
 }  // namespace
 
 bool ombra::add_ports(PyObject *object, bcm_pbmp_t &pbmp) {
     if (!PyList_Check(object)) return refuse_with(PyExc_TypeError, "Expected a list");
+    PyObject **const items = reinterpret_cast<PyListObject *>(object)->ob_item;
     const Py_ssize_t count = PyList_GET_SIZE(object);
     for (Py_ssize_t i = 0; i < count; ++i) {
-        PyObject *item = PyList_GET_ITEM(object, i);
-        if (!PyInt_Check(item))
+        if (!PyInt_Check(items[i])) [[unlikely]]
             return refuse_with(PyExc_TypeError, "Port list must contain integers");
         // Negative numbers become large ones here: one compare refuses both ends.
-        const auto port = static_cast<unsigned long>(PyInt_AS_LONG(item));
-        if (port >= kBits) return refuse_with(PyExc_ValueError, "Port number out of range");
+        const auto port = static_cast<unsigned long>(PyInt_AS_LONG(items[i]));
+        if (port >= kBits) [[unlikely]]
+            return refuse_with(PyExc_ValueError, "Port number out of range");
         pbmp.pbits[port / kWordBits] |= 1U << (port % kWordBits);
     }
     return true;
@@ -55,21 +65,22 @@ void pyListToPbmp(PyObject *object, bcm_pbmp_t *out) {
 }
 
 PyObject *pbmpToPyList(const bcm_pbmp_t &pbmp) {
-    // Most words are empty, and counting bits is a call on the baseline machine.
     const Chunks chunks = reported(pbmp);
-    int count = 0;
-    for (const std::uint64_t chunk : chunks) count += chunk == 0 ? 0 : std::popcount(chunk);
+    unsigned count = 0;
+    for (const std::uint64_t chunk : chunks)
+        if (chunk != 0) count += count_bits(chunk);  // most are empty
     PyObject *list = PyList_New(count);
-    Py_ssize_t next = 0;
-    for (unsigned i = 0; list != nullptr && i < kChunks; ++i) {
+    if (list == nullptr) return nullptr;
+    PyObject **next = reinterpret_cast<PyListObject *>(list)->ob_item;
+    for (unsigned i = 0; i < kChunks; ++i) {
         for (std::uint64_t bits = chunks[i]; bits != 0; bits &= bits - 1) {
             PyObject *port = PyLong_FromUnsignedLong(i * kChunkBits +
                                                      static_cast<unsigned>(std::countr_zero(bits)));
-            if (port == nullptr) {
+            if (port == nullptr) [[unlikely]] {
                 Py_DECREF(list);
                 return nullptr;
             }
-            PyList_SET_ITEM(list, next++, port);
+            *next++ = port;
         }
     }
     return list;
