@@ -23,7 +23,8 @@ Phys::Phys() {
 int translated(int unit, soc_port_t port) {
     // Called without the lock: it is the caller's own function.
     const auto translate = soc_phy_cb_xlate_port_func;
-    return translate == nullptr || translate(unit, &port) < 0 ? port : static_cast<int>(port);
+    int other = port;  // which a translation that fails may have changed
+    return translate == nullptr || translate(unit, &other) < 0 ? port : other;
 }
 
 }  // namespace standin

@@ -131,7 +131,7 @@ FAULTS = [Fault(*line) for line in (
      'uint64 wide = uint64{value[1]} << 32 |', 'uint64 wide = uint64{value[1]} << 31 |'),
     ('standin-phy', '-L phy',
      'a translation that fails counts', 'standin/phy/phy.cpp',
-     'translate(unit, &port) < 0 ?', 'translate(unit, &port) > 0 ?'),
+     'translate(unit, &other) < 0 ?', 'translate(unit, &other) > 0 ?'),
     ('standin-text', '-L text',
      'a range of one port', 'standin/text/port_text.cpp',
      '*first > *last)', '*first >= *last)'),

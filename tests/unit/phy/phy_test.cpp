@@ -322,6 +322,11 @@ TEST_F(PhyTest, PortsAreTranslatedByTheCallersFunction) {
         return int{BCM_E_NONE};
     };
     EXPECT_EQ(soc_phyctrl_mdix_set(0, 500, 3), BCM_E_NONE);
+    soc_phy_cb_xlate_port_func = [](int, int *port) {
+        *port = 7;
+        return int{BCM_E_FAIL};
+    };
+    EXPECT_EQ(soc_phyctrl_mdix_set(0, 500, 2), BCM_E_PORT);
     soc_phy_cb_xlate_port_func = nullptr;
     EXPECT_EQ(number(soc_phyctrl_mdix_get, 7), 3);
     EXPECT_EQ(soc_phyctrl_mdix_set(0, 500, 3), BCM_E_PORT);

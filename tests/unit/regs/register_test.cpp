@@ -391,7 +391,9 @@ TEST_F(RegistersTest, AccessFunctionsTakeOverTheirWidth) {
         *data += 1000;
         return status;
     };
-    access.reg64_set = [](int, soc_reg_t, int, int, uint64) { return int{BCM_E_BUSY}; };
+    access.reg64_set = [](int, soc_reg_t, int, int, uint64 data) {
+        return data == (uint64{3} << 32 | 1) ? int{BCM_E_BUSY} : int{BCM_E_NONE};
+    };
     access.mem_read = [](int, soc_mem_t, uint32, int, int, void *entry) {
         *static_cast<uint32 *>(entry) = 77;
         return int{BCM_E_NONE};
@@ -399,7 +401,7 @@ TEST_F(RegistersTest, AccessFunctionsTakeOverTheirWidth) {
     ASSERT_EQ(soc_reg_access_func_register(0, &access), BCM_E_NONE);
     ASSERT_EQ(soc_reg32_set(0, ECI_TEST_REGISTERr, 0, 0, 5), BCM_E_NONE);
     EXPECT_EQ(get32(ECI_TEST_REGISTERr), 1005u);
-    EXPECT_EQ(soc_reg64_set(0, RBCAr, 5, 0, 1), BCM_E_BUSY);
+    EXPECT_EQ(soc_reg64_set(0, RBCAr, 5, 0, uint64{3} << 32 | 1), BCM_E_BUSY);
     uint32 entry = 0;
     EXPECT_EQ(soc_mem_read(0, CGM_HAPMm, -1, 0, &entry), BCM_E_NONE);
     EXPECT_EQ(entry, 77u);

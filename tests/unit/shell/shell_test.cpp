@@ -87,7 +87,8 @@ TEST_P(ShellSession, GoesAsItDidBefore) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Golden, ShellSession,
-                         ::testing::Values("language", "ports", "switching", "system", "help"));
+                         ::testing::Values("language", "ports", "switching", "registers", "system",
+                                           "help"));
 
 TEST_F(ShellTest, ResultCodes) {
     EXPECT_EQ(run(""), CMD_OK);
@@ -304,31 +305,6 @@ TEST_F(ShellTest, FormattersUseTheNamesOfTheUnit) {
     int port = -1;
     EXPECT_EQ(parse_port(0, Text("500"), &port), BCM_E_PORT);
     EXPECT_EQ(parse_port(0, Text("xe1"), &port), BCM_E_NONE);
-}
-
-TEST_F(ShellTest, RegistersAndMemories) {
-    EXPECT_EQ(run("setreg CLP_XMAC_PAUSE_CTRL.xe1-xe3 0x3"), CMD_OK);
-    std::string text = output("getreg CLP_XMAC_PAUSE_CTRL.xe2");
-    EXPECT_TRUE(text.starts_with("CLP_XMAC_PAUSE_CTRL.xe2 (0x")) << text;
-    EXPECT_TRUE(text.ends_with(") = 0x3\n")) << text;
-    EXPECT_EQ(run("modreg CLP_XMAC_PAUSE_CTRL.xe2 RX_PAUSE_EN=1"), CMD_OK);
-    std::string fields = output("getreg CLP_XMAC_PAUSE_CTRL.xe2 fields");
-    std::size_t field = fields.find("  RX_PAUSE_EN<");
-    ASSERT_NE(field, std::string::npos) << fields;
-    EXPECT_NE(fields.find("> = 0x1\n", field), std::string::npos) << fields;
-    EXPECT_NE(output("getreg CLP_XMAC_PAUSE_CTRL.xe2"), text);
-    EXPECT_EQ(run("write IHP_RESERVED_MC 1 1; write IHP_RESERVED_MC 2 0"), CMD_OK);
-    EXPECT_EQ(output("dump IHP_RESERVED_MC 1 2"),
-              "IHP_RESERVED_MC[1] = 0x1\nIHP_RESERVED_MC[2] = 0x0\n");
-    Capture capture;
-    EXPECT_EQ(run("getreg NO_SUCH_REGISTER"), CMD_FAIL);
-    EXPECT_EQ(run("getreg"), CMD_USAGE);
-    EXPECT_EQ(run("setreg CLP_XMAC_PAUSE_CTRL.xe1"), CMD_USAGE);
-    EXPECT_EQ(run("modreg CLP_XMAC_PAUSE_CTRL.xe1 NO_SUCH_FIELD=1"), CMD_FAIL);
-    EXPECT_EQ(run("modreg 0x1000 MODE=1"), CMD_FAIL);
-    EXPECT_EQ(run("dump NO_SUCH_MEMORY"), CMD_USAGE);
-    EXPECT_EQ(run("listreg nothing-like-it"), CMD_FAIL);
-    EXPECT_EQ(run("listmem ihp*"), CMD_OK);
 }
 
 TEST_F(ShellTest, DumpsAddresses) {
