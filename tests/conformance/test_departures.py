@@ -143,8 +143,8 @@ class AppendedStructureTest(DepartureTest):
     def test_a_refusal_keeps_no_structure(self):
         """It is there before the arguments are looked at."""
         class Usage(ctypes.Structure):
-            _fields_ = [('sizes', ctypes.c_size_t * 10)]
-        mallinfo = ctypes.CDLL(None).mallinfo2
+            _fields_ = [('sizes', ctypes.c_int * 10)]
+        mallinfo = ctypes.CDLL(None).mallinfo
         mallinfo.restype = Usage
 
         def used():

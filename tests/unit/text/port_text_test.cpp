@@ -34,7 +34,8 @@ TEST(PortText, ReadsEveryItem) {
         PortSet set;
     };
     for (const Case &one :
-         {Case{"7", ports({7})}, Case{"3-5", ports({3, 4, 5})}, Case{"xe1", ports({2})},
+         {Case{"7", ports({7})}, Case{"3-5", ports({3, 4, 5})}, Case{"4-4", ports({4})},
+          Case{"xe1-xe1", ports({2})}, Case{"xe1", ports({2})},
           Case{"XE0-xe3", ports({1, 2, 3, 5})}, Case{"xe1-xe2", ports({2, 3})},
           Case{"ce", ports({6, 7})}, Case{"cpu", ports({0})},
           Case{"all", ports({0, 1, 2, 3, 5, 6, 7, 40})}, Case{"*,!xe,~cpu", ports({6, 7, 40})},

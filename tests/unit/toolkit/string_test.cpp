@@ -8,6 +8,8 @@
 #include <optional>
 #include <utility>
 
+#include "failing_new.h"
+
 namespace {
 
 using Lumo::format;
@@ -18,6 +20,16 @@ std::uint32_t count_of(const String &string) {
     const std::uint32_t *body = nullptr;
     std::memcpy(&body, static_cast<const void *>(&string), sizeof body);
     return body ? *body : 0;
+}
+
+TEST(StringTest, TheLastHolderReleasesTheBody) {
+    const long before = live_allocations;
+    {
+        const String first("text");
+        const String second(first);
+        EXPECT_EQ(live_allocations, before + 1);
+    }
+    EXPECT_EQ(live_allocations, before);
 }
 
 TEST(StringTest, CopiesShareOneBody) {
