@@ -22,6 +22,7 @@
 #include "generator/model/faults.h"
 #include "generator/read/read_catalogue.h"
 #include "generator/read/read_headers.h"
+#include "generator/standin/plan.h"
 
 namespace generator {
 namespace {
@@ -57,7 +58,8 @@ void read_catalogue(const fs::path &root, Model &model, Faults &faults) {
     const std::pair<const char *, Read> tables[] = {
         {"catalogue/types.txt", read_types},         {"catalogue/kinds.txt", read_kinds},
         {"catalogue/constants.txt", read_constants}, {"catalogue/variables.txt", read_variables},
-        {"catalogue/helpers.txt", read_helpers},     {"catalogue/departures.txt", read_departures}};
+        {"catalogue/helpers.txt", read_helpers},     {"catalogue/departures.txt", read_departures},
+        {"catalogue/standin.txt", read_standin}};
     for (const auto &[table, read] : tables) {
         if (!fs::exists(root / table))
             faults.add({table, 1}, "table-missing",
@@ -120,6 +122,7 @@ int generate(const fs::path &root, const fs::path &out) {
     read_catalogue(root, model, faults);
     resolve(model, faults);
     check(model, faults);
+    if (faults.none()) check_standin(model, faults);
     if (!faults.none()) {
         faults.print();
         return 1;

@@ -19,7 +19,7 @@ struct Rule {
     const char *says;
 };
 
-constexpr std::array<Rule, 33> kRules = {{
+constexpr std::array<Rule, 36> kRules = {{
     {"grammar", "a header holds only what docs/declarations.md names"},
     {"purpose", "a header's first line is a comment that says what it is for"},
     {"prototype-place", "a header of types holds no prototypes"},
@@ -53,6 +53,9 @@ constexpr std::array<Rule, 33> kRules = {{
     {"departure-output", "a hidden output is the last parameter, and a pointer to an int"},
     {"departure-reason", "every departure has its reason"},
     {"departure-unused", "every departure is needed"},
+    {"standin-word", "a line of the stand-in's table has a word that the planner knows"},
+    {"standin-field", "a key names fields of its struct"},
+    {"standin-unused", "every line of the stand-in's table is needed"},
 }};
 
 class Checker {

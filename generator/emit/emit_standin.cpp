@@ -193,17 +193,6 @@ std::string proofs_of(const Shapes &shapes, const Function &function, const Plan
     return text;
 }
 
-// The plans of a model, which do not change once it is resolved; all headers share them.
-const std::vector<Plan> &plans_of(const Model &model) {
-    static const Model *planned = nullptr;
-    static std::vector<Plan> plans;
-    if (planned != &model) {
-        plans = plan_standin(model);
-        planned = &model;
-    }
-    return plans;
-}
-
 }  // namespace
 
 std::string standin_file(const std::string &header) {

@@ -127,6 +127,16 @@ struct Departure {
     bool used = false;
 };
 
+// What the stand-in's planner has to know of one name.
+struct StandinRow {
+    std::string word;     // "key"
+    std::string name;     // "bcm_l2_addr_t"
+    std::string details;  // "mac vid", or "-"
+    std::string reason;   // "the MAC table is looked up by address and VLAN"
+    Place place;
+    mutable bool used = false;  // by the planner, which changes nothing else
+};
+
 struct Model {
     std::vector<std::string> headers;  // bound headers in path order
     std::vector<Function> functions;
@@ -141,6 +151,7 @@ struct Model {
     std::vector<GlobalVariable> variables;
     std::vector<Helper> helpers;
     std::vector<Departure> departures;
+    std::vector<StandinRow> standin;
 };
 
 // "unsigned char [16]": a declared type with its bounds.

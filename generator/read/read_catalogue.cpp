@@ -147,4 +147,12 @@ void read_departures(const std::string &file, const std::string &source, Model &
     });
 }
 
+void read_standin(const std::string &file, const std::string &source, Model &model,
+                  Faults &faults) {
+    for_each_row(file, source, faults, [&](const Place &place, const Columns &columns) {
+        if (has_columns(place, columns, 4, faults))
+            model.standin.push_back({columns[0], columns[1], columns[2], columns[3], place});
+    });
+}
+
 }  // namespace generator

@@ -17,6 +17,7 @@ void read_variables(const std::string &file, const std::string &source, Model &m
 void read_helpers(const std::string &file, const std::string &source, Model &model, Faults &faults);
 void read_departures(const std::string &file, const std::string &source, Model &model,
                      Faults &faults);
+void read_standin(const std::string &file, const std::string &source, Model &model, Faults &faults);
 
 // Pieces of `text` between separators; an empty text has no pieces.
 std::vector<std::string> split(const std::string &text, char separator);

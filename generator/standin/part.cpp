@@ -1,28 +1,12 @@
 #include "generator/standin/part.h"
 
 #include <algorithm>
-#include <array>
 #include <sstream>
 
 namespace generator {
 namespace {
 
 using Form = Shape::Form;
-
-// Arrays by whose elements the rows are known; of each pair of arrays the first holds the keys.
-constexpr std::array<const char *, 5> kKeyedArrays = {
-    "bcm_cosq_port_mapping_multi", "bcm_fabric_link_thresholds", "bcm_fabric_link_thresholds_pipe",
-    "bcm_fabric_multicast_multi", "bcm_field_class_map"};
-
-// Columns that two members of a family name differently: family, the name, the other name.
-constexpr std::array<std::array<const char *, 3>, 6> kSameColumn = {{
-    {"bcm_cosq_gport", "port", "physical_port"},
-    {"bcm_l2_egress", "egress_id", "encap_id"},
-    {"bcm_l2_mac_port", "gport", "mac_port_id"},
-    {"bcm_rx_CopyToCpu_config", "config_id", "index"},
-    {"bcm_stk_system_gport_map", "gport", "system_gport"},
-    {"bcm_vlan_port", "gport", "vlan_port_id"},
-}};
 
 bool contains(const std::string &text, const char *part) {
     return text.find(part) != std::string::npos;
@@ -66,9 +50,7 @@ bool is_number(const Shape &shape, Form form) {
 
 }  // namespace
 
-bool Part::keyed_by_arrays() const {
-    return std::find(kKeyedArrays.begin(), kKeyedArrays.end(), name_) != kKeyedArrays.end();
-}
+bool Part::keyed_by_arrays() const { return shapes_.known("keyed-arrays", name_) != nullptr; }
 
 // Whether a get form has a parameter of that name behind an address.
 bool Part::given_back(const std::string &name) const {
@@ -78,10 +60,10 @@ bool Part::given_back(const std::string &name) const {
     });
 }
 
+// What another member of the family calls that column, or nothing.
 std::string Part::same_column(const std::string &name) const {
-    for (const auto &[of, one, other] : kSameColumn)
-        if (name_ == of && name == one) return other;
-    return "";
+    const StandinRow *row = shapes_.known("same-column", name_ + "." + name);
+    return row == nullptr ? "" : row->details;
 }
 
 Part::Part(const Shapes &shapes, std::string name, std::vector<Member> members)
@@ -234,8 +216,9 @@ void Part::keys_of_removal(const Member &member) {
         const Shape &shape = member.shapes[i];
         if (is_control(member, i) || is_flags(shape.name) || shape.form == Form::opaque) continue;
         const Shape *twin = get == nullptr ? nullptr : named(*get, shape.name);
-        if (shape.form == Form::memory && shape.record != nullptr && !has_key_fields(shape) &&
-            get != nullptr && named(*get, shape.name) != nullptr && get->shapes.size() > 2) {
+        if (shape.form == Form::memory && shape.record != nullptr &&
+            !has_key_fields(shapes_, shape) && get != nullptr &&
+            named(*get, shape.name) != nullptr && get->shapes.size() > 2) {
             for (std::size_t j = 1; j < get->shapes.size(); ++j) {  // the get form's own keys
                 const Shape &other = get->shapes[j];
                 if (other.form == Form::value || other.array) {
@@ -264,7 +247,8 @@ bool Part::keys_of_pair(const Member *set, const Member *get) {
     bool others = false;
     for (std::size_t i = 1; i < asks.shapes.size(); ++i) {
         const Shape &shape = asks.shapes[i];
-        others = others || (shape.form == Form::memory && !shape.array && !has_key_fields(shape));
+        others = others ||
+                 (shape.form == Form::memory && !shape.array && !has_key_fields(shapes_, shape));
         const Shape *twin = set == nullptr ? nullptr : named(*set, shape.name);
         others = others || (shape.array && (shape.constant || (twin != nullptr && twin->constant)));
     }
@@ -277,8 +261,8 @@ bool Part::keys_of_pair(const Member *set, const Member *get) {
         const bool array_key = shape.array && others && twin != nullptr && !twin->constant;
         if (by_value || array_key) {
             add_key({shape.name, shape.type, shape.size, shape.number, shape.record, true, true});
-        } else if (shape.form == Form::memory && has_key_fields(shape) && twin != nullptr &&
-                   twin->form == Form::memory) {
+        } else if (shape.form == Form::memory && has_key_fields(shapes_, shape) &&
+                   twin != nullptr && twin->form == Form::memory) {
             const auto columns = key_columns(shapes_, shape);
             const bool whole = columns.size() == 1 && columns.front().record != nullptr;
             for (const auto &column : columns)

@@ -45,30 +45,13 @@ constexpr std::array<Ending, 26> kEndings = {{
     {"_deinit", "forget", "_"},
 }};
 
-// Names whose functions belong to the family of another name.
-const std::map<std::string, std::string> kFamilies = {
-    {"bcm_cosq_subscriber", "bcm_cosq_subscriber_map"},
-    {"bcm_mpls_vpn", "bcm_mpls_vpn_id"},
-    {"bcm_multicast_group", "bcm_multicast"},
-    {"bcm_port_match_multi", "bcm_port_match"},
-    {"bcm_qos_map_multi", "bcm_qos_map"},
-};
-
-// Families whose forms mean more than their declarations say.
-const std::set<std::string> kUnfit = {"bcm_cosq_gport_statistic_multi", "bcm_fabric_calendar_multi",
-                                      "bcm_field_qset_id_multi",
-                                      "bcm_port_management_packet_config"};
-
-// Chapters whose set forms have no ending.
-constexpr std::array<const char *, 2> kQualify = {"bcm_field_qualify_", "bcm_switch_hash_qualify_"};
-
 bool ends_with(const std::string &text, const std::string &end) {
     return text.size() >= end.size() &&
            text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
 // The family of a function, and its verb there; no verb if the name has none.
-std::pair<std::string, std::string> family_of(const Function &function) {
+std::pair<std::string, std::string> family_of(const Shapes &shapes, const Function &function) {
     const std::string &name = function.row;
     const bool chapter = function.parameters.size() == 1 && takes_unit(function);
     for (const auto &row : kEndings) {
@@ -76,12 +59,10 @@ std::pair<std::string, std::string> family_of(const Function &function) {
         const std::string stem = name.substr(0, name.size() - std::string(row.ending).size());
         if (std::string(row.verb) == "forget" && !chapter) continue;
         if (chapter && std::string(row.ending) == "_detach") return {stem + "_", "forget"};
-        const auto other = kFamilies.find(stem);
-        return {(other == kFamilies.end() ? stem : other->second) + row.table, row.verb};
+        const StandinRow *other = shapes.known("family", stem);
+        return {(other == nullptr ? stem : other->details) + row.table, row.verb};
     }
-    const bool qualifies = std::any_of(kQualify.begin(), kQualify.end(),
-                                       [&](const char *one) { return name.rfind(one, 0) == 0; });
-    return {name, qualifies ? "set" : ""};
+    return {name, shapes.known_prefix("set-prefix", name) ? "set" : ""};
 }
 
 // Clears the record, then copies the other parameters into the fields of their names.
@@ -167,7 +148,7 @@ bool takes_unit(const Function &function) {
 }
 
 void plan_family(const Shapes &shapes, const std::string &family, std::vector<Member> members) {
-    if (kUnfit.contains(family)) return;
+    if (shapes.known("unfit", family) != nullptr) return;
     const std::string layer = layer_of(members, family);
     std::vector<Member> objects;
     std::vector<Member> rows;
@@ -202,13 +183,15 @@ void plan_family(const Shapes &shapes, const std::string &family, std::vector<Me
     if (!rows.empty() && inner.find_columns()) inner.bind_members(layer_of(rows, family));
 }
 
-std::vector<Plan> plan_standin(const Model &model) {
+namespace {
+
+std::vector<Plan> plan_all(const Model &model) {
     const Shapes shapes(model);
     std::vector<Plan> plans(model.functions.size());
     std::map<std::string, std::vector<Member>> families;
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
         const Function &function = model.functions[i];
-        const auto [family, verb] = family_of(function);
+        const auto [family, verb] = family_of(shapes, function);
         Member member{&function, verb, {}, &plans[i]};
         for (const auto &parameter : function.parameters)
             member.shapes.push_back(shapes.of(parameter));
@@ -223,6 +206,18 @@ std::vector<Plan> plan_standin(const Model &model) {
             families[family].push_back(member);
     }
     for (const auto &[family, members] : families) plan_family(shapes, family, members);
+    return plans;
+}
+
+}  // namespace
+
+const std::vector<Plan> &plans_of(const Model &model) {
+    static const Model *planned = nullptr;
+    static std::vector<Plan> plans;
+    if (planned != &model) {
+        plans = plan_all(model);
+        planned = &model;
+    }
     return plans;
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "generator/model/faults.h"
 #include "generator/model/model.h"
 #include "generator/standin/shapes.h"
 
@@ -74,9 +75,13 @@ bool plan_statistic(const Shapes &shapes, Member &member);
 // column for a struct of whose fields nothing is known.
 std::vector<PlanColumn> key_columns(const Shapes &shapes, const Shape &shape);
 // Whether something is known of them.
-bool has_key_fields(const Shape &shape);
+bool has_key_fields(const Shapes &shapes, const Shape &shape);
 
-// A plan for each function of the model, in its order.
-std::vector<Plan> plan_standin(const Model &model);
+// A plan for each function of the model, in its order. The model does not change any more once it
+// is resolved; all callers share the plans.
+const std::vector<Plan> &plans_of(const Model &model);
+
+// Looks at the stand-in's table: its words, the fields that it names, and that each line is needed.
+void check_standin(const Model &model, Faults &faults);
 
 }  // namespace generator

@@ -21,10 +21,24 @@ Shapes::Shapes(const Model &model) : model_(model) {
     for (const auto &record : model.structs) structs_[record.name] = &record;
     for (const auto &row : model.typedefs) typedefs_[row.name] = &row;
     for (const auto &row : model.kinds) kinds_[row.type] = &row;
+    for (const auto &row : model.standin) known_[{row.word, row.name}] = &row;
     names_.insert(model.defines.begin(), model.defines.end());
     for (const auto &row : model.install)
         if (row.what == InstallRow::What::constant)
             names_.emplace(row.name, std::to_string(row.value));
+}
+
+const StandinRow *Shapes::known(const std::string &word, const std::string &name) const {
+    const auto found = known_.find({word, name});
+    if (found == known_.end()) return nullptr;
+    found->second->used = true;
+    return found->second;
+}
+
+bool Shapes::known_prefix(const std::string &word, const std::string &name) const {
+    return std::any_of(model_.standin.begin(), model_.standin.end(), [&](const StandinRow &row) {
+        return row.word == word && name.starts_with(row.name) && (row.used = true);
+    });
 }
 
 std::size_t Shapes::elements(const std::vector<std::string> &bounds) const {

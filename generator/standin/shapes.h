@@ -1,6 +1,7 @@
 // How native parameters lie in memory: what the stand-in's defaults need to know of a declaration.
 #pragma once
 
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -40,6 +41,12 @@ class Shapes {
                           const std::string &type) const;
     std::size_t field_size(const Variable &field) const;
 
+    // What the table of the stand-in says of a name under that word, marked as used; null if it
+    // says nothing.
+    const StandinRow *known(const std::string &word, const std::string &name) const;
+    // Whether it has a name that this one begins with.
+    bool known_prefix(const std::string &word, const std::string &name) const;
+
   private:
     struct Layout {
         std::size_t size = 0;  // 0: unknown
@@ -54,6 +61,7 @@ class Shapes {
     std::unordered_map<std::string, const Struct *> structs_;
     std::unordered_map<std::string, const Typedef *> typedefs_;
     std::unordered_map<std::string, const KindRow *> kinds_;
+    std::map<std::pair<std::string, std::string>, const StandinRow *> known_;
     Names names_;
 };
 
