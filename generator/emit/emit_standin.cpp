@@ -14,7 +14,7 @@ namespace {
 const std::string kFile = R"(@banner@
 #include "@header@"
 
-#include "standin/generic/@runtime@.h"
+#include "standin/@runtime@.h"
 
 @proofs@
 @open@@functions@@close@)";
@@ -38,6 +38,12 @@ const std::string kInit = R"([[gnu::weak]] void @native@(@parameters@) {
 )";
 
 const std::string kDefault = R"([[gnu::weak]] @result@ @native@(@parameters@) { @return@; }
+
+)";
+
+const std::string kQualifier = R"(int @native@(@parameters@) {
+    return standin::@operation@("@row@", @unit@, @entry@, @constant@, {@values@});
+}
 
 )";
 
@@ -155,6 +161,25 @@ std::string init_text(const Function &function, const Plan &plan) {
                  {"bound", bound ? "bindings, " + number(plan.bindings.size()) : "nullptr, 0"}});
 }
 
+// The values of a qualifier as blocks of memory.
+std::string qualifier_text(const Shapes &shapes, const Function &function, const Plan &plan) {
+    std::string values;
+    for (std::size_t i = 2; i < function.parameters.size(); ++i) {
+        const Shape shape = shapes.of(function.parameters[i]);
+        const bool value = shape.form == Shape::Form::value;
+        values += std::string(values.empty() ? "{" : ", {") + (value ? "&" : "") +
+                  name_of(function.parameters[i], i) + ", " + number(shape.size) + "}";
+    }
+    return fill(kQualifier, {{"native", function.native},
+                             {"parameters", parameters_of(function, all_of(function))},
+                             {"operation", plan.operation},
+                             {"row", function.row},
+                             {"unit", name_of(function.parameters[0], 0)},
+                             {"entry", name_of(function.parameters[1], 1)},
+                             {"constant", plan.family},
+                             {"values", values}});
+}
+
 // A function without a rule: BCM_E_UNAVAIL where the result is a status, else nothing.
 std::string default_text(const Function &function) {
     const bool status = function.result == "int";
@@ -176,6 +201,7 @@ std::string default_text(const Function &function) {
 
 std::string function_text(const Shapes &shapes, const Function &function, const Plan &plan) {
     if (plan.operation.empty()) return default_text(function);
+    if (plan.layer == "qualifier") return qualifier_text(shapes, function, plan);
     return plan.operation == "init" ? init_text(function, plan)
                                     : answer_text(shapes, function, plan);
 }
@@ -206,17 +232,22 @@ std::string emit_standin(const Model &model, const std::string &header) {
     std::string proofs;
     std::set<std::string> proved;
     bool walks = false;
+    bool qualifies = false;
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
         if (model.functions[i].place.file != header) continue;
         functions += function_text(shapes, model.functions[i], plans[i]);
         proofs += proofs_of(shapes, model.functions[i], plans[i], proved);
         walks = walks || !plans[i].columns.empty();
+        qualifies = qualifies || plans[i].layer == "qualifier";
     }
+    const std::string runtime = qualifies ? "chapters/field_qualify"
+                                : walks   ? "generic/walk"
+                                          : "generic/call";
     const std::string root = "platform/";
     const bool linkage = header.find("_cxx.h") == std::string::npos;
     return fill(kFile, {{"banner", banner(header, "emit_standin.cpp")},
                         {"header", header.substr(root.size())},
-                        {"runtime", walks ? "walk" : "call"},
+                        {"runtime", runtime},
                         {"proofs", proofs},
                         {"open", linkage ? "extern \"C\" {\n\n" : ""},
                         {"functions", functions},

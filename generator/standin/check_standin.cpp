@@ -9,8 +9,8 @@
 namespace generator {
 namespace {
 
-constexpr std::array<const char *, 6> kWords = {"key",          "family",      "unfit",
-                                                "keyed-arrays", "same-column", "set-prefix"};
+constexpr std::array<const char *, 7> kWords = {
+    "key", "family", "unfit", "keyed-arrays", "same-column", "set-prefix", "qualifier"};
 
 const Struct *struct_named(const Model &model, const std::string &name) {
     const auto found = std::find_if(model.structs.begin(), model.structs.end(),

@@ -188,6 +188,8 @@ namespace {
 std::vector<Plan> plan_all(const Model &model) {
     const Shapes shapes(model);
     std::vector<Plan> plans(model.functions.size());
+    std::map<std::string, const Function *> rows;
+    for (const auto &function : model.functions) rows[function.row] = &function;
     std::map<std::string, std::vector<Member>> families;
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
         const Function &function = model.functions[i];
@@ -202,7 +204,8 @@ std::vector<Plan> plan_all(const Model &model) {
             continue;
         else if (verb == "forget")
             plan_forget(family, member);
-        else if (!plan_statistic(shapes, member) && !verb.empty())
+        else if (!plan_qualifier(shapes, rows, member) && !plan_statistic(shapes, member) &&
+                 !verb.empty())
             families[family].push_back(member);
     }
     for (const auto &[family, members] : families) plan_family(shapes, family, members);

@@ -71,6 +71,11 @@ void plan_family(const Shapes &shapes, const std::string &family, std::vector<Me
 // The same for the forms of the statistic rule. False if the function is none of them.
 bool plan_statistic(const Shapes &shapes, Member &member);
 
+// The same for the qualifier rule; the family is the qualifier's constant. `rows` holds all
+// functions by name.
+bool plan_qualifier(const Shapes &shapes, const std::map<std::string, const Function *> &rows,
+                    Member &member);
+
 // The fields of a struct that tell one record from another, as columns; the whole struct as one
 // column for a struct of whose fields nothing is known.
 std::vector<PlanColumn> key_columns(const Shapes &shapes, const Shape &shape);

@@ -46,6 +46,7 @@ class Shapes {
     const StandinRow *known(const std::string &word, const std::string &name) const;
     // Whether it has a name that this one begins with.
     bool known_prefix(const std::string &word, const std::string &name) const;
+    bool is_constant(const std::string &name) const { return names_.contains(name); }
 
   private:
     struct Layout {

@@ -1,30 +1,19 @@
-// The calls of the rule engine on what an entry matches.
-//
-// A qualifier that the set of the entry's group lacks is refused with BCM_E_PARAM. The get forms
-// answer BCM_E_NOT_FOUND for one that was not set.
+// The calls of the rule engine on what an entry matches; those of one qualifier with one value, or
+// with data and mask, are generated from their declarations.
+#include "standin/chapters/field_qualify.h"
+
 #include <cstring>
 
-#include "sdk/bcm/field.h"
 #include "sdk/bcm/field_qualify.h"
 #include "sdk/bcm/field_qualify_get.h"
 #include "standin/chapters/field_access.h"
 
 using namespace standin;
 
-namespace {
+namespace standin {
 
-// One value of a qualifier as memory: where it comes from or goes to.
-struct Source {
-    const void *bytes;
-    std::size_t size;
-};
-struct Target {
-    void *bytes;
-    std::size_t size;
-};
-
-int set_bytes(const char *function, int unit, bcm_field_entry_t entry, int id,
-              std::initializer_list<Source> values) {
+int set_qualifier(const char *function, int unit, bcm_field_entry_t entry, int id,
+                  std::initializer_list<Source> values) {
     return on_switch(function, unit, [&](Switch &chip) {
         FieldEntry *const rule = find_in(entries_of(chip), entry);
         if (rule == nullptr) return BCM_E_NOT_FOUND;
@@ -40,8 +29,8 @@ int set_bytes(const char *function, int unit, bcm_field_entry_t entry, int id,
     });
 }
 
-int get_bytes(const char *function, int unit, bcm_field_entry_t entry, int id,
-              std::initializer_list<Target> values) {
+int get_qualifier(const char *function, int unit, bcm_field_entry_t entry, int id,
+                  std::initializer_list<Target> values) {
     return on_rule(function, unit, entry, [&](const FieldEntry &rule) {
         std::size_t size = 0;
         for (const Target &value : values) {
@@ -59,63 +48,24 @@ int get_bytes(const char *function, int unit, bcm_field_entry_t entry, int id,
     });
 }
 
+}  // namespace standin
+
+namespace {
+
 template <class... T>
 int set_values(const char *function, int unit, bcm_field_entry_t entry, int id,
                const T &...values) {
-    return set_bytes(function, unit, entry, id, {Source{&values, sizeof values}...});
+    return set_qualifier(function, unit, entry, id, {Source{&values, sizeof values}...});
 }
 
 template <class... T>
 int get_values(const char *function, int unit, bcm_field_entry_t entry, int id, T *...values) {
-    return get_bytes(function, unit, entry, id, {Target{values, sizeof *values}...});
+    return get_qualifier(function, unit, entry, id, {Target{values, sizeof *values}...});
 }
 
 }  // namespace
 
 extern "C" {
-
-#define ONE_AS(type, name, qualifier)                                                   \
-    int bcm_field_qualify_##name(int unit, bcm_field_entry_t entry, type data) {        \
-        return set_values(__func__, unit, entry, bcmFieldQualify##qualifier, data);     \
-    }                                                                                   \
-    int bcm_field_qualify_##name##_get(int unit, bcm_field_entry_t entry, type *data) { \
-        return get_values(__func__, unit, entry, bcmFieldQualify##qualifier, data);     \
-    }
-#define TWO_AS(type, name, qualifier)                                                       \
-    int bcm_field_qualify_##name(int unit, bcm_field_entry_t entry, type data, type mask) { \
-        return set_values(__func__, unit, entry, bcmFieldQualify##qualifier, data, mask);   \
-    }                                                                                       \
-    int bcm_field_qualify_##name##_get(int unit, bcm_field_entry_t entry, type *data,       \
-                                       type *mask) {                                        \
-        return get_values(__func__, unit, entry, bcmFieldQualify##qualifier, data, mask);   \
-    }
-#define ADDRESS(array, size, type, name)                                                        \
-    int bcm_field_qualify_##name(int unit, bcm_field_entry_t entry, array(data), array(mask)) { \
-        return set_bytes(__func__, unit, entry, bcmFieldQualify##name,                          \
-                         {{data, size}, {mask, size}});                                         \
-    }                                                                                           \
-    int bcm_field_qualify_##name##_get(int unit, bcm_field_entry_t entry, type *data,           \
-                                       type *mask) {                                            \
-        return get_values(__func__, unit, entry, bcmFieldQualify##name, data, mask);            \
-    }
-#define ONE(type, name) ONE_AS(type, name, name)
-#define TWO(type, name) TWO_AS(type, name, name)
-#define MAC_ARRAY(name) bcm_mac_t name
-#define IP6_ARRAY(name) unsigned char name[16]
-#define MAC(name) ADDRESS(MAC_ARRAY, 6, bcm_mac_t, name)
-#define IP6(name) ADDRESS(IP6_ARRAY, 16, bcm_ip6_t, name)
-
-#include "standin/chapters/field_qualifiers.inc"
-
-#undef ONE_AS
-#undef TWO_AS
-#undef ADDRESS
-#undef ONE
-#undef TWO
-#undef MAC_ARRAY
-#undef IP6_ARRAY
-#undef MAC
-#undef IP6
 
 int bcm_field_qualify_SrcPort(int unit, bcm_field_entry_t entry, bcm_module_t data_modid,
                               bcm_module_t mask_modid, bcm_port_t data_port, bcm_port_t mask_port) {
