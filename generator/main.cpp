@@ -1,6 +1,7 @@
 // The generator: reads the declarations, checks them, writes what the build is made of.
 //
-//     generator --root DIR --out DIR     reads DIR/platform, DIR/catalogue and DIR/api
+//     generator --root DIR --out DIR     reads DIR/platform, DIR/catalogue and DIR/api, and from
+//                                        DIR/standin the names that it defines
 //     generator --list-rules             what the check pass looks at
 //     generator --list-kinds             the declared types that cross, with their kinds
 //
@@ -22,6 +23,7 @@
 #include "generator/model/faults.h"
 #include "generator/read/read_catalogue.h"
 #include "generator/read/read_headers.h"
+#include "generator/read/read_standin.h"
 #include "generator/standin/plan.h"
 
 namespace generator {
@@ -29,12 +31,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Headers below `folder`, as paths from `root`, in path order. A missing folder has none.
-std::vector<std::string> headers_below(const fs::path &root, const std::string &folder) {
+// Files below `folder`, as paths from `root`, in path order. A missing folder has none.
+std::vector<std::string> files_below(const fs::path &root, const std::string &folder,
+                                     const char *extension) {
     std::vector<std::string> headers;
     if (!fs::exists(root / folder)) return headers;
     for (const auto &entry : fs::recursive_directory_iterator(root / folder))
-        if (entry.path().extension() == ".h")
+        if (entry.path().extension() == extension)
             headers.push_back(fs::relative(entry.path(), root).string());
     std::sort(headers.begin(), headers.end());
     return headers;
@@ -45,12 +48,14 @@ void read_headers(const fs::path &root, Model &model, Faults &faults) {
         read_header(header, read_file(root / header), role, model, faults);
         if (role != HeaderRole::types_only) model.headers.push_back(header);
     };
-    for (const auto &header : headers_below(root, "platform/native"))
+    for (const auto &header : files_below(root, "platform/native", ".h"))
         read(header, HeaderRole::types_only);
     for (const char *folder : {"platform/helper", "platform/sdk"})
-        for (const auto &header : headers_below(root, folder)) read(header, HeaderRole::bound);
+        for (const auto &header : files_below(root, folder, ".h")) read(header, HeaderRole::bound);
     for (const char *header : {"api/exported.h", "api/native_rows.h"})
         if (fs::exists(root / header)) read(header, HeaderRole::module_native);
+    for (const auto &file : files_below(root, "standin", ".cpp"))
+        read_definitions(file, read_file(root / file), model);
 }
 
 void read_catalogue(const fs::path &root, Model &model, Faults &faults) {
@@ -89,7 +94,8 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
         {"install_table.cpp", emit_install_table},
         {"rows_helpers.cpp", emit_helpers},
         {"constant_names.cpp", emit_constant_names},
-        {"standin_layers.txt", emit_standin_layers},
+        {"standin_calls.txt", emit_standin_calls},
+        {"standin_required.txt", emit_standin_required},
         {"_OmbraSdkV2Classes.py", emit_proxy},
         {"companion_elements.cpp", emit_companion_elements},
         {"companion_callbacks.cpp", emit_companion_callbacks},

@@ -1,5 +1,5 @@
-// The stand-in's defaults: a weak definition of every function of the SDK and the helper library,
-// which a hand-written one overrides at link.
+// The stand-in's generated answers: a definition of every function of the SDK and the helper
+// library that no source of the stand-in models.
 
 #include <algorithm>
 #include <set>
@@ -19,7 +19,7 @@ const std::string kFile = R"(@banner@
 @proofs@
 @open@@functions@@close@)";
 
-const std::string kAnswer = R"([[gnu::weak]] @result@ @native@(@parameters@) {
+const std::string kAnswer = R"(@result@ @native@(@parameters@) {
     using namespace standin;
 @bindings@    static constexpr Call call{"@row@", "@family@", @owner@, @owner_key@, @key@, @bytes@,
                                Operation::@operation@, @count@, @max@, @filled@, @bound@};
@@ -29,7 +29,7 @@ const std::string kAnswer = R"([[gnu::weak]] @result@ @native@(@parameters@) {
 
 )";
 
-const std::string kInit = R"([[gnu::weak]] void @native@(@parameters@) {
+const std::string kInit = R"(void @native@(@parameters@) {
     using namespace standin;
 @bindings@    const void *const arguments[] = {@arguments@};
     clear_record(@record@, sizeof *@record@, @bound@, arguments);
@@ -37,7 +37,7 @@ const std::string kInit = R"([[gnu::weak]] void @native@(@parameters@) {
 
 )";
 
-const std::string kDefault = R"([[gnu::weak]] @result@ @native@(@parameters@) { @return@; }
+const std::string kDefault = R"(@result@ @native@(@parameters@) { @return@; }
 
 )";
 
@@ -219,6 +219,34 @@ std::string proofs_of(const Shapes &shapes, const Function &function, const Plan
     return text;
 }
 
+// "port", or "map.gport" for a field behind an address.
+std::string bound_name(const Shapes &shapes, const Function &function, const PlanBinding &binding) {
+    const Variable &parameter = function.parameters[binding.argument];
+    const Shape shape = shapes.of(parameter);
+    std::string name = name_of(parameter, binding.argument);
+    if (shape.record == nullptr || binding.size == shape.size) return name;
+    for (const auto &field : shape.record->fields)
+        if (field.offset == binding.at) return name + "." + field.name;
+    return name;
+}
+
+// "standin/chapters/l2_calls.cpp", or rule, family, key and values between tabs.
+std::string answer_of(const Shapes &shapes, const Function &function, const Plan &plan) {
+    if (!function.modelled.empty()) return function.modelled;
+    std::string key;
+    std::string values;
+    for (const auto &binding : plan.bindings) {
+        const bool list = binding.role.starts_with("list");
+        std::string &names = !list && binding.row < plan.key ? key : values;
+        if (binding.role != "flags")
+            names += (names.empty() ? "" : " ") + bound_name(shapes, function, binding);
+    }
+    std::string text = plan.layer;
+    for (const std::string &part : {plan.family, key, values})
+        text += "\t" + (part.empty() ? "-" : part);
+    return text;
+}
+
 }  // namespace
 
 std::string standin_file(const std::string &header) {
@@ -234,7 +262,8 @@ std::string emit_standin(const Model &model, const std::string &header) {
     bool walks = false;
     bool qualifies = false;
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
-        if (model.functions[i].place.file != header) continue;
+        const Function &one = model.functions[i];
+        if (one.place.file != header || !one.modelled.empty()) continue;
         functions += function_text(shapes, model.functions[i], plans[i]);
         proofs += proofs_of(shapes, model.functions[i], plans[i], proved);
         walks = walks || !plans[i].columns.empty();
@@ -254,12 +283,26 @@ std::string emit_standin(const Model &model, const std::string &header) {
                         {"close", linkage ? "}  // extern \"C\"\n" : ""}});
 }
 
-std::string emit_standin_layers(const Model &model) {
+// Who answers each function: the source that models it, or the rule with its family, the columns of
+// the key and the values.
+std::string emit_standin_calls(const Model &model) {
+    const Shapes shapes(model);
     const std::vector<Plan> &plans = plans_of(model);
     std::string text;
-    for (std::size_t i = 0; i < model.functions.size(); ++i)
-        if (!model.functions[i].module_native)
-            text += model.functions[i].native + "\t" + plans[i].layer + "\n";
+    for (std::size_t i = 0; i < model.functions.size(); ++i) {
+        const Function &function = model.functions[i];
+        if (function.module_native) continue;
+        text += function.native + "\t" + answer_of(shapes, function, plans[i]) + "\n";
+    }
+    return text;
+}
+
+// For the linker: a function that is counted as modelled has to be there.
+std::string emit_standin_required(const Model &model) {
+    std::string text;
+    for (const auto &function : model.functions)
+        if (!function.modelled.empty() && !function.place.file.ends_with("_cxx.h"))
+            text += "--require-defined=" + function.native + "\n";
     return text;
 }
 

@@ -23,8 +23,9 @@ std::string emit_install_table(const Model &model);  // constants, links, and th
 std::string emit_constants_header(const Model &model);
 std::string emit_constant_names(const Model &model);  // number and name, for the stand-in's texts
 std::string emit_model(const Model &model);           // JSON, for the tests and tools
-std::string emit_standin(const Model &model, const std::string &header);  // weak defaults
-std::string emit_standin_layers(const Model &model);  // which default is of which kind
+std::string emit_standin(const Model &model, const std::string &header);  // what no source models
+std::string emit_standin_calls(const Model &model);     // who answers each function
+std::string emit_standin_required(const Model &model);  // what its sources have to define
 std::string emit_recording(const Model &model, const std::string &header);  // the recording SDK
 std::string emit_proxy(const Model &model);                // the proxy module's tables, Python
 std::string emit_companion_elements(const Model &model);   // types that the companion lays out

@@ -47,6 +47,7 @@ struct Function {
     std::vector<Variable> parameters;
     Place place;
     bool module_native = false;     // declared below api/: defined in the module itself
+    std::string modelled;           // "standin/chapters/l2_calls.cpp" that defines it, or empty
     std::vector<Variable> visible;  // the parameters that Python passes, resolved
     std::string visible_result;     // the docstring's result, resolved; empty for void
     Conversion conversion;          // of the result, resolved

@@ -126,39 +126,38 @@ int bcm_multicast_group_traverse(int unit, bcm_multicast_group_traverse_cb_t tra
 }
 
 // The calls of one side: `egress` and `ingress` have the same ones.
-#define MEMBER_CALLS(side)                                                                        \
-    int bcm_multicast_##side##_add(int unit, bcm_multicast_t group, bcm_gport_t port,             \
-                                   bcm_if_t encap_id) {                                           \
+#define MEMBER_CALLS(side, add, remove, remove_all, setter, getter)                               \
+    int add(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t encap_id) {               \
         return on_members(__func__, unit, group, &MulticastGroup::side,                           \
                           [&](Members &all) { return add_member(all, port, encap_id); });         \
     }                                                                                             \
-    int bcm_multicast_##side##_delete(int unit, bcm_multicast_t group, bcm_gport_t port,          \
-                                      bcm_if_t encap_id) {                                        \
+    int remove(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t encap_id) {            \
         return on_members(__func__, unit, group, &MulticastGroup::side,                           \
                           [&](Members &all) { return delete_member(all, port, encap_id); });      \
     }                                                                                             \
-    int bcm_multicast_##side##_delete_all(int unit, bcm_multicast_t group) {                      \
+    int remove_all(int unit, bcm_multicast_t group) {                                             \
         return on_members(__func__, unit, group, &MulticastGroup::side, [](Members &all) {        \
             all.clear();                                                                          \
             return BCM_E_NONE;                                                                    \
         });                                                                                       \
     }                                                                                             \
-    int bcm_multicast_##side##_set(int unit, bcm_multicast_t group, int port_count,               \
-                                   bcm_gport_t *port_array, bcm_if_t *encap_id_array) {           \
+    int setter(int unit, bcm_multicast_t group, int port_count, bcm_gport_t *port_array,          \
+               bcm_if_t *encap_id_array) {                                                        \
         return on_members(__func__, unit, group, &MulticastGroup::side, [&](Members &all) {       \
             return set_members(all, port_count, port_array, encap_id_array);                      \
         });                                                                                       \
     }                                                                                             \
-    int bcm_multicast_##side##_get(int unit, bcm_multicast_t group, int port_max,                 \
-                                   bcm_gport_t *port_array, bcm_if_t *encap_id_array,             \
-                                   int *port_count) {                                             \
+    int getter(int unit, bcm_multicast_t group, int port_max, bcm_gport_t *port_array,            \
+               bcm_if_t *encap_id_array, int *port_count) {                                       \
         return on_members(__func__, unit, group, &MulticastGroup::side, [&](const Members &all) { \
             return get_members(all, port_max, port_array, encap_id_array, port_count);            \
         });                                                                                       \
     }
 
-MEMBER_CALLS(egress)
-MEMBER_CALLS(ingress)
+MEMBER_CALLS(egress, bcm_multicast_egress_add, bcm_multicast_egress_delete,
+             bcm_multicast_egress_delete_all, bcm_multicast_egress_set, bcm_multicast_egress_get)
+MEMBER_CALLS(ingress, bcm_multicast_ingress_add, bcm_multicast_ingress_delete,
+             bcm_multicast_ingress_delete_all, bcm_multicast_ingress_set, bcm_multicast_ingress_get)
 #undef MEMBER_CALLS
 
 // Replications are the egress members in another form; the second encapsulation is not kept.

@@ -16,28 +16,30 @@ constexpr int kMost = 0x7fffffff;
 extern "C" {
 
 // A pair of calls over one whole-number field with the bounds of its values.
-#define PORT_PAIR(name, field, low, high)                                                      \
-    int bcm_port_##name##_set(int unit, bcm_port_t port, int value) {                          \
+#define PORT_PAIR(setter, getter, field, low, high)                                            \
+    int setter(int unit, bcm_port_t port, int value) {                                         \
         return set_port_field(__func__, unit, port, &Port::field, value, int{low}, int{high}); \
     }                                                                                          \
-    int bcm_port_##name##_get(int unit, bcm_port_t port, int *value) {                         \
+    int getter(int unit, bcm_port_t port, int *value) {                                        \
         return get_port_field(__func__, unit, port, &Port::field, value);                      \
     }
 
-PORT_PAIR(enable, enable, 0, 1)
-PORT_PAIR(autoneg, autoneg, 0, 1)
-PORT_PAIR(duplex, duplex, 0, 1)
-PORT_PAIR(frame_max, frame_max, kSmallestFrame, kLargestFrame)
-PORT_PAIR(loopback, loopback, BCM_PORT_LOOPBACK_NONE, BCM_PORT_LOOPBACK_COUNT - 1)
-PORT_PAIR(discard, discard, BCM_PORT_DISCARD_NONE, BCM_PORT_DISCARD_COUNT - 1)
-PORT_PAIR(ifilter, ifilter, 0, 1)
-PORT_PAIR(bpdu_enable, bpdu_enable, 0, 1)
-PORT_PAIR(l3_enable, l3_enable, 0, 1)
-PORT_PAIR(master, master, 0, kMost)
-PORT_PAIR(jam, jam, 0, 1)
-PORT_PAIR(pfm, pfm, 0, 3)
-PORT_PAIR(linkscan, linkscan, 0, kMost)
-PORT_PAIR(untagged_priority, untagged_priority, -1, 7)
+PORT_PAIR(bcm_port_enable_set, bcm_port_enable_get, enable, 0, 1)
+PORT_PAIR(bcm_port_autoneg_set, bcm_port_autoneg_get, autoneg, 0, 1)
+PORT_PAIR(bcm_port_duplex_set, bcm_port_duplex_get, duplex, 0, 1)
+PORT_PAIR(bcm_port_frame_max_set, bcm_port_frame_max_get, frame_max, kSmallestFrame, kLargestFrame)
+PORT_PAIR(bcm_port_loopback_set, bcm_port_loopback_get, loopback, BCM_PORT_LOOPBACK_NONE,
+          BCM_PORT_LOOPBACK_COUNT - 1)
+PORT_PAIR(bcm_port_discard_set, bcm_port_discard_get, discard, BCM_PORT_DISCARD_NONE,
+          BCM_PORT_DISCARD_COUNT - 1)
+PORT_PAIR(bcm_port_ifilter_set, bcm_port_ifilter_get, ifilter, 0, 1)
+PORT_PAIR(bcm_port_bpdu_enable_set, bcm_port_bpdu_enable_get, bpdu_enable, 0, 1)
+PORT_PAIR(bcm_port_l3_enable_set, bcm_port_l3_enable_get, l3_enable, 0, 1)
+PORT_PAIR(bcm_port_master_set, bcm_port_master_get, master, 0, kMost)
+PORT_PAIR(bcm_port_jam_set, bcm_port_jam_get, jam, 0, 1)
+PORT_PAIR(bcm_port_pfm_set, bcm_port_pfm_get, pfm, 0, 3)
+PORT_PAIR(bcm_port_linkscan_set, bcm_port_linkscan_get, linkscan, 0, kMost)
+PORT_PAIR(bcm_port_untagged_priority_set, bcm_port_untagged_priority_get, untagged_priority, -1, 7)
 #undef PORT_PAIR
 
 int bcm_port_speed_set(int unit, bcm_port_t port, int speed) {

@@ -72,23 +72,22 @@ int bcm_stat_clear(int unit, bcm_port_t port) {
     });
 }
 
-#define STAT_GET(name, T)                                                           \
-    int bcm_stat_##name(int unit, bcm_port_t port, bcm_stat_val_t type, T *value) { \
-        return get(__func__, unit, port, &type, 1, value);                          \
+#define STAT_GET(name, T)                                                \
+    int name(int unit, bcm_port_t port, bcm_stat_val_t type, T *value) { \
+        return get(__func__, unit, port, &type, 1, value);               \
     }
-#define STAT_MULTI_GET(name, T)                                                         \
-    int bcm_stat_##name(int unit, bcm_port_t port, int nstat, bcm_stat_val_t *stat_arr, \
-                        T *value_arr) {                                                 \
-        return get(__func__, unit, port, stat_arr, nstat, value_arr);                   \
+#define STAT_MULTI_GET(name, T)                                                              \
+    int name(int unit, bcm_port_t port, int nstat, bcm_stat_val_t *stat_arr, T *value_arr) { \
+        return get(__func__, unit, port, stat_arr, nstat, value_arr);                        \
     }
-STAT_GET(get, uint64)
-STAT_GET(get32, uint32)
-STAT_GET(sync_get, uint64)
-STAT_GET(sync_get32, uint32)
-STAT_MULTI_GET(multi_get, uint64)
-STAT_MULTI_GET(multi_get32, uint32)
-STAT_MULTI_GET(sync_multi_get, uint64)
-STAT_MULTI_GET(sync_multi_get32, uint32)
+STAT_GET(bcm_stat_get, uint64)
+STAT_GET(bcm_stat_get32, uint32)
+STAT_GET(bcm_stat_sync_get, uint64)
+STAT_GET(bcm_stat_sync_get32, uint32)
+STAT_MULTI_GET(bcm_stat_multi_get, uint64)
+STAT_MULTI_GET(bcm_stat_multi_get32, uint32)
+STAT_MULTI_GET(bcm_stat_sync_multi_get, uint64)
+STAT_MULTI_GET(bcm_stat_sync_multi_get32, uint32)
 #undef STAT_GET
 #undef STAT_MULTI_GET
 

@@ -109,28 +109,28 @@ extern "C" {
 
 // -- pairs ---------------------------------------------------------------------------------------
 
-#define PORT_PAIR(name, field, high)                                              \
-    int soc_phyctrl_##name##_set(int unit, soc_port_t port, int value) {          \
+#define PORT_PAIR(setter, getter, field, high)                                    \
+    int setter(int unit, soc_port_t port, int value) {                            \
         return set_of_port(__func__, unit, port, &Port::field, value, int{high}); \
     }                                                                             \
-    int soc_phyctrl_##name##_get(int unit, soc_port_t port, int *value) {         \
+    int getter(int unit, soc_port_t port, int *value) {                           \
         return get_of_port(__func__, unit, port, &Port::field, value);            \
     }
-PORT_PAIR(enable, enable, 1)
-PORT_PAIR(duplex, duplex, 1)
-PORT_PAIR(master, master, kMost)
+PORT_PAIR(soc_phyctrl_enable_set, soc_phyctrl_enable_get, enable, 1)
+PORT_PAIR(soc_phyctrl_duplex_set, soc_phyctrl_duplex_get, duplex, 1)
+PORT_PAIR(soc_phyctrl_master_set, soc_phyctrl_master_get, master, kMost)
 #undef PORT_PAIR
 
-#define PHY_PAIR(name, type, field)                                               \
-    int soc_phyctrl_##name##_set(int unit, soc_port_t port, type value) {         \
+#define PHY_PAIR(setter, getter, type, field)                                     \
+    int setter(int unit, soc_port_t port, type value) {                           \
         return set_phy_field(__func__, unit, port, &Phy::field, value, 0, kMost); \
     }                                                                             \
-    int soc_phyctrl_##name##_get(int unit, soc_port_t port, type *value) {        \
+    int getter(int unit, soc_port_t port, type *value) {                          \
         return get_phy_field(__func__, unit, port, &Phy::field, value);           \
     }
-PHY_PAIR(interface, soc_port_if_t, interface)
-PHY_PAIR(mdix, soc_port_mdix_t, mdix)
-PHY_PAIR(offset, int, offset)
+PHY_PAIR(soc_phyctrl_interface_set, soc_phyctrl_interface_get, soc_port_if_t, interface)
+PHY_PAIR(soc_phyctrl_mdix_set, soc_phyctrl_mdix_get, soc_port_mdix_t, mdix)
+PHY_PAIR(soc_phyctrl_offset_set, soc_phyctrl_offset_get, int, offset)
 #undef PHY_PAIR
 
 // The pairs of a wire are swapped where that was asked for.

@@ -4,9 +4,9 @@
 #include "standin/generic/call.h"
 
 
-[[gnu::weak]] int Tiny::find(int unit, tiny_opaque_t) { return standin::unavailable("find", unit); }
+int Tiny::find(int unit, tiny_opaque_t) { return standin::unavailable("find", unit); }
 
-[[gnu::weak]] int Tiny::find(int unit) { return standin::unavailable("find", unit); }
+int Tiny::find(int unit) { return standin::unavailable("find", unit); }
 
-[[gnu::weak]] Tiny::String tiny_report(int) { return {}; }
+Tiny::String tiny_report(int) { return {}; }
 

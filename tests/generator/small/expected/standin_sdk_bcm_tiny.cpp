@@ -8,31 +8,31 @@ static_assert(sizeof(int) == 4);
 
 extern "C" {
 
-[[gnu::weak]] int tiny_none() { return standin::unavailable("tiny_none"); }
+int tiny_none() { return standin::unavailable("tiny_none"); }
 
-[[gnu::weak]] void tiny_scalars(int8, int16, tiny_color_t, uint8, uint16, uint32, uint64, bool) { return; }
+void tiny_scalars(int8, int16, tiny_color_t, uint8, uint16, uint32, uint64, bool) { return; }
 
-[[gnu::weak]] int tiny_unnamed(int, tiny_pair_t *) { return standin::unavailable("tiny_unnamed"); }
+int tiny_unnamed(int, tiny_pair_t *) { return standin::unavailable("tiny_unnamed"); }
 
-[[gnu::weak]] int tiny_pointers(char const *, tiny_pair_t *, uint16 const *, void *, tiny_cb) { return standin::unavailable("tiny_pointers"); }
+int tiny_pointers(char const *, tiny_pair_t *, uint16 const *, void *, tiny_cb) { return standin::unavailable("tiny_pointers"); }
 
-[[gnu::weak]] int tiny_values(tiny_pair_t, tiny_opaque_t, tiny_mac_t, tiny_pbmp_t) { return standin::unavailable("tiny_values"); }
+int tiny_values(tiny_pair_t, tiny_opaque_t, tiny_mac_t, tiny_pbmp_t) { return standin::unavailable("tiny_values"); }
 
-[[gnu::weak]] int tiny_arrays(int unit, unsigned int[2], int const[8]) { return standin::unavailable("tiny_arrays", unit); }
+int tiny_arrays(int unit, unsigned int[2], int const[8]) { return standin::unavailable("tiny_arrays", unit); }
 
-[[gnu::weak]] int tiny_wide(unsigned long) { return standin::unavailable("tiny_wide"); }
+int tiny_wide(unsigned long) { return standin::unavailable("tiny_wide"); }
 
-[[gnu::weak]] uint64 tiny_long(tiny_address_t) { return {}; }
+uint64 tiny_long(tiny_address_t) { return {}; }
 
-[[gnu::weak]] char * tiny_text(int) { return {}; }
+char * tiny_text(int) { return {}; }
 
-[[gnu::weak]] bool tiny_truth(int) { return {}; }
+bool tiny_truth(int) { return {}; }
 
-[[gnu::weak]] tiny_opaque_t tiny_value(int) { return {}; }
+tiny_opaque_t tiny_value(int) { return {}; }
 
-[[gnu::weak]] tiny_pair_t * tiny_pointer(int) { return {}; }
+tiny_pair_t * tiny_pointer(int) { return {}; }
 
-[[gnu::weak]] int tiny_speed_set(int unit, tiny_port_t port, int speed) {
+int tiny_speed_set(int unit, tiny_port_t port, int speed) {
     using namespace standin;
     static constexpr Binding bindings[] = {
         {1, Role::select, false, 0, 0, 0, 4},
@@ -43,7 +43,7 @@ extern "C" {
     return answer(call, unit, arguments);
 }
 
-[[gnu::weak]] int tiny_speed_get(int unit, tiny_port_t port, int * speed) {
+int tiny_speed_get(int unit, tiny_port_t port, int * speed) {
     using namespace standin;
     static constexpr Binding bindings[] = {
         {1, Role::select, false, 0, 0, 0, 4},
@@ -54,7 +54,7 @@ extern "C" {
     return answer(call, unit, arguments);
 }
 
-[[gnu::weak]] int tiny_list_set(int unit, int count, int * list) {
+int tiny_list_set(int unit, int count, int * list) {
     using namespace standin;
     static constexpr Binding bindings[] = {
         {2, Role::list_in, true, 0, 0, 0, 4}};
@@ -64,7 +64,7 @@ extern "C" {
     return answer(call, unit, arguments);
 }
 
-[[gnu::weak]] int tiny_list_get(int unit, int max, int * list, int * count) {
+int tiny_list_get(int unit, int max, int * list, int * count) {
     using namespace standin;
     static constexpr Binding bindings[] = {
         {2, Role::list_out, true, 0, 0, 0, 4}};
@@ -74,6 +74,6 @@ extern "C" {
     return answer(call, unit, arguments);
 }
 
-[[gnu::weak]] int tiny_create(int unit, int *) { return standin::unavailable("tiny_create", unit); }
+int tiny_create(int unit, int *) { return standin::unavailable("tiny_create", unit); }
 
 }  // extern "C"
