@@ -34,12 +34,10 @@ FAULTS = [Fault(*line) for line in (
      '? PyExc_ValueError : PyExc_RuntimeError', '? PyExc_RuntimeError : PyExc_ValueError'),
     ('frame-order', '-R python.conformance',
      'a MAC setter looks at its object before its value', ACCESSOR,
-     '''    MacString value;
-    if (!read_setter(row, args, self, object) || !value.read(object, row.call, kField) ||
-        !require_self(row, self)) {''',
-     '''    MacString value;
-    if (!read_setter(row, args, self, object) || !require_self(row, self) ||
-        !value.read(object, row.call, kField)) {'''),
+     '!value.read(object, row.call, kField) || !require_self(row, self))\n'
+     '        return nullptr;\n    std::memcpy',
+     '!require_self(row, self) || !value.read(object, row.call, kField))\n'
+     '        return nullptr;\n    std::memcpy'),
     ('frame-clean-up', '-R python.conformance',
      'the record of a refused call is not released', 'api/list_results.cpp',
      '~Filled() { ::operator delete(memory_); }', '~Filled() {}'),
@@ -75,7 +73,7 @@ FAULTS = [Fault(*line) for line in (
      'if (port >= kBits)', 'if (port > kBits)'),
     ('convert-mac', '-R python.(conformance|echo)',
      'the last separator of an address is not looked at', 'convert/mac_text.cpp',
-     '(i + 1 < kBytes && text', '(i + 2 < kBytes && text'),
+     'if (i + 1 < kBytes) bad |=', 'if (i + 2 < kBytes) bad |='),
     ('classes-overlap', '-R python.echo',
      'an array field that overlaps its source', ACCESSOR,
      'if (target + bytes <= source || source + bytes <= target) {', 'if (size != 0) {'),

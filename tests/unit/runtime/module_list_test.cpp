@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "runtime/type_table.h"
 #include "tests/unit/runtime/tiny_module.h"
 
 namespace {
@@ -24,7 +25,7 @@ std::string sources(const swig_type_info *type) {
 // them. Joined for the life of the process, hence static.
 struct Guest {
     swig_type_info shape = seed("_p_Shape");
-    swig_type_info own = seed("_p_guest");
+    swig_type_info own = {"_p_guest", "guest_t *", nullptr, nullptr, nullptr, 0};
     swig_type_info integer = seed("_p_int");
     swig_cast_link shape_rows[3] = {row(&shape), row(&own), row(nullptr)};
     swig_cast_link own_rows[3] = {row(&own), row(&integer), row(nullptr)};
@@ -72,6 +73,7 @@ TEST_F(ModuleListTest, LaterModuleSharesTypesByName) {
     EXPECT_EQ(guest.slots[1], &guest.own);
     EXPECT_EQ(guest.slots[2], tiny::type(tiny::integer));
     EXPECT_EQ(guest.slots[3], nullptr);
+    EXPECT_EQ(SWIG_Python_TypeQuery("guest_t *"), &guest.own);
 
     // The seed's client data has moved to the shared type.
     EXPECT_EQ(tiny::type(tiny::shape)->client_data, guest.shape.client_data);
