@@ -185,6 +185,11 @@ static_assert(std::size(kRoles) == static_cast<std::size_t>(RowRole::array_set) 
 
 }  // namespace
 
+std::string slot_name(const Model &model, int slot) {
+    const auto index = static_cast<std::size_t>(slot);
+    return "slots::" + (index < model.types.size() ? model.types[index].mangled : "any_pointer");
+}
+
 const RoleTraits &traits(RowRole role) { return kRoles[static_cast<std::size_t>(role)]; }
 
 int slot_of(const Model &model, const std::string &mangled) {

@@ -74,7 +74,10 @@ std::vector<Row> all_rows(const Model &model);
 // (the literal's own ends the last), and the slots of the arguments and, in the last place, of the
 // result. In emit_rows.cpp.
 std::string texts_of(const Row &row);
-std::string slots_of(const Row &row, int result_slot);
+std::string slots_of(const Model &model, const Row &row);
+
+// "slots::_p_int", of generated/type_slots.h.
+std::string slot_name(const Model &model, int slot);
 
 // The index of a type, by its mangled name. REQUIRES: the type exists.
 int slot_of(const Model &model, const std::string &mangled);

@@ -9,6 +9,7 @@ namespace {
 const std::string kFile = R"(@banner@
 #include "classes/boxes.h"
 #include "generated/entries.h"
+#include "generated/type_slots.h"
 #include "runtime/client_data.h"
 
 using namespace ombra;
@@ -37,15 +38,15 @@ std::string call_of(const Row &row) {
     return role.call + (role.on_kind ? "<" + kind_class(row.helper->value) + ">" : std::string());
 }
 
-std::string row_text(const Row &row) {
+std::string row_text(const Model &model, const Row &row) {
     if (row.role == RowRole::registration) {
         return fill(kRegistration,
-                    {{"entry", row.entry}, {"slot", std::to_string(row.result.slot)}});
+                    {{"entry", row.entry}, {"slot", slot_name(model, row.result.slot)}});
     }
     return fill(kRow, {{"name", row.name},
                        {"entry", row.entry},
                        {"texts", texts_of(row)},
-                       {"slots", slots_of(row, row.result.result_slot)},
+                       {"slots", slots_of(model, row)},
                        {"call", call_of(row)}});
 }
 
@@ -53,7 +54,7 @@ std::string row_text(const Row &row) {
 
 std::string emit_helpers(const Model &model) {
     std::string text;
-    for (const auto &row : helper_rows(model)) text += row_text(row);
+    for (const auto &row : helper_rows(model)) text += row_text(model, row);
     return fill(kFile,
                 {{"banner", banner("catalogue/helpers.txt", "emit_helpers.cpp")}, {"rows", text}});
 }

@@ -14,6 +14,7 @@ const std::string kFile = R"(@banner@
 #include "convert/append_frame.h"
 #include "convert/frame.h"
 #include "generated/entries.h"
+#include "generated/type_slots.h"
 #include "runtime/client_data.h"
 @hand@
 #include "@header@"
@@ -86,6 +87,11 @@ const std::string kProof =
 const std::string kFieldProof = R"(static_assert(offsetof(@class@, @field@) == @offset@);
 )";
 
+// The slot of a conversion; 0 where its objects carry no type.
+std::string slot_text(const Model &model, const Conversion &conversion, int slot) {
+    return traits(conversion.kind).typed ? slot_name(model, slot) : "0";
+}
+
 std::string shape_of(const Row &row) {
     const bool body = row.function->hand_written == "body";
     std::string shape = (body ? "Object" : kind_class(row.result)) + "(";
@@ -94,7 +100,7 @@ std::string shape_of(const Row &row) {
     return shape + ")";
 }
 
-std::string function_text(const Row &row) {
+std::string function_text(const Model &model, const Row &row) {
     const Function &function = *row.function;
     std::string doc = row.doc;
     std::replace(doc.begin(), doc.end(), '\n', ' ');
@@ -107,7 +113,7 @@ std::string function_text(const Row &row) {
                  {"name", row.name},
                  {"entry", row.entry},
                  {"texts", texts_of(row)},
-                 {"slots", slots_of(row, row.result.result_slot)},
+                 {"slots", slots_of(model, row)},
                  {"frame", function.appended.empty() ? "Call" : "AppendCall"},
                  {"shape", shape_of(row)},
                  {"native", native}});
@@ -121,11 +127,11 @@ std::string accessor_of(const Variable &field, bool getter) {
     return name == "set_text" && field.type == "char const *" ? "set_constant_text" : name;
 }
 
-std::string field_text(const Row &row) {
+std::string field_text(const Model &model, const Row &row) {
     const Conversion &field = row.field->conversion;
     const bool getter = row.role == RowRole::getter;
-    std::string slots = std::to_string(row.arguments[0].conversion.slot) + ", ";
-    slots += std::to_string(getter ? field.result_slot : field.slot);
+    const std::string slots = slot_name(model, row.record->slot) + ", " +
+                              slot_text(model, field, getter ? field.result_slot : field.slot);
     return fill(kField, {{"name", row.name},
                          {"entry", row.entry},
                          {"texts", texts_of(row)},
@@ -136,20 +142,20 @@ std::string field_text(const Row &row) {
                          {"accessor", accessor_of(*row.field, getter)}});
 }
 
-std::string row_text(const Row &row) {
+std::string row_text(const Model &model, const Row &row) {
     const std::map<std::string, std::string> holes = {
         {"name", row.name},
         {"entry", row.entry},
         {"texts", texts_of(row)},
-        {"slots", slots_of(row, row.record == nullptr ? 0 : row.record->slot)},
-        {"slot", row.record == nullptr ? "" : std::to_string(row.record->slot)},
+        {"slots", slots_of(model, row)},
+        {"slot", row.record == nullptr ? "" : slot_name(model, row.record->slot)},
         {"size", row.record == nullptr ? "" : std::to_string(row.record->size)}};
     switch (row.role) {
         case RowRole::function:
-            return function_text(row);
+            return function_text(model, row);
         case RowRole::getter:
         case RowRole::setter:
-            return field_text(row);
+            return field_text(model, row);
         case RowRole::constructor:
             return fill(kConstructor, holes);
         case RowRole::destructor:
@@ -187,14 +193,16 @@ std::string texts_of(const Row &row) {
     return literal.empty() ? "\"\"" : literal;
 }
 
-std::string slots_of(const Row &row, int result_slot) {
+std::string slots_of(const Model &model, const Row &row) {
+    constexpr std::size_t most_arguments = 9;
     std::string slots;
-    for (std::size_t i = 0; i < 9; ++i) {
-        slots +=
-            (i < row.arguments.size() ? std::to_string(row.arguments[i].conversion.slot) : "0") +
-            std::string(", ");
+    for (std::size_t i = 0; i < most_arguments; ++i) {
+        const Conversion none;
+        const Conversion &one = i < row.arguments.size() ? row.arguments[i].conversion : none;
+        slots += slot_text(model, one, one.slot) + ", ";
     }
-    return slots + std::to_string(result_slot);
+    return slots + (row.record != nullptr ? slot_name(model, row.record->slot)
+                                          : slot_text(model, row.result, row.result.result_slot));
 }
 
 std::string emit_shapes(const Model &model, unsigned part) {
@@ -236,7 +244,7 @@ std::string emit_rows(const Model &model, const std::string &header) {
     std::string text;
     for (const auto &record : model.structs)
         if (record.place.file == header) text += proof(record);
-    for (const auto &row : rows_of_header(model, header)) text += row_text(row);
+    for (const auto &row : rows_of_header(model, header)) text += row_text(model, row);
     const bool hand =
         std::any_of(model.functions.begin(), model.functions.end(), [&](const Function &function) {
             return function.place.file == header && !function.hand_written.empty();

@@ -67,7 +67,7 @@ std::string variable_text(const GlobalVariable &variable) {
         "\"in variable '" + variable.name + "' of type '" + variable.type + "'\"";
     const std::string null_form = "\"invalid null reference in variable '" + variable.name +
                                   "' of type '" + variable.type + "'\"";
-    const std::string slot = number(static_cast<std::size_t>(variable.slot));
+    const std::string slot = "slots::" + variable.mangled;
     std::string access;
     if (variable.kind == "int") {
         access = "IntVariable<&" + variable.name + ", Literal{" + in_method + "}>";

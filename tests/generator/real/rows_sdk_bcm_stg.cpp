@@ -3,6 +3,7 @@
 #include "convert/append_frame.h"
 #include "convert/frame.h"
 #include "generated/entries.h"
+#include "generated/type_slots.h"
 #include "runtime/client_data.h"
 #include "api/hand_rows.h"
 
@@ -35,7 +36,7 @@ static constexpr CallRow row_bcm_stg_create{
     "bcm_stg_create",
     "in method 'bcm_stg_create', argument 1 of type 'int'\0"
     "in method 'bcm_stg_create', argument 2 of type 'bcm_stg_t *'",
-    {0, 931, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {0, slots::_p_int, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_create(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Pointer)>;
     return Shape::run(row_bcm_stg_create, Shape::native(&bcm_stg_create), args);
@@ -68,7 +69,7 @@ static constexpr CallRow row_bcm_stg_count_get{
     "bcm_stg_count_get",
     "in method 'bcm_stg_count_get', argument 1 of type 'int'\0"
     "in method 'bcm_stg_count_get', argument 2 of type 'int *'",
-    {0, 931, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {0, slots::_p_int, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_count_get(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Pointer)>;
     return Shape::run(row_bcm_stg_count_get, Shape::native(&bcm_stg_count_get), args);
@@ -90,7 +91,7 @@ static constexpr CallRow row_bcm_stg_default_get{
     "bcm_stg_default_get",
     "in method 'bcm_stg_default_get', argument 1 of type 'int'\0"
     "in method 'bcm_stg_default_get', argument 2 of type 'bcm_stg_t *'",
-    {0, 931, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {0, slots::_p_int, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_default_get(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Pointer)>;
     return Shape::run(row_bcm_stg_default_get, Shape::native(&bcm_stg_default_get), args);
@@ -112,7 +113,7 @@ static constexpr CallRow row_bcm_stg_list_destroy{
     "in method 'bcm_stg_list_destroy', argument 1 of type 'int'\0"
     "in method 'bcm_stg_list_destroy', argument 2 of type 'bcm_stg_t *'\0"
     "in method 'bcm_stg_list_destroy', argument 3 of type 'int'",
-    {0, 931, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {0, slots::_p_int, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_list_destroy(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Pointer, Signed32)>;
     return Shape::run(row_bcm_stg_list_destroy, Shape::native(&bcm_stg_list_destroy), args);
@@ -195,7 +196,7 @@ static constexpr CallRow row_bcm_stg_vlan_list_destroy{
     "in method 'bcm_stg_vlan_list_destroy', argument 1 of type 'int'\0"
     "in method 'bcm_stg_vlan_list_destroy', argument 2 of type 'bcm_vlan_t *'\0"
     "in method 'bcm_stg_vlan_list_destroy', argument 3 of type 'int'",
-    {0, 1014, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {0, slots::_p_unsigned_short, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_bcm_stg_vlan_list_destroy(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Pointer, Signed32)>;
     return Shape::run(row_bcm_stg_vlan_list_destroy, Shape::native(&bcm_stg_vlan_list_destroy), args);

@@ -14,7 +14,7 @@ const swig_constant swig_constants[] = {
 
 const swig_variable swig_variables[] = {
     {"tiny_depth", IntVariable<&tiny_depth, Literal{"in variable 'tiny_depth' of type 'int'"}>::get, IntVariable<&tiny_depth, Literal{"in variable 'tiny_depth' of type 'int'"}>::set, false},
-    {"tiny_names", ReadOnlyArray<tiny_names, 16, Literal{"in variable 'read-only tiny_names' of type 'char *[]'"}>::get, ReadOnlyArray<tiny_names, 16, Literal{"in variable 'read-only tiny_names' of type 'char *[]'"}>::set, true},
+    {"tiny_names", ReadOnlyArray<tiny_names, slots::_p_void, Literal{"in variable 'read-only tiny_names' of type 'char *[]'"}>::get, ReadOnlyArray<tiny_names, slots::_p_void, Literal{"in variable 'read-only tiny_names' of type 'char *[]'"}>::set, true},
 };
 
 const swig_install_step swig_install_steps[] = {

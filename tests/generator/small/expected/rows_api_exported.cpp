@@ -3,6 +3,7 @@
 #include "convert/append_frame.h"
 #include "convert/frame.h"
 #include "generated/entries.h"
+#include "generated/type_slots.h"
 #include "runtime/client_data.h"
 
 #include "api/exported.h"
@@ -14,7 +15,7 @@ static constexpr CallRow row_tiny_test{
     "tiny_test",
     "invalid null reference in method 'tiny_test', argument 1 of type 'tiny_pair_t &'\0"
     "in method 'tiny_test', argument 2 of type 'tiny_color_e'",
-    {10, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {slots::_p_tiny_pair_s, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_test(PyObject *, PyObject *args) {
     using Shape = Call<Unsigned32(Reference, Signed32)>;
     return Shape::run(row_tiny_test, Shape::native(&::tiny_test), args);

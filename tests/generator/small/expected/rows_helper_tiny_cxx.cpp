@@ -3,6 +3,7 @@
 #include "convert/append_frame.h"
 #include "convert/frame.h"
 #include "generated/entries.h"
+#include "generated/type_slots.h"
 #include "runtime/client_data.h"
 #include "api/hand_rows.h"
 
@@ -15,7 +16,7 @@ static constexpr CallRow row_find{
     "find",
     "in method 'find', argument 1 of type 'int'\0"
     "invalid null reference in method 'find', argument 2 of type 'tiny_opaque_t'",
-    {0, 9, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {0, slots::_p_tiny_opaque_t, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_find(PyObject *, PyObject *args) {
     return ombra::rows::find(row_find, args);
 }

@@ -3,6 +3,7 @@
 #include "convert/append_frame.h"
 #include "convert/frame.h"
 #include "generated/entries.h"
+#include "generated/type_slots.h"
 #include "runtime/client_data.h"
 
 #include "sdk/bcm/tiny.h"
@@ -41,7 +42,7 @@ static constexpr CallRow row_tiny_unnamed{
     "tiny_unnamed",
     "in method 'tiny_unnamed', argument 1 of type 'int'\0"
     "in method 'tiny_unnamed', argument 2 of type 'tiny_pair_t *'",
-    {0, 10, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {0, slots::_p_tiny_pair_s, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_unnamed(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Pointer)>;
     return Shape::run(row_tiny_unnamed, Shape::native(&tiny_unnamed), args);
@@ -55,7 +56,7 @@ static constexpr CallRow row_tiny_pointers{
     "in method 'tiny_pointers', argument 3 of type 'uint16 const *'\0"
     "in method 'tiny_pointers', argument 4 of type 'void *'\0"
     "in method 'tiny_pointers', argument 5 of type 'tiny_cb'",
-    {0, 10, 15, 17, 3, 0, 0, 0, 0, 0}};
+    {0, slots::_p_tiny_pair_s, slots::_p_unsigned_short, slots::any_pointer, slots::_p_f_int_p_void__int, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_pointers(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Text, Pointer, Pointer, Pointer, FunctionPointer)>;
     return Shape::run(row_tiny_pointers, Shape::native(&tiny_pointers), args);
@@ -68,7 +69,7 @@ static constexpr CallRow row_tiny_values{
     "invalid null reference in method 'tiny_values', argument 2 of type 'tiny_opaque_t'\0"
     "in method 'tiny_values', argument 3 of type 'tiny_mac_t'\0"
     "in method 'tiny_values', argument 4 of type 'tiny_pbmp_t'",
-    {10, 9, 0, 0, 0, 0, 0, 0, 0, 0}};
+    {slots::_p_tiny_pair_s, slots::_p_tiny_opaque_t, 0, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_values(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(ByValue<8, 4>, ByValue<24, 4>, MacString, PortBitmap)>;
     return Shape::run(row_tiny_values, Shape::native(&tiny_values), args);
@@ -80,7 +81,7 @@ static constexpr CallRow row_tiny_arrays{
     "in method 'tiny_arrays', argument 1 of type 'int'\0"
     "in method 'tiny_arrays', argument 2 of type 'unsigned int [2]'\0"
     "in method 'tiny_arrays', argument 3 of type 'int const [8]'",
-    {0, 14, 5, 0, 0, 0, 0, 0, 0, 0}};
+    {0, slots::_p_unsigned_int, slots::_p_int, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_arrays(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Pointer, Pointer)>;
     return Shape::run(row_tiny_arrays, Shape::native(&tiny_arrays), args);
@@ -130,7 +131,7 @@ PyObject *_wrap_tiny_truth(PyObject *, PyObject *args) {
 static constexpr CallRow row_tiny_value{
     "tiny_value",
     "in method 'tiny_value', argument 1 of type 'int'",
-    {0, 0, 0, 0, 0, 0, 0, 0, 0, 9}};
+    {0, 0, 0, 0, 0, 0, 0, 0, 0, slots::_p_tiny_opaque_t}};
 PyObject *_wrap_tiny_value(PyObject *, PyObject *args) {
     using Shape = Call<ByValue<24, 4>(Signed32)>;
     return Shape::run(row_tiny_value, Shape::native(&tiny_value), args);
@@ -140,7 +141,7 @@ PyObject *_wrap_tiny_value(PyObject *, PyObject *args) {
 static constexpr CallRow row_tiny_pointer{
     "tiny_pointer",
     "in method 'tiny_pointer', argument 1 of type 'int'",
-    {0, 0, 0, 0, 0, 0, 0, 0, 0, 10}};
+    {0, 0, 0, 0, 0, 0, 0, 0, 0, slots::_p_tiny_pair_s}};
 PyObject *_wrap_tiny_pointer(PyObject *, PyObject *args) {
     using Shape = Call<Pointer(Signed32)>;
     return Shape::run(row_tiny_pointer, Shape::native(&tiny_pointer), args);
@@ -164,7 +165,7 @@ static constexpr CallRow row_tiny_speed_get{
     "in method 'tiny_speed_get', argument 1 of type 'int'\0"
     "in method 'tiny_speed_get', argument 2 of type 'tiny_port_t'\0"
     "in method 'tiny_speed_get', argument 3 of type 'int *'",
-    {0, 0, 5, 0, 0, 0, 0, 0, 0, 0}};
+    {0, 0, slots::_p_int, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_speed_get(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Signed32, Pointer)>;
     return Shape::run(row_tiny_speed_get, Shape::native(&tiny_speed_get), args);
@@ -176,7 +177,7 @@ static constexpr CallRow row_tiny_list_set{
     "in method 'tiny_list_set', argument 1 of type 'int'\0"
     "in method 'tiny_list_set', argument 2 of type 'int'\0"
     "in method 'tiny_list_set', argument 3 of type 'int *'",
-    {0, 0, 5, 0, 0, 0, 0, 0, 0, 0}};
+    {0, 0, slots::_p_int, 0, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_list_set(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Signed32, Pointer)>;
     return Shape::run(row_tiny_list_set, Shape::native(&tiny_list_set), args);
@@ -189,7 +190,7 @@ static constexpr CallRow row_tiny_list_get{
     "in method 'tiny_list_get', argument 2 of type 'int'\0"
     "in method 'tiny_list_get', argument 3 of type 'int *'\0"
     "in method 'tiny_list_get', argument 4 of type 'int *'",
-    {0, 0, 5, 5, 0, 0, 0, 0, 0, 0}};
+    {0, 0, slots::_p_int, slots::_p_int, 0, 0, 0, 0, 0, 0}};
 PyObject *_wrap_tiny_list_get(PyObject *, PyObject *args) {
     using Shape = Call<Signed32(Signed32, Signed32, Pointer, Pointer)>;
     return Shape::run(row_tiny_list_get, Shape::native(&tiny_list_get), args);
