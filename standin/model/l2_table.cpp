@@ -11,9 +11,45 @@ std::uint64_t l2_key(const bcm_mac_t mac, bcm_vlan_t vid) {
     return key << 16 | vid;
 }
 
+std::size_t L2Index::home_of(std::uint64_t key) const {
+    key *= 0x9E3779B97F4A7C15u;  // addresses differ in few bits; spread them
+    return static_cast<std::size_t>(key ^ (key >> 32)) & (slots_.size() - 1);
+}
+
+std::size_t L2Index::slot_of(std::uint64_t key) const {
+    std::size_t slot = home_of(key);
+    while (slots_[slot].number != kNone && slots_[slot].key != key)
+        slot = (slot + 1) & (slots_.size() - 1);
+    return slot;
+}
+
+void L2Index::insert(std::uint64_t key, std::uint32_t number) {
+    if (2 * ++size_ > slots_.size()) {
+        std::vector<Slot> old(2 * slots_.size());
+        old.swap(slots_);
+        for (const Slot &slot : old)
+            if (slot.number != kNone) slots_[slot_of(slot.key)] = slot;
+    }
+    slots_[slot_of(key)] = {key, number};
+}
+
+// Those behind the gap move up, unless that took them in front of their home.
+void L2Index::erase(std::uint64_t key) {
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t gap = slot_of(key);
+    for (std::size_t slot = (gap + 1) & mask; slots_[slot].number != kNone;
+         slot = (slot + 1) & mask) {
+        if (((slot - home_of(slots_[slot].key)) & mask) < ((slot - gap) & mask)) continue;
+        slots_[gap] = slots_[slot];
+        gap = slot;
+    }
+    slots_[gap] = {};
+    --size_;
+}
+
 L2Row *L2Table::find(const bcm_mac_t mac, bcm_vlan_t vid) {
-    const auto found = index_.find(l2_key(mac, vid));
-    return found == index_.end() ? nullptr : &rows_[found->second];
+    const std::uint32_t place = index_.find(l2_key(mac, vid));
+    return place == L2Index::kNone ? nullptr : &rows_[place];
 }
 
 L2Row *L2Table::put(const bcm_l2_addr_t &entry, std::size_t capacity) {
@@ -22,37 +58,51 @@ L2Row *L2Table::put(const bcm_l2_addr_t &entry, std::size_t capacity) {
         return row;
     }
     if (size() >= capacity) return nullptr;
-    const std::uint64_t key = l2_key(entry.mac, entry.vid);
-    rows_.push_back({entry, key, last_order_ + 1, 0, false});
-    index_.emplace(key, rows_.size() - 1);
-    ++last_order_;
-    return &rows_.back();
-}
-
-void L2Table::erase(L2Row &row) {
-    index_.erase(row.key);
-    row.gone = true;
-    if (rows_.size() > 2 * index_.size() + 64) squeeze();
-}
-
-L2Row *L2Table::next(Cursor &cursor) {
-    std::size_t place = cursor.place;
-    const bool here = place > 0 && place <= rows_.size() && rows_[place - 1].order == cursor.order;
-    if (!here) {
-        const auto after = std::upper_bound(
-            rows_.begin(), rows_.end(), cursor.order,
-            [](std::uint64_t order, const L2Row &row) { return order < row.order; });
-        place = static_cast<std::size_t>(after - rows_.begin());
-    }
-    while (place < rows_.size() && rows_[place].gone) ++place;
-    if (place == rows_.size()) return nullptr;
-    cursor = {rows_[place].order, place + 1};
+    const std::uint32_t place = take_place();
+    rows_[place] = {0, entry};
+    orders_[place] = ++last_order_;
+    walk_.push_back({last_order_, place});
+    index_.insert(l2_key(entry.mac, entry.vid), place);
     return &rows_[place];
 }
 
+void L2Table::erase(L2Row &row) {
+    const std::uint64_t key = l2_key(row.entry.mac, row.entry.vid);
+    const std::uint32_t place = index_.find(key);
+    index_.erase(key);
+    orders_[place] = 0;
+    free_.push_back(place);
+    if (walk_.size() > 2 * index_.size() + 64) squeeze();
+}
+
+L2Row *L2Table::next(Cursor &cursor) {
+    std::size_t step = cursor.step;
+    const bool here = step > 0 && step <= walk_.size() && walk_[step - 1].order == cursor.order;
+    if (!here) {
+        const auto after = std::upper_bound(
+            walk_.begin(), walk_.end(), cursor.order,
+            [](std::uint64_t order, const Step &one) { return order < one.order; });
+        step = static_cast<std::size_t>(after - walk_.begin());
+    }
+    while (step < walk_.size() && is_gone(walk_[step])) ++step;
+    if (step == walk_.size()) return nullptr;
+    cursor = {walk_[step].order, step + 1};
+    return &rows_[walk_[step].place];
+}
+
+std::uint32_t L2Table::take_place() {
+    if (free_.empty()) {
+        rows_.emplace_back();
+        orders_.push_back(0);
+        return static_cast<std::uint32_t>(rows_.size() - 1);
+    }
+    const std::uint32_t place = free_.back();
+    free_.pop_back();
+    return place;
+}
+
 void L2Table::squeeze() {
-    std::erase_if(rows_, [](const L2Row &row) { return row.gone; });
-    for (std::size_t place = 0; place < rows_.size(); ++place) index_[rows_[place].key] = place;
+    std::erase_if(walk_, [this](const Step &step) { return is_gone(step); });
 }
 
 }  // namespace standin

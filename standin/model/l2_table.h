@@ -1,14 +1,18 @@
 // The MAC table of one switch: rows by address and VLAN, walked in the order of insertion.
 //
-//     rows_    | row | row | gone | row | ...      ascending by `order`; gaps are squeezed out
-//     index_   key -> place in rows_               when they outnumber the rows
+//     rows_    | row | free | row | row | ...      in any order; a free place is taken first
+//     walk_    (order, place) ascending by order; those of rows that are gone are squeezed out
+//              when they outnumber the others
+//     orders_  order of the row at each place, 0 for a free one: tells the walk what is gone
+//     index_   key -> place in rows_, open addressing: one cache line a look-up
 //
-// A walk survives every change in between, also that of the row at hand, since it remembers the
-// order of the last row and not its place.
+// So an add and a delete move nothing but themselves, however full the table is, and a squeeze
+// reads 24 bytes a row. A walk survives every change in between, also that of the row at hand,
+// since it remembers the order of the last row and not its place.
 #pragma once
 #include <cstddef>
 #include <cstdint>
-#include <unordered_map>
+#include <deque>
 #include <vector>
 
 #include "layout/sdk_words.h"
@@ -21,20 +25,46 @@ using namespace sdk_words;
 constexpr std::size_t kL2Capacity = 65'536;
 
 struct L2Row {
-    bcm_l2_addr_t entry{};
-    std::uint64_t key = 0;
-    std::uint64_t order = 0;
     std::uint64_t heard = 0;  // when a packet last came from it, on the table's own clock
-    bool gone = false;
+    bcm_l2_addr_t entry{};
 
     bool is_static() const { return (entry.flags & kL2Static) != 0; }
+};
+
+// Keys, each with a number below 2^32 - 1. No key is there twice.
+class L2Index {
+  public:
+    // The number of a key; `kNone` if it is not there.
+    std::uint32_t find(std::uint64_t key) const { return slots_[slot_of(key)].number; }
+
+    // REQUIRES: the key is not there.
+    void insert(std::uint64_t key, std::uint32_t number);
+
+    // REQUIRES: the key is there.
+    void erase(std::uint64_t key);
+
+    std::size_t size() const { return size_; }
+
+    static constexpr std::uint32_t kNone = ~0u;
+
+  private:
+    struct Slot {
+        std::uint64_t key = 0;
+        std::uint32_t number = kNone;  // kNone: free
+    };
+
+    std::size_t home_of(std::uint64_t key) const;
+    std::size_t slot_of(std::uint64_t key) const;  // its own, or the free one where it belongs
+
+    std::vector<Slot> slots_ = std::vector<Slot>(64);  // a power of two, at most half of it used
+    std::size_t size_ = 0;
 };
 
 class L2Table {
   public:
     struct Cursor {
         std::uint64_t order = 0;  // of the last row given
-        std::size_t place = 0;    // where the next one probably is
+        std::size_t step = 0;     // where in the walk the next one probably is
     };
 
     // Null if there is none. Valid until the next `put` or `erase`.
@@ -53,17 +83,20 @@ class L2Table {
     std::size_t size() const { return index_.size(); }
 
   private:
-    struct Mix {
-        std::size_t operator()(std::uint64_t key) const {
-            key *= 0x9E3779B97F4A7C15u;  // addresses differ in few bits; spread them
-            return static_cast<std::size_t>(key ^ (key >> 32));
-        }
+    struct Step {
+        std::uint64_t order = 0;
+        std::uint32_t place = 0;  // in rows_
     };
 
+    bool is_gone(const Step &step) const { return orders_[step.place] != step.order; }
+    std::uint32_t take_place();
     void squeeze();
 
-    std::vector<L2Row> rows_;
-    std::unordered_map<std::uint64_t, std::size_t, Mix> index_;
+    std::deque<L2Row> rows_;
+    std::vector<std::uint64_t> orders_;
+    std::vector<std::uint32_t> free_;
+    std::vector<Step> walk_;
+    L2Index index_;
     std::uint64_t last_order_ = 0;
 };
 

@@ -1,4 +1,5 @@
 // The MAC table: entries, walks that change it, bulk deletes, learning and ageing.
+#include <algorithm>
 #include <thread>
 #include <vector>
 
@@ -114,6 +115,26 @@ TEST_F(Chip, TableIsFullAtItsCapacity) {
     EXPECT_EQ(bcm_l2_addr_delete(0, Mac(0).data(), 10), BCM_E_NONE);
     EXPECT_EQ(add(kL2Capacity, 10, 1), BCM_E_NONE);
     EXPECT_EQ(walked().size(), kL2Capacity);
+}
+
+// Entries that come and go take each other's places; look-up and order follow a model.
+TEST_F(Chip, TableFollowsAModelAsEntriesComeAndGo) {
+    std::vector<int> model;
+    std::uint32_t random = 1;
+    for (int step = 0; step < 6000; ++step) {
+        random = random * 1664525 + 1013904223;
+        const int mac = static_cast<int>(random >> 16 & 0x1FF);
+        const auto found = std::find(model.begin(), model.end(), mac);
+        if (found != model.end()) {
+            EXPECT_EQ(bcm_l2_addr_delete(0, Mac(static_cast<std::uint32_t>(mac)).data(), 5), 0);
+            model.erase(found);
+        } else {
+            EXPECT_EQ(add(static_cast<std::uint32_t>(mac), 5, 1), 0);
+            model.push_back(mac);
+        }
+        ASSERT_EQ(has(static_cast<std::uint32_t>(mac), 5), !model.empty() && model.back() == mac);
+        ASSERT_TRUE(step % 100 != 0 || walked() == model);
+    }
 }
 
 TEST_F(Chip, BulkDeletesTakeWhatTheyName) {
