@@ -135,17 +135,20 @@ def traverse(function, *args):
     return result
 
 
+_BUILT_IN = type(len)
+
+
 def _fill(namespace):
     """Puts the names of the module, the callbacks and the classes here."""
     own = dict(namespace)
     namespace.update(vars(_native))
     for name, function in vars(_companion).iteritems():
-        if 'swig_ptr: ' in (function.__doc__ or ''):
+        if isinstance(function, _BUILT_IN) and 'swig_ptr: ' in (
+                function.__doc__ or ''):
             namespace[name] = function
     rows = vars(_native)
-    names = frozenset(name for name, _ in _tables.CLASSES)
     for name, table in _tables.CLASSES:
-        namespace[name] = _proxy.struct_class(name, table, rows, names)
+        namespace[name] = _proxy.struct_class(name, table, rows)
     for name, element in _tables.BOXES:
         namespace[name] = _proxy.box_class(name, namespace.get(element), rows)
     for name, type_name, others in _tables.VALUES:

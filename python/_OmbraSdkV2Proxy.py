@@ -1,7 +1,7 @@
 """The classes behind OmbraSdkV2Helper: structures, values, boxes, arrays.
 
-Each stands on rows of the module: a structure's fields are properties over its
-X_f_get and X_f_set rows, and the pointer object in an instance's `this` is
+Each stands on rows of the module: a structure's fields are descriptors of the
+companion over its X_f_get and X_f_set rows, and the pointer object in an instance's `this` is
 what the module sees when the instance is passed.
 
 Who frees what: an instance that was constructed here owns its native memory,
@@ -10,42 +10,18 @@ read out of a structure or an array without a copy (a nested structure, an
 array field, an element) keeps its parent alive for as long as it lives.
 """
 
-from operator import index
-
 import _OmbraSdkV2Companion as companion
 
 
-class Proxy(object):
-    """Holds a pointer object in `this`. Equal when the address is the same."""
-
-    def __setattr__(self, name, value):
-        if not hasattr(type(self), name):
-            raise AttributeError('%s has no field %r'
-                                 % (type(self).__name__, name))
-        object.__setattr__(self, name, value)
-
-    def __eq__(self, other):
-        if not isinstance(other, Proxy):
-            return NotImplemented
-        return int(self.this) == int(other.this)
-
-    def __ne__(self, other):
-        equal = self.__eq__(other)
-        return equal if equal is NotImplemented else not equal
-
-    def __hash__(self):
-        return hash(int(self.this))
+# The base of all: holds a pointer object in `this`, is equal when the address is
+# the same, and refuses a name that its class does not have.
+Proxy = companion.Instance
 
 
 class Struct(Proxy):
     """A structure of the SDK. A new one is zero, but for the fields given."""
 
     _fields = ()
-
-    def __init__(self, **fields):
-        self.__dict__['this'] = self._new()
-        for name, value in fields.iteritems():
-            setattr(self, name, value)
 
     def items(self):
         """Pairs of field name and value, in layout order."""
@@ -127,6 +103,10 @@ class Value(Proxy):
             return NotImplemented
         return _same(self.value, other.value)
 
+    def __ne__(self, other):
+        equal = self.__eq__(other)
+        return equal if equal is NotImplemented else not equal
+
     __hash__ = None
 
     def __repr__(self):
@@ -182,85 +162,28 @@ def _is_zero(value):
     return not value or value == '00:00:00:00:00:00'
 
 
-def _keep(child, parent):
-    """Makes an alias keep what it lies in."""
-    child.__dict__['_owner'] = parent
-    return child
+class _FieldTable(object):
+    """The docstring of a structure, made when somebody reads it."""
+
+    def __get__(self, instance, owner):
+        return ('Structure of the SDK. Fields and their types:\n\n'
+                + owner._table)
 
 
-def _nested_field(get, put, doc):
-    return property(lambda self: _keep(get(self), self), put, doc=doc)
+_FIELD_TABLE = _FieldTable()
 
 
-def _port_list_field(get, put, doc):
-    # The rows give long numbers out and take int ones in.
-    def write(self, ports):
-        put(self, [int(index(port)) for port in ports])
-
-    return property(lambda self: [int(port) for port in get(self)], write,
-                    doc=doc)
-
-
-def _array_field(get, put, element, count, doc):
-    def read(self):
-        return companion.view(element, get(self), count, self)
-
-    def write(self, value):
-        if not isinstance(value, companion.Array):
-            value = companion.Array(element, value)
-        if len(value) != count:
-            raise ValueError('the field takes %d elements, not %d'
-                             % (count, len(value)))
-        put(self, value)
-
-    return property(read, write, doc=doc)
-
-
-def _pointer_field(get, put, name, doc):
-    # The structure takes over a structure that is stored in it. An array goes
-    # on owning its memory, so it is kept.
-    def write(self, value):
-        put(self, value)
-        self.__dict__['_kept_' + name] = value
-
-    return property(get, write, doc=doc)
-
-
-def _field(name, declared, get, put, classes):
-    """The property of a field, by the form of its declared type."""
-    if declared in classes:
-        return _nested_field(get, put, declared)
-    if declared == 'bcm_pbmp_t':
-        return _port_list_field(get, put, declared)
-    if declared[-1] == ']':
-        element, _, bounds = declared.partition(' [')
-        counts = [int(bound) for bound in bounds[:-1].split('][')]
-        if len(counts) == 2:
-            element = '%s [%d]' % (element, counts[1])
-        return _array_field(get, put, element, counts[0], declared)
-    if declared[-1] == '*':
-        return _pointer_field(get, put, name, declared)
-    return property(get, put, doc=declared)
-
-
-def struct_class(name, table, rows, classes):
+def struct_class(name, table, rows):
     """The class of a structure, registered with the module. `table` has a
     line "name: type" for each field."""
     members = {
-        '__doc__': 'Structure of the SDK. Fields and their types:\n\n'
-                   + table,
+        '__doc__': _FIELD_TABLE,
         '__module__': 'OmbraSdkV2Helper',
         '__swig_destroy__': rows['delete_' + name],
         '_new': rows['new_' + name],
+        '_table': table,
     }
-    names = []
-    for line in table.splitlines():
-        field, _, declared = line.partition(': ')
-        row = name + '_' + field
-        members[field] = _field(field, declared, rows[row + '_get'],
-                                rows[row + '_set'], classes)
-        names.append(field)
-    members['_fields'] = tuple(names)
+    members['_fields'] = companion.add_fields(members, name, table, rows)
     made = type(name, (Struct,), members)
     rows[name + '_swigregister'](made)
     return made

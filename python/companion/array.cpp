@@ -69,17 +69,6 @@ PyObject *as_items(const Element &element, PyObject *values) {
 
 int store_item(Array *self, Py_ssize_t index, PyObject *value);
 
-PyObject *new_filled(const Element &element, PyObject *values) {
-    const ombra::PyRef items(as_items(element, values));
-    if (items == nullptr) return nullptr;
-    const Py_ssize_t count = PySequence_Fast_GET_SIZE(items.get());
-    ombra::PyRef object(new_zeroes(element, static_cast<std::size_t>(count)));
-    for (Py_ssize_t i = 0; object != nullptr && i < count; ++i)
-        if (store_item(as_array(object.get()), i, PySequence_Fast_GET_ITEM(items.get(), i)) != 0)
-            return nullptr;
-    return object.release();
-}
-
 // Array(type, count or values).
 PyObject *array_new(PyTypeObject *, PyObject *args, PyObject *keywords) {
     const char *name = nullptr;
@@ -305,6 +294,17 @@ PyTypeObject *array_type() {
         return PyType_Ready(&type_object) == 0 ? &type_object : nullptr;
     }();
     return ready;
+}
+
+PyObject *new_filled(const Element &element, PyObject *values) {
+    const ombra::PyRef items(as_items(element, values));
+    if (items == nullptr) return nullptr;
+    const Py_ssize_t count = PySequence_Fast_GET_SIZE(items.get());
+    ombra::PyRef object(new_zeroes(element, static_cast<std::size_t>(count)));
+    for (Py_ssize_t i = 0; object != nullptr && i < count; ++i)
+        if (store_item(as_array(object.get()), i, PySequence_Fast_GET_ITEM(items.get(), i)) != 0)
+            return nullptr;
+    return object.release();
 }
 
 PyObject *new_view(const Element &element, void *place, std::size_t count, PyObject *owner) {

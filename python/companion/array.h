@@ -20,6 +20,10 @@ PyTypeObject *array_type();
 // null: then the memory has to outlive the view, or forget_view() has to end it.
 PyObject *new_view(const Element &element, void *place, std::size_t count, PyObject *owner);
 
+// An Array of its own memory with the values of a sequence. New reference, or null with an
+// exception.
+PyObject *new_filled(const Element &element, PyObject *values);
+
 // Ends a view whose memory is about to go: it has no elements from then on, and its `this` is null.
 // REQUIRES: an Array.
 void forget_view(PyObject *array);

@@ -13,6 +13,7 @@
 #include "convert/readers.h"
 #include "python/companion/array.h"
 #include "python/companion/callbacks.h"
+#include "python/companion/instance.h"
 #include "runtime/client_data.h"
 #include "runtime/module_entry.h"
 #include "runtime/pointer_conversion.h"
@@ -196,6 +197,8 @@ constexpr PyMethodDef own_methods[] = {
      "far "
      "as the caller says. Keeps `owner`."},
     {"register_class", register_class, METH_VARARGS, "register_class(type, class)"},
+    {"add_fields", add_fields, METH_VARARGS,
+     "add_fields(members, class_name, table, rows) -> names of the fields added to `members`"},
     {"native_types", native_types, METH_NOARGS, "native_types(): the names that Array takes"},
     {"cookie", new_cookie, METH_O,
      "cookie(callable) -> pointer: names a callable to a native callback. The callable is kept "
@@ -215,6 +218,12 @@ std::vector<PyMethodDef> &all_methods() {
     return all;
 }
 
+void add_type(PyObject *module, const char *name, PyTypeObject *type) {
+    if (module != nullptr && type != nullptr)
+        PyModule_AddObject(module, name,
+                           ombra::new_ref(reinterpret_cast<PyObject *>(type)).release());
+}
+
 void init() {
     std::vector<PyMethodDef> &methods = all_methods();
     const PyMethodDef *callback = callback_methods;
@@ -226,11 +235,9 @@ void init() {
     SWIG_Python_RunEntry({"_OmbraSdkV2Companion", methods.data(), callback_rows, &swig_module,
                           nullptr, nullptr, nullptr, 0});
     PyObject *module = PyImport_AddModule("_OmbraSdkV2Companion");
-    PyTypeObject *array = array_type();
-    if (module != nullptr && array != nullptr) {
-        PyModule_AddObject(module, "Array",
-                           ombra::new_ref(reinterpret_cast<PyObject *>(array)).release());
-    }
+    add_type(module, "Array", array_type());
+    add_type(module, "Instance", instance_type());
+    add_type(module, "Field", field_type());
 }
 
 }  // namespace

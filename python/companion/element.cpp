@@ -115,28 +115,14 @@ PyObject *load_pointer(const Element &element, const void *place) {
     return SWIG_Python_NewPointerObj(pointer, swig_type_slots[element.inner], 0);
 }
 
-// A port list with every long number made an int, as one comes out of a bitmap and may go in again.
-ombra::PyRef with_ints(PyObject *ports) {
-    ombra::PyRef list(PySequence_List(ports));
-    for (Py_ssize_t i = 0; list != nullptr && i < PyList_GET_SIZE(list.get()); ++i) {
-        PyObject *port = PyList_GET_ITEM(list.get(), i);
-        if (PyLong_Check(port)) {
-            PyObject *number = PyNumber_Int(port);
-            if (number == nullptr || PyList_SetItem(list.get(), i, number) != 0) return nullptr;
-        }
-    }
-    return list;
-}
-
 PyObject *load_ports(const void *place) {
     bcm_pbmp_t ports;
     std::memcpy(&ports, place, sizeof ports);
-    const ombra::PyRef list(pbmpToPyList(ports));
-    return list != nullptr ? with_ints(list.get()).release() : nullptr;
+    return make_ints(pbmpToPyList(ports));
 }
 
 bool store_ports(void *place, PyObject *value) {
-    const ombra::PyRef list = with_ints(value);
+    const ombra::PyRef list(make_ints(PySequence_List(value)));
     bcm_pbmp_t ports;
     if (list == nullptr) return false;
     pyListToPbmp(list.get(), &ports);
@@ -170,6 +156,17 @@ PyObject *load_structure(const Element &element, void *place, PyObject *owner) {
 }
 
 }  // namespace
+
+PyObject *make_ints(PyObject *list) {
+    for (Py_ssize_t i = 0; list != nullptr && i < PyList_GET_SIZE(list); ++i) {
+        PyObject *port = PyList_GET_ITEM(list, i);
+        if (PyInt_Check(port)) continue;
+        const ombra::PyRef index(PyNumber_Index(port));
+        PyObject *number = index != nullptr ? PyNumber_Int(index.get()) : nullptr;
+        if (number == nullptr || PyList_SetItem(list, i, number) != 0) Py_CLEAR(list);
+    }
+    return list;
+}
 
 const Element *find_element(const char *name) {
     const Element *end = elements + element_count;

@@ -62,6 +62,11 @@ PyObject *load(const Element &element, void *place, PyObject *owner);
 // what it points to; needs_keeping() says where the caller has to.
 bool store(const Element &element, void *place, PyObject *value);
 
+// Makes every number of a list an `int`, as the module's port lists want them: what comes out of
+// them is `long`. Takes the reference over and gives it back, or null with an exception; a null
+// list is passed on. REQUIRES: nobody else has the list.
+PyObject *make_ints(PyObject *list);
+
 inline bool needs_keeping(const Element &element) {
     return element.form == Form::text || element.form == Form::data_pointer ||
            element.form == Form::code_pointer;
