@@ -13,7 +13,12 @@ functions of the SDK and of the platform, the constants, the variables in
 * native callbacks that call Python: one for each callback type, under its
   name, with cookie(), release() and bind(); and traverse(), which needs none
   of them;
-* check(), which turns a refusal of the SDK into an exception, SdkError.
+* check() and call(), which turn a refusal of the SDK into an exception,
+  SdkError;
+* ports(), which makes a port list that came out fit to go in again; gport()
+  and gport_parts() for global port numbers; mem_field_set() for table entries;
+* started(), registered(), log_to() and trace_to(), blocks that put back what they set
+  up; callback_errors(), a hook for exceptions in callbacks.
 
 The plain functions take and return what they always did: a status is a number.
 
@@ -32,69 +37,13 @@ import _OmbraSdkV2Classes as _tables
 import _OmbraSdkV2Companion as _companion
 import _OmbraSdkV2Helper as _native
 import _OmbraSdkV2Proxy as _proxy
-from _OmbraSdkV2Companion import Array, bind, cookie, release, view
+from _OmbraSdkV2Aids import (
+    L2_FLAG_BLACKHOLE, L2_FLAG_STATIC, L2_FLAG_TRUNK, gport, gport_parts, log_to,
+    mem_field_get, mem_field_set, ports, registered, started, trace_to)
+from _OmbraSdkV2Companion import (
+    Array, bind, callback_errors, cookie, release, view)
 from _OmbraSdkV2Proxy import Struct, Value, box
-
-# What the statuses mean, by the name behind BCM_E_ or SOC_E_.
-_MEANINGS = {
-    'INTERNAL': 'the SDK found itself in a state that must not be',
-    'MEMORY': 'out of memory',
-    'UNIT': 'there is no such unit',
-    'PARAM': 'a parameter is out of its range',
-    'EMPTY': 'the table is empty',
-    'FULL': 'the table is full',
-    'NOT_FOUND': 'there is no such entry',
-    'EXISTS': 'the entry exists already',
-    'TIMEOUT': 'the operation took too long',
-    'BUSY': 'the object is in use',
-    'FAIL': 'the operation failed',
-    'DISABLED': 'the feature is switched off',
-    'BADID': 'the identifier is not valid',
-    'RESOURCE': 'no resources are left',
-    'CONFIG': 'the configuration does not allow it',
-    'UNAVAIL': 'this chip cannot do that',
-    'INIT': 'the chapter or the unit has not been initialised',
-    'PORT': 'there is no such port',
-    'LIMIT': 'a limit is reached',
-}
-
-
-class SdkError(Exception):
-    """A status with which the SDK refused. `status` is the number, `name` the
-    constant, `meaning` what it says."""
-
-    def __init__(self, status):
-        self.status = status
-        self.name, self.meaning = _describe(status)
-        Exception.__init__(self, '%s (%d): %s'
-                           % (self.name, status, self.meaning))
-
-
-def _describe(status):
-    for family in ('BCM_E_', 'SOC_E_'):
-        for word, meaning in _MEANINGS.iteritems():
-            if vars(_native).get(family + word) == status:
-                return family + word, meaning
-    return 'status', 'unknown to the SDK'
-
-
-def check(result):
-    """Raises SdkError for a result that is a negative status, or begins with
-    one. Returns what is left: the number itself, or the None of a function
-    without a status; of a list or tuple the value behind the status, or the
-    values as a tuple.
-
-        group = check(bcm_field_group_create(unit, qset, priority))
-    """
-    if not isinstance(result, (list, tuple)):
-        status, rest = result, result
-    else:
-        status, rest = result[0], tuple(result[1:])
-        if len(rest) == 1:
-            rest = rest[0]
-    if status is not None and status < 0:
-        raise SdkError(status)
-    return rest
+from _OmbraSdkV2Status import SdkError, call, check
 
 
 def traverse(function, *args):

@@ -10,7 +10,11 @@ read out of a structure or an array without a copy (a nested structure, an
 array field, an element) keeps its parent alive for as long as it lives.
 """
 
+from operator import ge, gt, le, lt
+
 import _OmbraSdkV2Companion as companion
+
+_NUMBERS = (int, long)
 
 
 # The base of all: holds a pointer object in `this`, is equal when the address is
@@ -41,6 +45,12 @@ class Struct(Proxy):
             setattr(twin, name, getattr(self, name))
         return twin
 
+    def __copy__(self):
+        return self.copy()
+
+    def __deepcopy__(self, memo):
+        return self.copy()
+
     def __repr__(self):
         # Fields that are zero are left out: most of a structure is.
         if int(self.this) == 0:
@@ -61,6 +71,12 @@ class Box(Proxy):
         """A plain pointer to the number, for parameters that do not take the
         box itself. It keeps nothing alive: the box must outlive it."""
         return self._cast(self)
+
+    def __copy__(self):
+        return type(self)(self.value)
+
+    def __deepcopy__(self, memo):
+        return type(self)(self.value)
 
     def __int__(self):
         return int(self.value)
@@ -98,14 +114,40 @@ class Value(Proxy):
     def __int__(self):
         return int(self.value)
 
-    def __eq__(self, other):
+    def __copy__(self):
+        return type(self)(self.value)
+
+    def __deepcopy__(self, memo):
+        return type(self)(self.value)
+
+    def _compare(self, other, verdict):
+        """`verdict` of the two values. Another class of values, or something
+        that this one could not be made of, has none."""
+        mine = self.value
         if type(self) is not type(other):
-            return NotImplemented
-        return _same(self.value, other.value)
+            if not isinstance(other, type(mine)) and not (
+                    isinstance(mine, _NUMBERS) and isinstance(other, _NUMBERS)):
+                return NotImplemented
+            return verdict(mine, other)
+        return verdict(mine, other.value)
+
+    def __eq__(self, other):
+        return self._compare(other, _same)
 
     def __ne__(self, other):
-        equal = self.__eq__(other)
-        return equal if equal is NotImplemented else not equal
+        return self._compare(other, lambda *pair: not _same(*pair))
+
+    def __lt__(self, other):
+        return self._compare(other, lt)
+
+    def __le__(self, other):
+        return self._compare(other, le)
+
+    def __gt__(self, other):
+        return self._compare(other, gt)
+
+    def __ge__(self, other):
+        return self._compare(other, ge)
 
     __hash__ = None
 
@@ -184,7 +226,7 @@ def struct_class(name, table, rows):
         '_table': table,
     }
     members['_fields'] = companion.add_fields(members, name, table, rows)
-    made = type(name, (Struct,), members)
+    made = companion.new_class(name, Struct, members)
     rows[name + '_swigregister'](made)
     return made
 

@@ -241,6 +241,26 @@ PyObject *get_text(PyObject *object, PyObject *) {
     return PyString_FromStringAndSize(begin, static_cast<Py_ssize_t>(length));
 }
 
+// An Array of its own memory with the same elements. Pointers are copied as pointers.
+PyObject *copy_array(PyObject *object, PyObject *) {
+    const Array *self = as_array(object);
+    ombra::PyRef twin(new_zeroes(*self->element, static_cast<std::size_t>(self->length)));
+    if (twin == nullptr) return nullptr;
+    Array *made = as_array(twin.get());
+    if (self->length != 0)
+        std::memcpy(made->data, self->data,
+                    static_cast<std::size_t>(self->length) * self->element->size);
+    if (self->kept != nullptr && (made->kept = PyDict_Copy(self->kept)) == nullptr) return nullptr;
+    return twin.release();
+}
+
+PyObject *first_as_int(PyObject *object) {
+    if (as_array(object)->length != 1)
+        return PyErr_Format(PyExc_TypeError, "only an Array of one element is a number");
+    const ombra::PyRef item(array_item(object, 0));
+    return item != nullptr ? PyNumber_Int(item.get()) : nullptr;
+}
+
 PyGetSetDef attributes[] = {
     {const_cast<char *>("this"), get_this, nullptr, const_cast<char *>("the pointer object"),
      nullptr},
@@ -252,11 +272,15 @@ PyGetSetDef attributes[] = {
 };
 
 PyMethodDef methods[] = {
+    {"copy", copy_array, METH_NOARGS, "copy() -> Array: one of its own memory, pointers shared"},
+    {"__copy__", copy_array, METH_NOARGS, nullptr},
+    {"__deepcopy__", copy_array, METH_O, nullptr},
     {"bytes", get_bytes, METH_NOARGS, "bytes() -> str: the memory as it is"},
     {"text", get_text, METH_NOARGS, "text() -> str: the memory up to the first zero byte"},
     {nullptr, nullptr, 0, nullptr},
 };
 
+PyNumberMethods number = {};
 PySequenceMethods sequence = {};
 PyMappingMethods mapping = {};
 PyTypeObject type_object = {};
@@ -270,6 +294,7 @@ const char kDoc[] =
 
 PyTypeObject *array_type() {
     static PyTypeObject *const ready = []() -> PyTypeObject * {
+        number.nb_int = first_as_int;
         sequence.sq_length = array_length;
         sequence.sq_item = array_item;
         sequence.sq_ass_item = array_set_item;
@@ -281,6 +306,7 @@ PyTypeObject *array_type() {
         type_object.tp_basicsize = sizeof(Array);
         type_object.tp_dealloc = array_dealloc;
         type_object.tp_repr = array_repr;
+        type_object.tp_as_number = &number;
         type_object.tp_as_sequence = &sequence;
         type_object.tp_as_mapping = &mapping;
         type_object.tp_hash = PyObject_HashNotImplemented;

@@ -126,6 +126,27 @@ bool read_answer(const Callback &callback, PyObject *result, int &answer) {
     return true;
 }
 
+PyObject *error_hook = nullptr;  // of callback_errors(); null: sys.excepthook
+
+// Hands the exception of a callable to the hook, traceback and all. One of the hook itself is
+// written out: there is nobody left to tell.
+void report_error(PyObject *callable) {
+    PyObject *type = nullptr;
+    PyObject *value = nullptr;
+    PyObject *traceback = nullptr;
+    PyErr_Fetch(&type, &value, &traceback);
+    PyErr_NormalizeException(&type, &value, &traceback);
+    const ombra::PyRef parts[] = {ombra::PyRef(type), ombra::PyRef(value), ombra::PyRef(traceback)};
+    PyObject *const set =
+        error_hook != nullptr ? error_hook : PySys_GetObject(const_cast<char *>("excepthook"));
+    if (set == nullptr) return;
+    const ombra::PyRef hook = ombra::new_ref(set);
+    const ombra::PyRef result(
+        PyObject_CallFunctionObjArgs(hook.get(), type, value != nullptr ? value : Py_None,
+                                     traceback != nullptr ? traceback : Py_None, nullptr));
+    if (result == nullptr) PyErr_WriteUnraisable(callable);
+}
+
 int call_python(const Callback &callback, const Argument *arguments, std::size_t count) {
     const Argument *cookie = nullptr;
     const ombra::PyRef callable = find_callable(callback, arguments, count, cookie);
@@ -135,7 +156,7 @@ int call_python(const Callback &callback, const Argument *arguments, std::size_t
     const ombra::PyRef result(tuple != nullptr ? PyObject_Call(callable.get(), tuple.get(), nullptr)
                                                : nullptr);
     if (result == nullptr || !read_answer(callback, result.get(), answer))
-        PyErr_WriteUnraisable(callable.get());
+        report_error(callable.get());
     if (tuple != nullptr && !callback.keeps_arguments) empty_objects(tuple.get());
     return answer;
 }
@@ -210,6 +231,13 @@ PyObject *release_cookie(PyObject *, PyObject *cookie) {
     // The callable may run code of its own when it dies: the table is in order by then.
     auto node = cookies().extract(reinterpret_cast<std::uint64_t>(pointer));
     return PyBool_FromLong(!node.empty());
+}
+
+PyObject *callback_errors(PyObject *, PyObject *hook) {
+    if (hook != Py_None && !check_callable(hook)) return nullptr;
+    PyObject *const before = error_hook;
+    error_hook = hook != Py_None ? ombra::new_ref(hook).release() : nullptr;
+    return before != nullptr ? before : ombra::new_ref(Py_None).release();
 }
 
 PyObject *bind(PyObject *, PyObject *args) {

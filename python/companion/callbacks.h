@@ -8,9 +8,10 @@
 //   2. by its name: what bind() set for the callback. The callable gets all arguments.
 //
 // The callable runs under the interpreter lock, on whichever native thread the SDK calls from.
-// What it returns goes to the SDK: a number, or None for success. If it raises, the exception is
-// reported as unraisable, and the SDK gets a failure, which ends a traversal; so it does when
-// there is no callable. After the interpreter has ended every callback answers with a failure.
+// What it returns goes to the SDK: a number, or None for success. If it raises, the exception
+// goes to the hook of callback_errors(), by default sys.excepthook, and the SDK gets a failure,
+// which ends a traversal; so it does when there is no callable. After the interpreter has ended
+// every callback answers with a failure.
 //
 // A structure that comes as an argument is the SDK's and lives until the callable returns. The
 // object that stands for it is then emptied: a copy() is what may be kept, and neither the object
@@ -69,5 +70,6 @@ PyObject *refuse_call(PyObject *, PyObject *);
 PyObject *new_cookie(PyObject *, PyObject *callable);
 PyObject *release_cookie(PyObject *, PyObject *cookie);
 PyObject *bind(PyObject *, PyObject *args);
+PyObject *callback_errors(PyObject *, PyObject *hook);
 
 }  // namespace companion

@@ -197,6 +197,7 @@ constexpr PyMethodDef own_methods[] = {
      "far "
      "as the caller says. Keeps `owner`."},
     {"register_class", register_class, METH_VARARGS, "register_class(type, class)"},
+    {"new_class", new_class, METH_VARARGS, "new_class(name, base, members) -> class"},
     {"add_fields", add_fields, METH_VARARGS,
      "add_fields(members, class_name, table, rows) -> names of the fields added to `members`"},
     {"native_types", native_types, METH_NOARGS, "native_types(): the names that Array takes"},
@@ -206,6 +207,9 @@ constexpr PyMethodDef own_methods[] = {
     {"release", release_cookie, METH_O,
      "release(cookie) -> bool: lets go of the callable. A callback that still gets the cookie "
      "answers with a failure. False for a cookie that was released before."},
+    {"callback_errors", callback_errors, METH_O,
+     "callback_errors(hook) -> hook before: calls hook(type, value, traceback) for an exception "
+     "that leaves a callback; None, as at first, is sys.excepthook."},
     {"bind", bind, METH_VARARGS,
      "bind(callback, callable): sets the callable of a callback that has no cookie; None takes it "
      "away. Returns the one before, or None."},

@@ -65,7 +65,17 @@ class TraversalTest(CallbackTest):
                                      self.cookie(visit))
         self.assertLess(status, 0)
         self.assertEqual(len(seen), 10)
-        self.assertIn("KeyError('the tenth',)", self.errors.getvalue())
+        self.assertIn("KeyError: 'the tenth'", self.errors.getvalue())
+        self.assertIn('in visit', self.errors.getvalue())  # the traceback
+        told = []
+        self.assertIsNone(sdk.callback_errors(lambda *error:
+                                              told.append(error)))
+        sdk.bcm_l2_traverse(self.unit, sdk.bcm_l2_traverse_cb,
+                            self.cookie(lambda *_: {}[0]))
+        self.assertIs(told[0][0], KeyError)
+        self.assertIsNotNone(told[0][2])
+        sdk.callback_errors(None)
+        self.assertRaises(TypeError, sdk.callback_errors, 5)
 
     def test_traverse_makes_the_cookie_and_raises_what_was_raised(self):
         self.add_stations(20)

@@ -3,6 +3,7 @@
 import ctypes
 import sys
 import unittest
+from copy import deepcopy
 
 import leaks
 import OmbraSdkV2Helper as sdk
@@ -82,6 +83,14 @@ OPERATIONS = {
                                         lambda unit, entry:
                                         len(entry.block_bitmap)),
     'a traversal that raises': raising_visit,
+    'deep copies': lambda: deepcopy([ENTRY, MEMBERS, TEXTS, sdk.U32(1)]),
+    'a hook': lambda: (sdk.callback_errors(max), sdk.callback_errors(None)),
+    'a field of each shape': lambda: (
+        setattr(ENTRY, 'block_bitmap', [1L]), ENTRY.block_bitmap,
+        setattr(ENTRY, 'vid', 4), refused(setattr, ENTRY, 'vid', 'x'),
+        refused(delattr, ENTRY, 'vid'), sdk.bcm_l2_addr_t.vid.__doc__,
+        hash(ENTRY), len({ENTRY, ENTRY}), HOST.l3a_ip6_addr[3],
+        setattr(sdk.bcm_pkt_blk_t(), 'data', None)),
     'a binding': native_call,
     'a refused callback': lambda: (refused(sdk.bind, 'none', max),
                                    refused(sdk.bcm_topo_map_f)),

@@ -1,0 +1,196 @@
+"""Small helpers of OmbraSdkV2Helper: ports, flags, entries of tables, and
+blocks that put back what they set up."""
+
+from operator import index
+
+import _OmbraSdkV2Classes as tables
+import _OmbraSdkV2Companion as companion
+import _OmbraSdkV2Helper as native
+from _OmbraSdkV2Status import call
+
+# Bits of bcm_l2_addr_t.flags for which the SDK has no constant.
+L2_FLAG_BLACKHOLE = 0x04  # the destination is nowhere
+L2_FLAG_STATIC = 0x20     # the entry does not age
+L2_FLAG_TRUNK = 0x80      # the destination is the trunk in `tgid`
+
+# Kinds of global port numbers: the number in front, and room behind.
+_GPORTS = {
+    'local': (1 << 26, 0x7ff),
+    'lag': (3 << 26, 0x3ffffff),
+    'blackhole': (4 << 26, 0),
+    'system': (27 << 26, 0xffffff),
+}
+
+
+def ports(numbers):
+    """A list of ports as the module's functions take it, of any numbers: what
+    they give out is `long`, and what they take has to be `int`.
+
+        bcm_vlan_port_add(unit, 200, ports(members), [])
+    """
+    return [int(index(number)) for number in numbers]
+
+
+def gport(kind, number=0):
+    """A global port number: gport('local', 5), gport('lag', 2),
+    gport('system', 7), gport('blackhole')."""
+    if kind not in _GPORTS:
+        raise ValueError('%r is no kind of global port: %s'
+                         % (kind, ', '.join(sorted(_GPORTS))))
+    base, most = _GPORTS[kind]
+    if not 0 <= number <= most:
+        raise ValueError('a %s port is 0 to %d, not %d' % (kind, most, number))
+    return base | number
+
+
+def gport_parts(number):
+    """The kind and the number in a global port number, as in the rows of
+    getHwMacTable(): ('local', 5). ('unknown', number) for any other."""
+    for kind, (base, most) in _GPORTS.iteritems():
+        if base <= number <= base + most:
+            return kind, int(number - base)
+    return 'unknown', number
+
+
+# Where the bits of a field lie in an entry, by unit, table and field.
+_field_bits = {}
+
+
+def _bits_of_field(unit, mem, words, field):
+    """Bits of the entry, from the lowest of the field upward. The SDK tells
+    them by what it reads out of entries with few bits set."""
+    key = unit, mem, field, words
+    if key not in _field_bits:
+        probe = companion.Array('uint32', words)
+        found = {}
+        for word in range(words):
+            probe[word] = 0xffffffff
+            if native.soc_mem_field32_get(unit, mem, probe, field):
+                for bit in range(32):
+                    probe[word] = 1 << bit
+                    value = native.soc_mem_field32_get(unit, mem, probe, field)
+                    if value:
+                        found[value.bit_length() - 1] = word, bit
+            probe[word] = 0
+        _field_bits[key] = [found[place] for place in sorted(found)]
+    return _field_bits[key]
+
+
+def mem_field_get(unit, mem, entry, field):
+    """A field of a table entry: soc_mem_field32_get()."""
+    return native.soc_mem_field32_get(unit, mem, entry, field)
+
+
+def mem_field_set(unit, mem, entry, field, value):
+    """Sets a field of a table entry in an Array of words, as soc_mem_read()
+    fills it and soc_mem_write() takes it.
+
+        entry = Array('uint32', 8)
+        call(soc_mem_read, unit, mem, copyno, 5, entry)
+        mem_field_set(unit, mem, entry, field, 3)
+        call(soc_mem_write, unit, mem, copyno, 5, entry)
+    """
+    bits = _bits_of_field(unit, mem, len(entry), field)
+    if not bits:
+        raise ValueError('table %d has no field %d in %d words'
+                         % (mem, field, len(entry)))
+    if not 0 <= value < 1 << len(bits):
+        raise ValueError('the field has %d bits, too few for %d'
+                         % (len(bits), value))
+    for place, (word, bit) in enumerate(bits):
+        cleared = entry[word] & ~(1 << bit)
+        entry[word] = cleared | (value >> place & 1) << bit
+
+
+class started(object):
+    """Starts a unit that was added, and stops it at the end of the block.
+
+        with started(unit):
+            ...
+    """
+
+    def __init__(self, unit):
+        self.unit = unit
+
+    def __enter__(self):
+        try:
+            for step in native.soc_init, native.soc_misc_init, native.bcm_init:
+                call(step, self.unit)
+        except Exception:
+            self.__exit__()
+            raise
+        return self.unit
+
+    def __exit__(self, *_):
+        native.soc_deinit(self.unit)
+
+
+class registered(object):
+    """A Python callable in the place of a native callback, without the
+    cookie, registered for the length of the block:
+
+        with registered(bcm_l2_addr_register, bcm_l2_addr_unregister,
+                        unit, heard):
+            ...
+    """
+
+    def __init__(self, register, unregister, *args):
+        name, place, cookie_place = tables.CALLBACKS[register.__name__]
+        self.register = register
+        self.unregister = unregister
+        self.callable = args[place]
+        self.args = list(args)
+        self.args[place] = getattr(companion, name)
+        self.cookie_place = cookie_place
+
+    def __enter__(self):
+        self.cookie = companion.cookie(self.callable)
+        self.whole = list(self.args)
+        self.whole.insert(self.cookie_place, self.cookie)
+        try:
+            call(self.register, *self.whole)
+        except Exception:
+            companion.release(self.cookie)
+            raise
+
+    def __exit__(self, *_):
+        call(self.unregister, *self.whole)
+        companion.release(self.cookie)
+
+
+class log_to(object):
+    """Hands the SDK's log lines of a block to a logger of `logging`, at its
+    end, a line a record. What is logged is said by KorvelSetTraceLevel()."""
+
+    def __init__(self, logger, level=20):
+        self.logger = logger
+        self.level = level
+
+    def __enter__(self):
+        from tempfile import TemporaryFile  # slow to load, and seldom needed
+        self.log = TemporaryFile()
+        native.fileDescriptorIs(self.log.fileno())
+
+    def __exit__(self, *_):
+        native.fileDescriptorIs(-1)
+        with self.log as log:
+            log.seek(0)
+            for line in log:
+                self.logger.log(self.level, '%s', line.rstrip('\n'))
+
+
+class trace_to(object):
+    """Collects the platform's trace for the length of the block, and hands it
+    to a logger of `logging` at the end, a line a record."""
+
+    def __init__(self, logger, level=10):
+        self.logger = logger
+        self.level = level
+
+    def __enter__(self):
+        native.captureTrace(True)
+
+    def __exit__(self, *_):
+        native.captureTrace(False)
+        for line in native.getTrace().splitlines():
+            self.logger.log(self.level, '%s', line)
