@@ -1,16 +1,11 @@
 /* Tiny: one field of every kind. */
 #pragma once
-#include "native/base.h"
+#include "sdk/bcm/pair_types.h"
 #define TINY_PORTS 4
 
 OMBRA_ENUM(tiny_color_e, tiny_color_t);
 typedef int tiny_port_t;
 typedef int (*tiny_cb)(int unit, void *user_data);
-
-typedef struct tiny_pair_s {
-    int first;
-    uint16 second;
-} tiny_pair_t;
 
 typedef struct {
     int8 s8;
