@@ -97,6 +97,8 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
         {"standin_calls.txt", emit_standin_calls},
         {"standin_required.txt", emit_standin_required},
         {"_OmbraSdkV2Classes.py", emit_proxy},
+        {"_OmbraSdkV2Manual.py", emit_manual},
+        {"OmbraSdkV2Helper.pyi", emit_stub},
         {"companion_elements.cpp", emit_companion_elements},
         {"companion_callbacks.cpp", emit_companion_callbacks},
         {"model.json", emit_model}};

@@ -17,6 +17,7 @@ functions of the SDK and of the platform, the constants, the variables in
   SdkError;
 * ports(), which makes a port list that came out fit to go in again; gport()
   and gport_parts() for global port numbers; mem_field_set() for table entries;
+* describe() and find(), which know all functions, structures and constants;
 * started(), registered(), log_to() and trace_to(), blocks that put back what they set
   up; callback_errors(), a hook for exceptions in callbacks.
 
@@ -44,6 +45,21 @@ from _OmbraSdkV2Companion import (
     Array, bind, callback_errors, cookie, release, view)
 from _OmbraSdkV2Proxy import Struct, Value, box
 from _OmbraSdkV2Status import SdkError, call, check
+
+
+def describe(thing):
+    """Prints what a function, structure or constant is: declared types, what
+    to make a value of, what comes back, related calls. Takes it or its name.
+    """
+    import _OmbraSdkV2Guide
+    print _OmbraSdkV2Guide.description(thing)
+
+
+def find(words):
+    """Names in which all words stand, or in their chapter: find('vlan gport').
+    """
+    import _OmbraSdkV2Guide
+    return _OmbraSdkV2Guide.find(words)
 
 
 def traverse(function, *args):

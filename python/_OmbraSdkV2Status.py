@@ -119,6 +119,12 @@ def result_type(function):
     return (function.__doc__ or '').partition('\n')[0].partition(' -> ')[2]
 
 
+def is_status(function):
+    """Whether the number that a function returns is a status of the SDK."""
+    return (result_type(function) in ('int', 'PyObject *')
+            and function.__name__ not in _NUMBERS)
+
+
 def call(function, *args):
     """Calls a function and checks its result, which it knows by the declared
     type: a `cmd_result_t` is named by CMD_, a count or a text is no status
@@ -127,10 +133,7 @@ def call(function, *args):
         call(bcm_vlan_create, unit, 100)
     """
     result = function(*args)
-    declared = result_type(function)
     name = function.__name__
-    if declared == 'cmd_result_t':
+    if result_type(function) == 'cmd_result_t':
         return _checked(result, name, 'CMD_')
-    if name in _NUMBERS or declared not in ('int', 'PyObject *'):
-        return result
-    return _checked(result, name)
+    return _checked(result, name) if is_status(function) else result

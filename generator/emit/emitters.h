@@ -28,6 +28,8 @@ std::string emit_standin_calls(const Model &model);     // who answers each func
 std::string emit_standin_required(const Model &model);  // what its sources have to define
 std::string emit_recording(const Model &model, const std::string &header);  // the recording SDK
 std::string emit_proxy(const Model &model);                // the proxy module's tables, Python
+std::string emit_manual(const Model &model);               // what describe() and find() know
+std::string emit_stub(const Model &model);                 // .pyi, for editors
 std::string emit_companion_elements(const Model &model);   // types that the companion lays out
 std::string emit_companion_callbacks(const Model &model);  // its native callbacks
 

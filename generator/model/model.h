@@ -46,6 +46,7 @@ struct Function {
     std::string result;  // "int"
     std::vector<Variable> parameters;
     Place place;
+    std::string section;            // "Addresses in bulk", the comment above its group
     bool module_native = false;     // declared below api/: defined in the module itself
     std::string modelled;           // "standin/chapters/l2_calls.cpp" that defines it, or empty
     std::vector<Variable> visible;  // the parameters that Python passes, resolved

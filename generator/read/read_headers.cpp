@@ -113,6 +113,19 @@ class Parser {
         model_.purposes[file_] = text;
     }
 
+    // The comment of one line that stands alone above a line, at the start of its own; empty where
+    // there is none between the purpose and that line.
+    std::string section_above(int line) {
+        for (; section_line_ < line && section_at_ < source_.size(); ++section_line_) {
+            const std::size_t end = source_.find('\n', section_at_);
+            const std::string text = source_.substr(section_at_, end - section_at_);
+            const bool whole = text.rfind("/* ", 0) == 0 && text.find(" */") == text.size() - 3;
+            if (whole && section_line_ > 1) section_ = text.substr(3, text.size() - 6);
+            section_at_ = end == std::string::npos ? source_.size() : end + 1;
+        }
+        return section_;
+    }
+
     void statement() {
         if (peek().type == Token::Type::directive) {
             directive(take().text);
@@ -298,6 +311,7 @@ class Parser {
         function.row = head.name;
         function.result = head.type;
         function.place = head.place;
+        function.section = section_above(head.place.line);
         function.module_native = role_ == HeaderRole::module_native;
         for (const auto &name : namespaces_) function.native += name + "::";
         function.native += head.name;
@@ -330,6 +344,9 @@ class Parser {
     Faults &faults_;
     std::vector<Token> tokens_;
     std::size_t at_ = 0;
+    std::size_t section_at_ = 0;  // how far section_above() has read
+    int section_line_ = 1;
+    std::string section_;
     std::vector<std::string> namespaces_;
 };
 

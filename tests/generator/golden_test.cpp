@@ -71,8 +71,9 @@ TEST(WrittenOnlyWhenItDiffers, WhatAnotherConstantTouches) {
         const fs::path table = root / "catalogue/constants.txt";
         write_text(table, read_text(table) + "tinyMore\t7\n");
     });
-    EXPECT_EQ(files, (std::vector<std::string>{"constant_names.cpp", "install_table.cpp",
-                                               "model.json", "sdk/constants.h"}));
+    EXPECT_EQ(files,
+              (std::vector<std::string>{"OmbraSdkV2Helper.pyi", "constant_names.cpp",
+                                        "install_table.cpp", "model.json", "sdk/constants.h"}));
 }
 
 TEST(WrittenOnlyWhenItDiffers, WhatWasSpoiledOrRemoved) {

@@ -58,9 +58,10 @@ class InstallTest(unittest.TestCase):
         self.assertFalse([name for name in found if name.startswith('lib')])
         self.assertEqual(
             sorted(name for name in found if not name.endswith('.pyc')),
-            ['OmbraSdkV2Helper.py', '_OmbraSdkV2Aids.py',
+            ['OmbraSdkV2Helper.py', 'OmbraSdkV2Helper.pyi', '_OmbraSdkV2Aids.py',
              '_OmbraSdkV2Classes.py', '_OmbraSdkV2Companion.so',
-             '_OmbraSdkV2Helper.so', '_OmbraSdkV2Proxy.py',
+             '_OmbraSdkV2Guide.py', '_OmbraSdkV2Helper.so',
+             '_OmbraSdkV2Manual.py', '_OmbraSdkV2Proxy.py',
              '_OmbraSdkV2Status.py'])
 
 
