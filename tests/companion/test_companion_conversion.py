@@ -1,7 +1,6 @@
 """From Python objects to native pointers."""
 
 import unittest
-import weakref
 
 import _swig_companion as companion
 import _swig_neighbour as neighbour
@@ -16,46 +15,6 @@ class Proxy(object):
         self.this = this
 
 
-class OldProxy:
-
-    def __init__(self, this):
-        self.this = this
-
-
-class SlotProxy(object):
-    __slots__ = ('this', '__weakref__')
-
-    def __init__(self, this):
-        self.this = this
-
-
-class ClassThis(object):
-    this = companion.make(BASE, 8)
-
-
-class PropertyThis(object):
-    __slots__ = ()
-    kept = companion.make(BASE, 8)
-
-    @property
-    def this(self):
-        return self.kept
-
-
-class RaisingThis(object):
-    __slots__ = ()
-
-    @property
-    def this(self):
-        raise KeyError('this')
-
-
-class CallableProxy(Proxy):
-
-    def __call__(self):
-        return None
-
-
 class ConversionTest(CompanionTest):
 
     def test_none_is_a_null_pointer_of_every_type(self):
@@ -64,26 +23,6 @@ class ConversionTest(CompanionTest):
                 self.assertEqual(companion.convert(None, name, flags),
                                  found(0))
             self.assertEqual(companion.convert_function(None, name), found(0))
-
-    def test_ways_to_this(self):
-        pointer = companion.make(BASE, 8)
-        proxy = Proxy(pointer)
-        slot_proxy = SlotProxy(pointer)
-        callable_proxy = CallableProxy(pointer)
-        for value in (pointer, proxy, OldProxy(pointer), slot_proxy,
-                      weakref.proxy(proxy), weakref.proxy(slot_proxy),
-                      weakref.proxy(callable_proxy), Proxy(proxy),
-                      OldProxy(slot_proxy), SlotProxy(OldProxy(proxy)),
-                      Proxy(weakref.proxy(proxy))):
-            self.assertIs(companion.this_of(value), pointer)
-            self.assertEqual(companion.convert(value, BASE), found(8))
-
-    def test_instance_dictionary_decides(self):
-        self.assertEqual(companion.convert(ClassThis(), BASE), FAILED)
-        self.assertEqual(companion.convert(ClassThis, BASE), found(8))
-        self.assertEqual(companion.convert(PropertyThis(), BASE), found(8))
-        self.assertEqual(companion.convert(RaisingThis(), BASE), FAILED)
-        self.assertEqual(companion.convert(Proxy.__new__(Proxy), BASE), FAILED)
 
     def test_types_and_casts(self):
         for source, wanted, expected in (

@@ -228,7 +228,14 @@ class ByValue(Reference):
         return None
 
 
-class MacString(Kind):
+class Bytes(Kind):
+    def arrived(self, index, argument, valid):
+        if RECORDER.bytes_of(index) != valid.arrives:
+            return '%r arrived' % RECORDER.bytes_of(index)
+        return None
+
+
+class MacString(Bytes):
     def valid(self, argument, place):
         forms = [('%02x:bb:CC:0d:1e:ff' % (place + 0xa0),
                   chr(place + 0xa0) + '\xbb\xcc\x0d\x1e\xff'),
@@ -244,11 +251,6 @@ class MacString(Kind):
                  for value in ('', '112233445566', '11-22-33-44-55-66',
                                '11:22:33:44:55', '11:22:33:44:55:gg')])
 
-    def arrived(self, index, argument, valid):
-        if RECORDER.bytes_of(index) != valid.arrives:
-            return '%r arrived' % RECORDER.bytes_of(index)
-        return None
-
 
 def bitmap(ports):
     words = [0] * 18
@@ -257,7 +259,7 @@ def bitmap(ports):
     return struct.pack('<18I', *words)
 
 
-class PortBitmap(Kind):
+class PortBitmap(Bytes):
     def valid(self, argument, place):
         lists = [[place, 31, 32, 500 + place], [], [570, 571, 575], [3, 1, 1],
                  [True], range(576)]
@@ -270,11 +272,6 @@ class PortBitmap(Kind):
                  for value in ([1L], [1, '2'], [None], [1.0])] +
                 [Refused(value, ValueError, 'Port number out of range')
                  for value in ([-1], [1, 576], [2 ** 62])])
-
-    def arrived(self, index, argument, valid):
-        if RECORDER.bytes_of(index) != valid.arrives:
-            return '%r arrived' % RECORDER.bytes_of(index)
-        return None
 
 
 class AnyObject(Kind):

@@ -8,9 +8,11 @@ usage: run.py [-v] [MODULE[.CLASS[.TEST]]...]
 
 import glob
 import os
+import re
 import sys
 import unittest
 
+import leaks
 import support
 from totals import TOTALS
 
@@ -62,7 +64,8 @@ def references_hold(names):
     for i in range(len(totals)):
         if not run_once(names, 0):
             return False
-        support.settle()
+        re.purge()
+        leaks.settle()
         totals[i] = sys.gettotalrefcount()
     print 'references after two runs: %d, %d' % tuple(totals)
     return totals[0] == totals[1]

@@ -6,10 +6,8 @@ module's own file) and OMBRA_ROOT (the project).
 """
 
 import ctypes
-import gc
 import json
 import os
-import re
 import sys
 import unittest
 
@@ -116,8 +114,6 @@ class Recording(ctypes.Structure):
 class Recorder(object):
     """The recording SDK; see tests/recording/recording.h."""
 
-    NONE, STANDARD, RANGE, OTHER = range(4)
-
     def __init__(self):
         # Loaded already, by the module: this is a second name for it.
         self.library = ctypes.CDLL('libOmbraSdkV2Helper.so.0')
@@ -211,14 +207,6 @@ def disown(value):
     return value
 
 
-def settle():
-    """Leaves no garbage and no caches behind, for counts of references."""
-    sys.exc_clear()
-    gc.collect()
-    sys._clear_type_cache()
-    re.purge()
-
-
 class ConformanceTest(unittest.TestCase):
     """Ends with the first differences of each test listed, not one alone: a
     test goes over a whole table."""
@@ -251,6 +239,14 @@ class ConformanceTest(unittest.TestCase):
             self.fault('%s: got %r, expected %r' % (where, got, expected))
             return False
         return True
+
+    def is_pointer(self, result, slot, own, where, address=None):
+        """A bare pointer object of a type, whether it owns, and its address
+        unless any will do."""
+        self.same((repr(result).split("'")[1], result.own()),
+                  (display_name(slot), own), where)
+        if address is not None:
+            self.same(address_of(result), address, where)
 
     def refuses(self, row, arguments, exception, text):
         """The call raises exactly this, and calls nothing."""

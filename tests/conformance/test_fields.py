@@ -84,59 +84,37 @@ class FieldTest(ConformanceTest):
         TALLY.places.update([(self.setter.name, 0), (self.setter.name, 1),
                              (self.getter.name, 0)])
 
-    def reads_pointer(self, instance, address, slot, own=False):
-        result = self.getter.call(instance.object)
-        self.same(address_of(result), address, self.getter.name)
-        self.same(result.own(), own, self.getter.name)
-        self.same(repr(result).split("'")[1], display_name(slot),
-                  self.getter.name)
-        return result
 
+class PlainFieldTest(FieldTest):
+    """Numbers, port lists and MAC addresses."""
 
-class NumberFieldTest(FieldTest):
+    empty = {'strict-bool': False, 'port-bitmap': [],
+             'mac-string': '00:00:00:00:00:00'}
+
+    def forms(self, valid):
+        """The bytes that are stored, and what the getter makes of them."""
+        if self.value.kind == 'port-bitmap':
+            return valid.arrives, [long(port) for port in range(571)
+                                   if port in valid.value]
+        if self.value.kind == 'mac-string':
+            return valid.arrives, ':'.join('%02x' % ord(c)
+                                           for c in valid.arrives)
+        form = '<' + FORMATS[self.value.kind]
+        native = struct.pack('<Q', valid.arrives)[:struct.calcsize(form)]
+        number, = struct.unpack(form, native)
+        small = form != '<?' and number < 2 ** 63
+        return native, int(number) if small else number
+
     def test_round_trips_and_refusals(self):
-        for instance in self.fields(*FORMATS):
-            kind, form = kind_of(self.value), '<' + FORMATS[self.value.kind]
+        for instance in self.fields('port-bitmap', 'mac-string', *FORMATS):
+            kind = kind_of(self.value)
+            if self.value.kind == 'mac-string':
+                self.bytes = 6
             self.same(self.getter.call(instance.object),
-                      False if form == '<?' else 0, self.getter.name)
+                      self.empty.get(self.value.kind, 0), self.getter.name)
             for valid in kind.valid(self.value, 1):
-                number = valid.arrives
-                native = struct.pack('<Q', number)[:struct.calcsize(form)]
+                native, expected = self.forms(valid)
                 self.sets(instance, valid.value, native)
-                expected = struct.unpack(form, native)[0]
-                if form != '<?' and expected < 2 ** 63:
-                    expected = int(expected)
-                self.same(self.getter.call(instance.object), expected,
-                          self.getter.name)
-            self.refuses_values(instance, kind.refused(self.setter, 1))
-        self.finish()
-
-
-class PortListFieldTest(FieldTest):
-    def test_round_trips_and_refusals(self):
-        kind = KINDS['port-bitmap']
-        for instance in self.fields('port-bitmap'):
-            self.same(self.getter.call(instance.object), [], self.getter.name)
-            for valid in kind.valid(self.value, 1):
-                self.sets(instance, valid.value, valid.arrives)
-                expected = [long(port) for port in range(571)
-                            if port in valid.value]
-                self.same(self.getter.call(instance.object), expected,
-                          self.getter.name)
-            self.refuses_values(instance, kind.refused(self.setter, 1))
-        self.finish()
-
-
-class MacFieldTest(FieldTest):
-    def test_round_trips_and_refusals(self):
-        kind = KINDS['mac-string']
-        for instance in self.fields('mac-string'):
-            self.bytes = 6
-            self.same(self.getter.call(instance.object), '00:00:00:00:00:00',
-                      self.getter.name)
-            for valid in kind.valid(self.value, 1):
-                self.sets(instance, valid.value, valid.arrives)
-                expected = ':'.join('%02x' % ord(c) for c in valid.arrives)
                 self.same(self.getter.call(instance.object), expected,
                           self.getter.name)
             self.refuses_values(instance, kind.refused(self.setter, 1))
@@ -203,8 +181,9 @@ class ArrayFieldTest(FieldTest):
     def test_copies_and_refusals(self):
         for instance in self.fields('fixed-array'):
             slot = self.value.slot
-            alias = self.reads_pointer(instance,
-                                       instance.address + self.offset, slot)
+            alias = self.getter.call(instance.object)
+            self.is_pointer(alias, slot, False, self.getter.name,
+                            instance.address + self.offset)
             block = pattern(self.bytes, 9)
             source = pointer(slot, storage(block))
             self.sets(instance, source, block)
@@ -229,8 +208,9 @@ class NestedFieldTest(FieldTest):
     def test_aliases_whole_copies_and_refusals(self):
         kind = KINDS['nested-struct']
         for instance in self.fields('nested-struct'):
-            self.reads_pointer(instance, instance.address + self.offset,
-                               self.value.slot)
+            self.is_pointer(self.getter.call(instance.object),
+                            self.value.slot, False, self.getter.name,
+                            instance.address + self.offset)
             for valid in kind.valid(self.value, 1):
                 self.sets(instance, valid.value, valid.arrives)
             self.refuses_values(instance, kind.refused(self.setter, 1))
@@ -246,8 +226,9 @@ class PointerFieldTest(FieldTest):
                 self.sets(instance, valid.value,
                           struct.pack('<Q', valid.arrives))
                 if valid.arrives:
-                    self.reads_pointer(instance, valid.arrives,
-                                       self.getter.result.result_slot)
+                    self.is_pointer(self.getter.call(instance.object),
+                                    self.getter.result.result_slot, False,
+                                    self.getter.name, valid.arrives)
                 else:
                     self.same(self.getter.call(instance.object), None,
                               self.getter.name)
@@ -274,9 +255,8 @@ class ValueFieldTest(FieldTest):
                 self.sets(instance, valid.value, valid.arrives)
                 copies = [self.getter.call(instance.object) for _ in '12']
                 for copy in copies:
-                    self.same(copy.own(), True, self.getter.name)
-                    self.same(repr(copy).split("'")[1],
-                              display_name(self.value.slot), self.getter.name)
+                    self.is_pointer(copy, self.value.slot, True,
+                                    self.getter.name)
                     self.same(ctypes.string_at(long(copy), self.bytes),
                               valid.arrives, self.getter.name)
                 addresses = [long(copies[0]), long(copies[1]),
@@ -337,9 +317,7 @@ class StructureTest(ConformanceTest):
         for record in CLASSES:
             instance = Instance(record)
             self.same(instance.memory(), '\0' * record.size, record.name)
-            self.same(instance.object.own(), True, record.name)
-            self.same(repr(instance.object).split("'")[1],
-                      display_name(record.slot), record.name)
+            self.is_pointer(instance.object, record.slot, True, record.name)
             self.same(instance.delete(), None, record.name)
             self.same(instance.object.own(), False, record.name)
         self.finish()
@@ -352,23 +330,3 @@ class StructureTest(ConformanceTest):
                 self.refuses(row, [wrong], TypeError, in_method(row, 0))
             TALLY.places.add((row.name, 0))
         self.finish()
-
-    def test_a_union_lies_on_top_of_itself(self):
-        union = module.new_any_t()
-        module.any_t_u8_set(union, 255)
-        self.assertEqual(module.any_t_u64_get(union), 255)
-        module.any_t_vaddr_set(union, 2 ** 32)
-        self.assertEqual(module.any_t_vaddr_get(union), 0)
-        module.delete_any_t(union)
-
-    def test_an_alias_shows_what_is_written_through_it(self):
-        host, address = module.new_bcm_l3_host_t(), module.new_bcm_vlan_ip_t()
-        alias = module.bcm_vlan_ip_t_ip6_get(address)
-        block = pattern(16, 2)
-        ctypes.memmove(long(module.bcm_l3_host_t_l3a_ip6_addr_get(host)),
-                       block, 16)
-        module.bcm_vlan_ip_t_ip6_set(
-            address, module.bcm_l3_host_t_l3a_ip6_addr_get(host))
-        module.delete_bcm_l3_host_t(host)
-        self.assertEqual(ctypes.string_at(long(alias), 16), block)
-        module.delete_bcm_vlan_ip_t(address)

@@ -28,11 +28,9 @@ class HelperTest(ConformanceTest):
     def reads(self, row, result, argument, valid):
         """The result of a row that returns an element."""
         if argument.kind not in FORMATS:
-            self.same(result.own(), True, row.name)
+            self.is_pointer(result, argument.slot, True, row.name)
             self.same(ctypes.string_at(long(result), argument.size),
                       valid.arrives, row.name)
-            self.same(repr(result).split("'")[1], display_name(argument.slot),
-                      row.name)
             disown(result)
             return
         expected = valid.arrives
@@ -55,9 +53,7 @@ class BoxTest(HelperTest):
     def test_new_boxes_are_owned_by_bare_objects(self):
         for name, _, _ in BOXES:
             box = BY_NAME['new_' + name].call()
-            self.same(box.own(), True, name)
-            self.same(repr(box).split("'")[1], display_name('_p_' + name),
-                      name)
+            self.is_pointer(box, '_p_' + name, True, name)
             self.same(BY_NAME['delete_' + name].call(box), None, name)
             self.same(box.own(), False, name)
             self.same(BY_NAME['delete_' + name].call(None), None, name)
@@ -84,14 +80,10 @@ class BoxTest(HelperTest):
         for name, slot, passes in BOXES:
             box = BY_NAME['new_' + name].call()
             cast = BY_NAME[name + '_cast'].call(box)
-            self.same(long(cast), long(box), name)
-            self.same((cast.own(), box.own()), (False, True), name)
-            self.same(repr(cast).split("'")[1], display_name(slot), name)
+            self.is_pointer(cast, slot, False, name, int(long(box)))
             view = BY_NAME[name + '_frompointer'].call(cast)
-            self.same(long(view), long(box), name)
-            self.same(view.own(), False, name)
-            self.same(repr(view).split("'")[1], display_name('_p_' + name),
-                      name)
+            self.is_pointer(view, '_p_' + name, False, name, int(long(box)))
+            self.same(box.own(), True, name)
             status, _ = companion.convert(box, slot)
             self.same(status == 0, passes, name)
             BY_NAME['delete_' + name].call(box)
@@ -128,8 +120,7 @@ class ArrayTest(HelperTest):
             array = new.call(4)
             element = setitem.arguments[2]
             size = element.size
-            self.same(array.own(), False, new.name)
-            self.same(repr(array).split("'")[1], display_name(slot), new.name)
+            self.is_pointer(array, slot, False, new.name)
             self.same(ctypes.string_at(long(array), 4 * size), '\0' * 4 * size,
                       new.name)
             for index in range(4):
@@ -154,10 +145,9 @@ class ArrayTest(HelperTest):
             element = setitem.arguments[2]
             valid = kind_of(element).valid(element, 0)[0]
             for index in (-1, 3, 2 ** 31 - 1, -2 ** 31):
-                with self.assertRaises(IndexError):
-                    getitem.call(array, index)
-                with self.assertRaises(IndexError):
-                    setitem.call(array, index, valid.value)
+                for row, behind in ((getitem, []), (setitem, [valid.value])):
+                    self.refuses(row, [array, index] + behind, IndexError,
+                                 'the index is outside the array')
             self.same(ctypes.string_at(long(array), 3 * element.size),
                       '\0' * 3 * element.size, setitem.name)
             delete.call(array)
@@ -185,8 +175,8 @@ class ArrayTest(HelperTest):
             empty = new.call(0)
             self.same(long(empty) != 0, True, new.name)
             delete.call(empty)
-            with self.assertRaises(ValueError):
-                new.call(-1)
+            self.refuses(new, [-1], ValueError,
+                         'the element count is negative')
         self.finish()
 
     def test_only_live_arrays_are_deleted(self):
@@ -195,11 +185,11 @@ class ArrayTest(HelperTest):
             array = new.call(2)
             delete.call(array)
             for dead in (array, pointer(slot, 0x1230)):
-                with self.assertRaises(ValueError):
-                    delete.call(dead)
+                self.refuses(delete, [dead], ValueError,
+                             'the pointer is no live array')
         array = module.new_trunkMember(1)
-        with self.assertRaises(ValueError):
-            module.delete_bcm_trunk_member_t(array)
+        self.refuses(BY_NAME['delete_bcm_trunk_member_t'], [array],
+                     ValueError, 'a live array is deleted by its own row')
         module.delete_trunkMember(array)
         self.finish()
 

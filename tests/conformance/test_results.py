@@ -5,7 +5,7 @@ import ctypes
 import struct
 
 from kinds import bitmap, valid_objects, values
-from support import (PLAIN, RECORDER, ConformanceTest, address_of, disown,
+from support import (PLAIN, RECORDER, ConformanceTest, disown,
                      display_name, module, pattern)
 from totals import TOTALS
 
@@ -68,10 +68,8 @@ class ResultTest(ConformanceTest):
             self.same(row.call(*arguments), None, row.name)
             RECORDER.set_result(0xffff800000001230)
             result = row.call(*arguments)
-            self.same(address_of(result), 0xffff800000001230, row.name)
-            self.same(result.own(), False, row.name)
-            self.same(repr(result).split("'")[1],
-                      display_name(row.result.result_slot), row.name)
+            self.is_pointer(result, row.result.result_slot, False, row.name,
+                            0xffff800000001230)
         self.finish()
 
     def test_owned_copies(self):
@@ -84,9 +82,8 @@ class ResultTest(ConformanceTest):
             results = [row.call(*arguments), row.call(*arguments)]
             self.same(long(results[0]) == long(results[1]), False, row.name)
             for result in results:
-                self.same(result.own(), True, row.name)
-                self.same(repr(result).split("'")[1],
-                          display_name(row.result.result_slot), row.name)
+                self.is_pointer(result, row.result.result_slot, True,
+                                row.name)
                 self.same(ctypes.string_at(long(result), row.result.size),
                           block, row.name)
             disown(results)
@@ -111,31 +108,6 @@ class ResultTest(ConformanceTest):
         for row in PLAIN:
             if row.result_type and row.result.kind not in tried:
                 self.fault('%s: %s' % (row.name, row.result.kind))
-        self.finish()
-
-
-class NativeExceptionTest(ConformanceTest):
-    """A native function that throws: the exception comes out as Python's, and
-    the row works again."""
-
-    forms = [(RECORDER.STANDARD, RuntimeError, 'recorded'),
-             (RECORDER.RANGE, ValueError,
-              'ExternalPhyId::value < 0 or > 0x03ff not allowed'),
-             (RECORDER.OTHER, RuntimeError, 'native exception')]
-
-    def test_every_row(self):
-        for row in PLAIN:
-            valids = valid_objects(row)
-            for form, exception, text in self.forms:
-                RECORDER.throw(form)
-                try:
-                    result = disown(row.call(*values(valids)))
-                    self.fault('%s: returned %r' % (row.name, result))
-                except (RuntimeError, ValueError) as caught:
-                    self.same((type(caught), str(caught)), (exception, text),
-                              row.name)
-            RECORDER.throw(RECORDER.NONE)
-            disown(row.call(*values(valids)))
         self.finish()
 
 

@@ -41,7 +41,10 @@ def address(thing):
 
 
 def free(thing):
-    """Frees a result that travelled by value."""
+    """Frees a result that travelled by value, once its proxy is the only one
+    that holds the pointer object."""
+    if hasattr(thing, '__dict__'):
+        assert sys.getrefcount(thing.__dict__['this']) == 2
     if bare(thing).own():
         _echo.free_value(thing)
 

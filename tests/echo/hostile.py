@@ -119,6 +119,18 @@ class Slots(object):
         return self.answer()
 
 
+class ClassThis(object):
+    """A pointer in the class: only the class itself has it."""
+    this = PAIR
+
+
+class Callable(NewStyle):
+    """Its weak proxy is of another type than that of others."""
+
+    def __call__(self):
+        CALLS.append('__call__')
+
+
 class Claims(object):
     """Says that it is an int, a bool and a list."""
     __slots__ = ()
@@ -373,7 +385,11 @@ def pointers():
                 points=TO_PAIR),
         Hostile('weak proxy of slots', lambda: Kept.proxy(Slots(pair)),
                 points=TO_PAIR),
+        Hostile('weak proxy of what can be called',
+                lambda: Kept.proxy(Callable(PAIR)), points=TO_PAIR),
         Hostile('weak proxy that is dead', dead_proxy),
+        Hostile('class with a pointer', lambda: ClassThis, points=TO_PAIR),
+        Hostile('instance of a class with a pointer', ClassThis),
         Hostile('weak proxy of a number that lies',
                 lambda: Kept.proxy(NewStyle(5))),
         Hostile('class', lambda: NewStyle),

@@ -6,7 +6,7 @@ test_helpers.py and test_variables.py."""
 import unittest
 
 import _echo
-from echo_support import Block, EchoTest, address, outcome
+from echo_support import Block, EchoTest, address
 from hostile import PAIR, PAIR_BYTES, PAIR_TYPE
 
 SOURCE = Block(PAIR_BYTES + 'second..' + 'third...')
@@ -16,19 +16,6 @@ class FieldTest(EchoTest):
     def setUp(self):
         EchoTest.setUp(self)
         self.record = _echo.new_echo_all_t()
-
-    def test_who_frees_an_old_text(self):
-        """A `char *` field frees it, a `char const *` field does not."""
-        for setter, kept in ((_echo.echo_all_t_name_set, 0),
-                             (_echo.echo_all_t_label_set, 2)):
-            setter(self.record, 'first')
-            before = _echo.live_blocks()
-            setter(self.record, 'second')
-            setter(self.record, 'third')
-            self.assertEqual(_echo.live_blocks() - before, kept)
-            setter(self.record, None)
-            self.assertEqual(_echo.live_blocks() - before,
-                             kept - (1 if kept == 0 else 0))
 
     def test_overlapping_elements(self):
         """In index order: an array assigned from its own inside repeats."""
@@ -64,40 +51,6 @@ class FieldTest(EchoTest):
         self.assertEqual(_echo.live_blocks(), before)
         # CRASHES: delete_echo_pair_t of an alias, or twice of one object: the
         # address is no block of its own. What it belongs to cannot be known.
-
-    def test_texts_of_arrays(self):
-        array = _echo.new_entrydata(3)
-        box = _echo.uintp_frompointer(array)
-        for call, arguments, error, text in (
-                (_echo.entrydata_getitem, (array, 3), IndexError,
-                 'the index is outside the array'),
-                (_echo.entrydata_setitem, (array, -1, 1), IndexError,
-                 'the index is outside the array'),
-                (_echo.new_entrydata, (-1,), ValueError,
-                 'the element count is negative'),
-                (_echo.delete_uintp, (box,), ValueError,
-                 'a live array is deleted by its own row'),
-                (_echo.delete_entrydata, (PAIR,), TypeError,
-                 "in method 'delete_entrydata', argument 1 of type "
-                 "'unsigned int *'")):
-            self.assertEqual(outcome(call, *arguments), (error, text))
-        _echo.delete_entrydata(array)
-        self.assertEqual(outcome(_echo.delete_entrydata, array),
-                         (ValueError, 'the pointer is no live array'))
-        # CRASHES: an index behind a pointer that is no live array, as a
-        # field's alias: such a pointer has no length.
-
-    def test_texts_of_variables_are_copies(self):
-        _echo.cvar.echo_title = None
-        before = _echo.live_blocks()
-        _echo.cvar.echo_title = 'first'
-        block = Block('behind a pointer\0')
-        _echo.cvar.echo_title = block.pointer('_p_char')
-        self.assertEqual(_echo.cvar.echo_title, 'behind a pointer')
-        _echo.cvar.echo_title = None
-        self.assertIs(_echo.cvar.echo_title, None)
-        del block
-        self.assertEqual(_echo.live_blocks(), before)
 
 
 if __name__ == '__main__':

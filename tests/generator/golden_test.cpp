@@ -23,19 +23,6 @@ TEST(Golden, SmallCatalogue) {
     }
 }
 
-// A golden file that differs, or is not there, is told with what to do.
-TEST(Golden, DifferenceSaysWhatToDo) {
-    const Scratch scratch;
-    write_text(scratch.path() / "golden", "one\ntwo\n");
-    write_text(scratch.path() / "output", "one\n2\n");
-    for (const char *golden : {"golden", "missing"}) {
-        const std::string told = difference(scratch.path() / golden, scratch.path() / "output");
-        EXPECT_NE(told.find("\n+2\n"), std::string::npos) << told;
-        EXPECT_NE(told.find("accept-golden"), std::string::npos) << told;
-    }
-    EXPECT_EQ(difference(scratch.path() / "golden", scratch.path() / "golden"), "");
-}
-
 // The outputs that a second run wrote again, after `change` to the declarations.
 template <typename Change>
 std::vector<std::string> rewritten(Change change) {

@@ -10,8 +10,6 @@
 #include <utility>
 #include <vector>
 
-#include "toolkit/exception.h"
-
 namespace recorder {
 namespace {
 
@@ -29,7 +27,7 @@ struct Answers {
     std::string block;
     std::array<std::string, RECORDING_ARGUMENTS> fills;
     Callback callback;
-    recording_exception exception = RECORDING_NONE;
+    bool throws = false;
 };
 
 // Never destroyed: modules can call until the process is gone.
@@ -104,19 +102,6 @@ void call_back(std::initializer_list<Given> arguments) {
     }
 }
 
-void throw_exception() {
-    switch (answers().exception) {
-        case RECORDING_NONE:
-            return;
-        case RECORDING_STANDARD:
-            throw std::runtime_error("recorded");
-        case RECORDING_RANGE:
-            Lumo::throwRangeException("ExternalPhyId::value < 0 or > 0x03ff not allowed");
-        case RECORDING_OTHER:
-            throw 42;
-    }
-}
-
 // An accessor that answers nothing.
 class SilentAccess : public MdioHamImpl::HamImpl {
   public:
@@ -158,7 +143,7 @@ std::uint64_t record(const char *name, std::size_t size, std::initializer_list<G
     note(name, arguments);
     fill(arguments);
     call_back(arguments);
-    throw_exception();
+    if (answers().throws) throw std::runtime_error("recorded");
     const auto &own = answers().bits_of;
     const auto found = own.empty() ? own.end() : own.find(name);
     const std::uint64_t bits = found == own.end() ? answers().bits : found->second;
@@ -229,7 +214,7 @@ void recording_call_back(unsigned index, const void *entries, std::size_t stride
     answers().callback = {index, static_cast<const unsigned char *>(entries), stride, count};
 }
 
-void recording_throw(recording_exception what) { answers().exception = what; }
+void recording_throw(void) { answers().throws = true; }
 
 std::uint64_t recording_object_references() {
     return recorder::held() ? recorder::held()->references() : 0;

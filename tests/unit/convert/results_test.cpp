@@ -2,9 +2,11 @@
 
 #include "convert/results.h"
 
+#include <pthread.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include "convert/frame_body.h"
 #include "runtime/pointer_object.h"
 #include "tests/unit/runtime/tiny_module.h"
 
@@ -66,6 +68,24 @@ TEST_F(ResultsTest, AnAllocationOfNoKnownType) {
     EXPECT_EQ(object->type, nullptr);
     object->own = 0;
     ::operator delete(memory);
+}
+
+int end_thread() { pthread_exit(nullptr); }
+
+// A native function may end its thread: the frame lets it unwind, and does not return.
+TEST_F(ResultsTest, AThreadThatEndsGoesOnUnwinding) {
+    static constexpr ombra::CallRow row{"row", "", {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
+    static const PyRef none(PyTuple_New(0));
+    static bool returned = false;
+    pthread_t thread{};
+    const auto run = [](void *) -> void * {
+        ombra::Call<ombra::Signed32()>::run(row, end_thread, none.get());
+        returned = true;
+        return nullptr;
+    };
+    ASSERT_EQ(pthread_create(&thread, nullptr, run, nullptr), 0);
+    ASSERT_EQ(pthread_join(thread, nullptr), 0);
+    EXPECT_FALSE(returned);
 }
 
 }  // namespace

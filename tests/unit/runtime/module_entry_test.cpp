@@ -30,22 +30,15 @@ std::string refused(const char *statement, PyObject *exception_class) {
 }
 
 TEST_F(ModuleEntryTest, VariableLink) {
-    EXPECT_EQ(evaluate("(cvar, str(cvar))"), "(<Swig global variables>, '(limit, silent, level)')");
+    EXPECT_EQ(evaluate("str(cvar)"), "'(limit, silent, level)'");
     EXPECT_EQ(refused("cvar.level = 5", PyExc_Exception), "");
     EXPECT_EQ(evaluate("(cvar.level, cvar.limit)"), "(5, 5)");
     EXPECT_EQ(refused("cvar.level = 'x'", PyExc_TypeError), "an integer is required");
-    const char *unknown = "Unknown C global variable 'other'";
-    EXPECT_EQ(refused("cvar.other", PyExc_AttributeError), unknown);
-    EXPECT_EQ(refused("cvar.other = 1", PyExc_AttributeError), unknown);
-    EXPECT_EQ(refused("del cvar.other", PyExc_AttributeError), unknown);
     EXPECT_EQ(refused("del cvar.level", PyExc_TypeError), "can't delete variable 'level' of cvar");
-    const char *read_only = "Variable limit is read-only.";
-    EXPECT_EQ(refused("cvar.limit = 1", PyExc_AttributeError), read_only);
-    EXPECT_EQ(refused("del cvar.limit", PyExc_AttributeError), read_only);
+    EXPECT_EQ(refused("del cvar.other", PyExc_AttributeError), "Unknown C global variable 'other'");
     const char *silent = "Unknown C global variable 'silent'";
     EXPECT_EQ(refused("cvar.silent", PyExc_AttributeError), silent);
     EXPECT_EQ(refused("cvar.silent = 1", PyExc_AttributeError), silent);
-    EXPECT_EQ(evaluate("cvar.level"), "5");
 }
 
 // Runs the entry in a second interpreter, in a process of its own: the variables go into the one
