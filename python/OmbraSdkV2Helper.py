@@ -106,22 +106,30 @@ _BUILT_IN = type(len)
 def _fill(namespace):
     """Puts the names of the module, the callbacks and the classes here."""
     own = dict(namespace)
-    namespace.update(vars(_native))
+    rows = vars(_native)
+    public = _companion.take_names(namespace, rows)
+    made = {}
     for name, function in vars(_companion).iteritems():
         if isinstance(function, _BUILT_IN) and 'swig_ptr: ' in (
                 function.__doc__ or ''):
-            namespace[name] = function
-    rows = vars(_native)
+            made[name] = function
     for name, table in _tables.CLASSES:
-        namespace[name] = _proxy.struct_class(name, table, rows)
+        made[name] = _proxy.struct_class(name, table, rows)
     for name, element in _tables.BOXES:
-        namespace[name] = _proxy.box_class(name, namespace.get(element), rows)
+        made[name] = _proxy.box_class(name, made.get(element), rows)
     for name, type_name, others in _tables.VALUES:
-        made = _proxy.value_class(name, type_name)
-        namespace.update((one, made) for one in (name,) + others)
+        value = _proxy.value_class(name, type_name)
+        made.update((one, value) for one in (name,) + others)
     for name, type_name in _tables.HOLDERS:
-        namespace[name] = _proxy.holder_class(name, type_name)
-    namespace.update(own)
+        made[name] = _proxy.holder_class(name, type_name)
+    made.update(own)
+    for name, value in made.iteritems():  # one by one, as take_names() does
+        namespace[name] = value
+    # What `import *` brings and completion shows: all but the rows behind the
+    # classes, which stay attributes.
+    public.extend(name for name in made if name not in rows
+                  and name[0] != '_')
+    namespace['__all__'] = public
 
 
 _fill(globals())

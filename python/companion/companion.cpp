@@ -173,6 +173,42 @@ PyObject *register_class(PyObject *, PyObject *args) {
     return unpacked != nullptr ? SWIG_Python_RegisterClass(type, unpacked.get()) : nullptr;
 }
 
+// Whether a name of the main module stands behind a class: people use the class.
+bool is_behind_class(PyObject *name, PyObject *value) {
+    if (!PyCFunction_Check(value)) return false;
+    const char *const doc = reinterpret_cast<PyCFunctionObject *>(value)->m_ml->ml_doc;
+    if (doc == nullptr) return true;  // registrations
+    const char *const text = PyString_AS_STRING(name);
+    if (std::strncmp(text, "new_", 4) == 0) return std::strstr(doc, "()") != nullptr;
+    const Py_ssize_t length = PyString_GET_SIZE(name);
+    const char *const end = text + (length > 4 ? length - 4 : 0);
+    return (std::strcmp(end, "_get") == 0 || std::strcmp(end, "_set") == 0 ||
+            std::strncmp(text, "delete_", 7) == 0) &&
+           std::strncmp(doc + length, "(self", 5) == 0;
+}
+
+// take_names(namespace, source): enters all of a dictionary into another. One by one, since the
+// dictionary's own update() would make room for twice as many. Returns the names that people look
+// for.
+PyObject *take_names(PyObject *, PyObject *args) {
+    PyObject *target = nullptr;
+    PyObject *source = nullptr;
+    if (!PyArg_ParseTuple(args, "O!O!:take_names", &PyDict_Type, &target, &PyDict_Type, &source))
+        return nullptr;
+    ombra::PyRef names(PyList_New(0));
+    PyObject *name = nullptr;
+    PyObject *value = nullptr;
+    for (Py_ssize_t at = 0; names != nullptr && PyDict_Next(source, &at, &name, &value);) {
+        if (!PyString_Check(name)) continue;
+        if (PyDict_SetItem(target, name, value) != 0) return nullptr;
+        if (PyString_AS_STRING(name)[0] != '_' && !is_behind_class(name, value) &&
+            PyList_Append(names.get(), name) != 0) {
+            return nullptr;
+        }
+    }
+    return names.release();
+}
+
 // native_types(): the names that Array takes.
 PyObject *native_types(PyObject *, PyObject *) {
     ombra::PyRef list(PyList_New(static_cast<Py_ssize_t>(element_count)));
@@ -197,6 +233,7 @@ constexpr PyMethodDef own_methods[] = {
      "far "
      "as the caller says. Keeps `owner`."},
     {"register_class", register_class, METH_VARARGS, "register_class(type, class)"},
+    {"take_names", take_names, METH_VARARGS, "take_names(namespace, source) -> public names"},
     {"new_class", new_class, METH_VARARGS, "new_class(name, base, members) -> class"},
     {"add_fields", add_fields, METH_VARARGS,
      "add_fields(members, class_name, table, rows) -> names of the fields added to `members`"},

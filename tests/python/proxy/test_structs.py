@@ -182,6 +182,18 @@ class NamesTest(unittest.TestCase):
             if not name.startswith('__'):
                 self.assertIs(getattr(sdk, name), value, name)
 
+    def test_a_star_brings_what_people_use(self):
+        names = set(sdk.__all__)
+        self.assertLessEqual(
+            {'bcm_l2_addr_t', 'bcm_l2_addr_get', 'check', 'find', 'U32',
+             'intp_value', 'new_uint8Array', 'cvar', 'BCM_E_NONE',
+             'bcm_l2_traverse_cb', 'Array', 'bcm_l2_addr_t_init'}, names)
+        self.assertFalse(names & {
+            'new_bcm_l2_addr_t', 'delete_bcm_l2_addr_t', 'bcm_l2_addr_t_vid_get',
+            'bcm_l2_addr_t_vid_set', 'bcm_l2_addr_t_swigregister', '__all__'})
+        for name in names:
+            getattr(sdk, name)
+
     def test_dir_and_help_read_well(self):
         names = dir(sdk.bcm_ip_addr_t)
         self.assertLessEqual({'protocol', 'addr', 'copy', 'equals', 'items'},
