@@ -25,12 +25,22 @@ Accessor Accessors::find(const Key &key) const {
     return found == accessors_.end() ? nullptr : found->second;
 }
 
+Accessors::Book::const_iterator Accessors::lowest(std::uint32_t unit, std::uint16_t phy) const {
+    const auto at = accessors_.lower_bound({unit, phy, std::numeric_limits<std::int32_t>::min()});
+    if (at == accessors_.end()) return at;
+    const auto &[of_unit, of_phy, kind] = at->first;
+    return of_unit == unit && of_phy == phy ? at : accessors_.end();
+}
+
 Accessor Accessors::find(std::uint32_t unit, std::uint16_t phy) const {
     const std::lock_guard<std::mutex> guard(lock_);
-    const auto at = accessors_.lower_bound({unit, phy, std::numeric_limits<std::int32_t>::min()});
-    if (at == accessors_.end()) return nullptr;
-    const auto &[of_unit, of_phy, kind] = at->first;
-    return of_unit == unit && of_phy == phy ? at->second : nullptr;
+    const auto at = lowest(unit, phy);
+    return at == accessors_.end() ? nullptr : at->second;
+}
+
+bool Accessors::has(std::uint32_t unit, std::uint16_t phy) const {
+    const std::lock_guard<std::mutex> guard(lock_);
+    return lowest(unit, phy) != accessors_.end();
 }
 
 void Accessors::tell_version(std::uint32_t unit, std::uint16_t phy, std::uint16_t version) {

@@ -27,6 +27,8 @@ class Accessors {
     Accessor find(const Key &key) const;
     // The one of the lowest kind that an external PHY has.
     Accessor find(std::uint32_t unit, std::uint16_t phy) const;
+    // Whether it has any. Takes no reference, so it may be asked under the model's lock.
+    bool has(std::uint32_t unit, std::uint16_t phy) const;
 
     void tell_version(std::uint32_t unit, std::uint16_t phy, std::uint16_t version);
     std::optional<std::uint16_t> version(std::uint32_t unit, std::uint16_t phy) const;
@@ -36,8 +38,12 @@ class Accessors {
     [[nodiscard]] std::map<Key, Accessor> clear();
 
   private:
+    using Book = std::map<Key, Accessor>;
+    // REQUIRES: the lock is held.
+    Book::const_iterator lowest(std::uint32_t unit, std::uint16_t phy) const;
+
     mutable std::mutex lock_;
-    std::map<Key, Accessor> accessors_;
+    Book accessors_;
     std::map<std::pair<std::uint32_t, std::uint16_t>, std::uint16_t> versions_;
 };
 

@@ -23,8 +23,7 @@ char internal_name[] = "standin serdes";
 char external_name[] = "standin external";
 
 bool has_external(int unit, int port) {
-    return bool{
-        accessors().find(static_cast<std::uint32_t>(unit), static_cast<std::uint16_t>(port))};
+    return accessors().has(static_cast<std::uint32_t>(unit), static_cast<std::uint16_t>(port));
 }
 
 char *name_of(const char *function, int unit, soc_port_t port) {

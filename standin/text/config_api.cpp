@@ -11,7 +11,6 @@
 #include "standin/text/unit_ports.h"
 
 using namespace standin;
-using namespace standin;
 
 namespace {
 
@@ -103,13 +102,14 @@ void sal_config_dump(void) {
 pbmp_t soc_property_get_bcm_pbmp(int unit, char const *name, int defneg) {
     PortSet fallback;
     if (defneg != 0) fallback.set();
-    std::optional<std::string> value = property_get(view_of(name), unit);
+    std::string property(view_of(name));
+    std::optional<std::string> value = property_get(property, unit);
     if (!value) return pbmp_of(fallback);
     std::string fault;
     std::optional<PortSet> ports = read_port_list(*value, {}, fault);
     if (ports) return pbmp_of(*ports);
     log_message(kSeverityWarning, kLayerSal, kSourceConfig, unit,
-                std::string("property ") + name + ": " + fault);
+                "property " + property + ": " + fault);
     return pbmp_of(fallback);
 }
 

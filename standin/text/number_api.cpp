@@ -1,4 +1,6 @@
 // Numbers, digits and lines of text: the C functions over number_text.h.
+#include <string.h>
+
 #include <algorithm>
 
 #include "sdk/diag/format.h"
@@ -108,12 +110,13 @@ int xdigit2i(int digit) {
     return digit >= 0 && digit < 128 ? hex_digit(static_cast<char>(digit)) : -1;
 }
 
+// memmem takes time in proportion to the texts, whatever they are.
 char const *strcaseindex(char const *s, char const *sub) {
     if (s == nullptr || sub == nullptr) return nullptr;
-    for (const char *at = s;; ++at) {
-        if (starts_with_word(at, sub)) return at;
-        if (*at == '\0') return nullptr;
-    }
+    const std::string text = lower_case(s);
+    const std::string part = lower_case(sub);
+    const void *at = ::memmem(text.data(), text.size(), part.data(), part.size());
+    return at == nullptr ? nullptr : s + (static_cast<const char *>(at) - text.data());
 }
 
 char *strrepl(char *s, int start, int len, char const *repstr) {

@@ -1,5 +1,6 @@
 """Calls each plain function of the module once, with arguments that are made
-by the proxy and its companion, and says what came of it.
+by the proxy and its companion, and again with each of its pointers and texts
+null in turn, and says what came of it.
 
 usage: every_function.py MODEL.json
 
@@ -155,8 +156,30 @@ def fault(row, keep):
     return None if right else 'the result %r is no %s' % (result, kind)
 
 
+NULLABLE = ('text', 'pointer', 'fixed-array', 'function-pointer')
+
+
+def null_fault(row, keep):
+    """What is wrong with the calls of the row with one argument null, or None.
+    The call may answer what it likes."""
+    for index, argument in enumerate(row['arguments']):
+        if row['role'] != 'function' or argument['kind'] not in NULLABLE:
+            continue
+        try:
+            made = arguments(row, keep)
+            keep.extend(made)
+            made[index] = None
+            getattr(sdk, row['name'])(*made)
+        except Exception as error:  # pylint: disable=broad-except
+            if not row.get('hand_written'):
+                return 'null %s: %r' % (argument['name'], error)
+    return None
+
+
 def start():
     sdk.check(sdk.addOmbraDevice(0, 1, 0, 0))
+    # What a property without a name would be found under.
+    sdk.sal_config_set('.0', 'no ports')
     revive()
 
 
@@ -184,7 +207,7 @@ def main(model):
     for row in rows:
         if os.environ.get('OMBRA_TRACE'):
             os.write(2, row['name'] + '\n')
-        found = fault(row, keep)
+        found = fault(row, keep) or null_fault(row, keep)
         called.add(row['name'])
         if found:
             wrong.append('%s: %s' % (row['name'], found))

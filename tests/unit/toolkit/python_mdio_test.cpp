@@ -1,6 +1,8 @@
 // Python objects behind native ones: the handle, and the accessor that calls the object.
 #include <Python.h>
 
+#include <unistd.h>
+
 #include "toolkit/mdio.h"
 
 #include <gtest/gtest.h>
@@ -170,6 +172,32 @@ TEST_F(PythonMdio, TwoThreadsShareOneObject) {
     }
     threads.clear();
     EXPECT_EQ(wrong, (std::array<int, 2>{}));
+}
+
+// A thread may hold the interpreter lock under another state than its first.
+TEST_F(PythonMdio, ASecondInterpreterOfTheThreadIsServed) {
+    ::alarm(60);  // what waits for itself ends
+    PyThreadState *const first = PyThreadState_Get();
+    PyThreadState *const second = Py_NewInterpreter();
+    run_python(
+        "class Phy(object):\n"
+        "    def read(self, *where):\n"
+        "        return 5\n");
+    auto accessor = accessor_of("Phy()");
+    std::uint16_t value = 0;
+    EXPECT_EQ(accessor->read(0, 0, &value), HamImpl::statusOk);
+    EXPECT_EQ(value, 5);
+    {
+        const InterpreterReleased released;
+        std::jthread([&accessor, &value] {
+            EXPECT_EQ(accessor->read(0, 0, &value), HamImpl::statusOk);
+        });
+    }
+    EXPECT_EQ(PyThreadState_Get(), second);
+    accessor = nullptr;
+    Py_EndInterpreter(second);
+    PyThreadState_Swap(first);
+    ::alarm(0);
 }
 
 TEST_F(PythonMdio, OutlivingTheInterpreterTouchesNothing) {
