@@ -1,6 +1,7 @@
 // The calls of the MAC chapter that work on single entries, and its timers, limits and watchers.
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "sdk/bcm/l2.h"
 #include "standin/chapters/hooks.h"
@@ -55,32 +56,27 @@ bool scope_of(const bcm_l2_learn_limit_t &limit, L2Scope &scope) {
     }
 }
 
-bool in_scope(const L2Scope &scope, const bcm_l2_addr_t &entry) {
-    const bool trunk = (entry.flags & kL2Trunk) != 0;
-    switch (scope.scope) {
-        case kLimitVlan:
-            return entry.vid == scope.number;
-        case kLimitPort:
-            return !trunk && entry.port == scope.number;
-        case kLimitTrunk:
-            return trunk && entry.tgid == scope.number;
-        default:
-            return true;
+// How many learned entries there are in the scope of the entry; nothing where it is in another.
+std::optional<std::size_t> learned_beside(const L2Table &table, const L2Scope &scope,
+                                          const bcm_l2_addr_t &entry) {
+    const bool trunk = on_trunk(entry);
+    if (scope.scope == kLimitSystem) return table.learned();
+    if (scope.scope == kLimitVlan) {
+        if (entry.vid != scope.number) return std::nullopt;
+        return table.learned_in(entry.vid);
     }
+    const int number = trunk ? entry.tgid : entry.port;
+    if (trunk != (scope.scope == kLimitTrunk) || number != scope.number) return std::nullopt;
+    return table.learned_from(trunk, number);
 }
 
 // Whether one more learned entry would pass a limit.
-bool limit_reached(L2Chapter &l2, const bcm_l2_addr_t &entry) {
+bool limit_reached(const L2Chapter &l2, const bcm_l2_addr_t &entry) {
     if (!l2.limits_enabled) return false;
-    for (const auto &[scope, limit] : l2.limits) {
-        if (!in_scope(scope, entry)) continue;
-        int count = 0;
-        L2Table::Cursor cursor;
-        while (const L2Row *const row = l2.table.next(cursor))
-            if (!row->is_static() && in_scope(scope, row->entry)) ++count;
-        if (count >= limit) return true;
-    }
-    return false;
+    return std::ranges::any_of(l2.limits, [&](const auto &one) {
+        const auto learned = learned_beside(l2.table, one.first, entry);
+        return learned && *learned >= static_cast<std::size_t>(one.second);
+    });
 }
 
 int learn(Switch &chip, const bcm_mac_t mac, bcm_vlan_t vid, int port) {

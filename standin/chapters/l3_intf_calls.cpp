@@ -14,7 +14,7 @@ constexpr Numbering<bcm_if_t> kInterfaces{"l3_intf", kL3Interfaces, kFirstInterf
 constexpr Numbering<bcm_if_t> kEgresses{"l3_egress", kL3Egresses, kFirstEgress,
                                         kFirstEgress + static_cast<int>(kL3Egresses) - 1};
 
-std::map<bcm_if_t, bcm_l3_egress_t> &egresses_of(Switch &chip) { return chip.l3.egresses; }
+auto &egresses_of(Switch &chip) { return chip.l3.egresses; }
 
 int clear_l3(const char *function, int unit) {
     return start_chapter(function, unit, "bcm_l3_", &Switch::l3);

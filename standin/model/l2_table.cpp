@@ -52,8 +52,27 @@ L2Row *L2Table::find(const bcm_mac_t mac, bcm_vlan_t vid) {
     return place == L2Index::kNone ? nullptr : &rows_[place];
 }
 
+void L2Table::make_counters(const bcm_l2_addr_t &entry) {
+    const bool trunk = on_trunk(entry);
+    learned_at_[counter_of(kVlan, entry.vid)];
+    learned_at_[counter_of(trunk ? kTrunk : kPort, trunk ? entry.tgid : entry.port)];
+}
+
+void L2Table::count(const bcm_l2_addr_t &entry, bool more) {
+    if (is_static(entry)) return;
+    const bool trunk = on_trunk(entry);
+    const std::size_t change = more ? 1 : ~std::size_t{0};
+    learned_ += change;
+    learned_at_.find(counter_of(kVlan, entry.vid))->second += change;
+    learned_at_.find(counter_of(trunk ? kTrunk : kPort, trunk ? entry.tgid : entry.port))->second +=
+        change;
+}
+
 L2Row *L2Table::put(const bcm_l2_addr_t &entry, std::size_t capacity) {
+    make_counters(entry);
     if (L2Row *const row = find(entry.mac, entry.vid)) {
+        count(row->entry, false);
+        count(entry, true);
         row->entry = entry;
         return row;
     }
@@ -63,6 +82,7 @@ L2Row *L2Table::put(const bcm_l2_addr_t &entry, std::size_t capacity) {
     orders_[place] = ++last_order_;
     walk_.push_back({last_order_, place});
     index_.insert(l2_key(entry.mac, entry.vid), place);
+    count(entry, true);
     return &rows_[place];
 }
 
@@ -70,6 +90,7 @@ void L2Table::erase(L2Row &row) {
     const std::uint64_t key = l2_key(row.entry.mac, row.entry.vid);
     const std::uint32_t place = index_.find(key);
     index_.erase(key);
+    count(row.entry, false);
     orders_[place] = 0;
     free_.push_back(place);
     if (walk_.size() > 2 * index_.size() + 64) squeeze();

@@ -13,6 +13,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <unordered_map>
 #include <vector>
 
 #include "layout/sdk_words.h"
@@ -22,13 +23,18 @@ namespace standin {
 
 using namespace sdk_words;
 
+constexpr int kL2FlagTexts = 8;  // in bcm_l2_flags_str
+
 constexpr std::size_t kL2Capacity = 65'536;
+
+constexpr bool is_static(const bcm_l2_addr_t &entry) { return (entry.flags & kL2Static) != 0; }
+constexpr bool on_trunk(const bcm_l2_addr_t &entry) { return (entry.flags & kL2Trunk) != 0; }
 
 struct L2Row {
     std::uint64_t heard = 0;  // when a packet last came from it, on the table's own clock
     bcm_l2_addr_t entry{};
 
-    bool is_static() const { return (entry.flags & kL2Static) != 0; }
+    bool is_static() const { return standin::is_static(entry); }
 };
 
 // Keys, each with a number below 2^32 - 1. No key is there twice.
@@ -82,7 +88,26 @@ class L2Table {
 
     std::size_t size() const { return index_.size(); }
 
+    // How many rows are not static: of all, of a VLAN, of a port or trunk.
+    std::size_t learned() const { return learned_; }
+    std::size_t learned_in(bcm_vlan_t vid) const { return learned_at(counter_of(kVlan, vid)); }
+    std::size_t learned_from(bool trunk, int number) const {
+        return learned_at(counter_of(trunk ? kTrunk : kPort, number));
+    }
+
   private:
+    enum Kind : std::uint64_t { kVlan, kPort, kTrunk };
+    static std::uint64_t counter_of(Kind kind, int number) {
+        return kind << 32 | static_cast<std::uint32_t>(number);
+    }
+    std::size_t learned_at(std::uint64_t counter) const {
+        const auto found = learned_at_.find(counter);
+        return found == learned_at_.end() ? 0 : found->second;
+    }
+    // Makes the counters of an entry, so that `count` cannot fail.
+    void make_counters(const bcm_l2_addr_t &entry);
+    void count(const bcm_l2_addr_t &entry, bool more);
+
     struct Step {
         std::uint64_t order = 0;
         std::uint32_t place = 0;  // in rows_
@@ -98,6 +123,8 @@ class L2Table {
     std::vector<Step> walk_;
     L2Index index_;
     std::uint64_t last_order_ = 0;
+    std::size_t learned_ = 0;
+    std::unordered_map<std::uint64_t, std::size_t> learned_at_;  // by kind and number
 };
 
 // 48 bits of address and 16 of VLAN.

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "sdk/bcm/l3_types.h"
+#include "standin/model/numbered_map.h"
 
 namespace standin {
 
@@ -54,7 +55,7 @@ struct RouteKey {
 
 struct L3 {
     std::map<bcm_if_t, bcm_l3_intf_t> interfaces;
-    std::map<bcm_if_t, bcm_l3_egress_t> egresses;
+    NumberedMap<bcm_if_t, bcm_l3_egress_t, kFirstEgress> egresses;
     std::map<bcm_if_t, std::vector<bcm_if_t>> multipaths;
     std::map<HostKey, bcm_l3_host_t> hosts;
     std::map<RouteKey, bcm_l3_route_t> routes;

@@ -41,6 +41,7 @@ std::optional<typename Map::key_type> free_id(const Map &map, typename Map::key_
     if (map.empty()) return first;
     const auto highest = map.rbegin()->first;
     if (highest < last) return highest + 1;
+    if constexpr (requires { map.lowest_free(last); }) return map.lowest_free(last);
     typename Map::key_type id = first;
     for (auto it = map.begin(); it != map.end() && it->first == id && id <= last; ++it) ++id;
     return id <= last ? std::optional(id) : std::nullopt;

@@ -2,14 +2,17 @@
 #include "sdk/variables.h"
 
 #include <cstring>
+#include <new>
+
+#include "standin/model/l2_table.h"
 
 namespace {
 
-// A text that whoever replaces it may free with `delete[]`.
+// A text that whoever replaces it may free with `delete[]`. Null without memory: a throw while the
+// library is loaded would end the process.
 char *new_text(const char *text) {
-    char *const made = new char[std::strlen(text) + 1];
-    std::strcpy(made, text);
-    return made;
+    char *const made = new (std::nothrow) char[std::strlen(text) + 1];
+    return made == nullptr ? nullptr : std::strcpy(made, text);
 }
 
 char no_name[] = "";
@@ -27,9 +30,9 @@ char of_processor[] = "CPU";
 extern "C" {
 
 // By bit; a bit without a meaning here has an empty name.
-char *bcm_l2_flags_str[] = {no_name, no_name,      black_hole, no_name,
-                            no_name, static_entry, no_name,    trunk};
-int bcm_l2_flags_count = 8;
+char *bcm_l2_flags_str[standin::kL2FlagTexts] = {no_name, no_name,      black_hole, no_name,
+                                                 no_name, static_entry, no_name,    trunk};
+int bcm_l2_flags_count = standin::kL2FlagTexts;
 
 int bcm_rx_token_check_us = 10'000;
 bcm_trans_ptr_t bcm_trans_ptr;

@@ -205,6 +205,7 @@ int access_register(const char *function, const RegisterCall &call,
 
 int access_memory(const char *function, const MemoryCall &call, std::uint32_t *entry) {
     const MemoryLayout *const layout = find_memory(call.memory);
+    Value words{};  // the caller's entry is written when all has gone well
     const bool write = call.direction == Direction::kWrite;
     soc_mem_array_read_f outside = nullptr;  // the type of both directions
     bool watched = false;
@@ -218,15 +219,19 @@ int access_memory(const char *function, const MemoryCall &call, std::uint32_t *e
         }
         if (!table_open(unit, *layout)) return BCM_E_DISABLED;
         watched = unit.state.watch_memories;
+        if (write) std::copy_n(entry, layout->words(), words.begin());
         if (!in_access_function)
             outside = write ? unit.state.access.mem_write : unit.state.access.mem_read;
-        return outside != nullptr ? BCM_E_NONE : run_access(unit, *layout, copies, call, entry);
+        return outside != nullptr ? BCM_E_NONE
+                                  : run_access(unit, *layout, copies, call, words.data());
     });
     if (status >= 0 && outside != nullptr) {
         status = call_outside([&] {
-            return outside(call.unit, call.memory, call.array, call.copyno, call.index, entry);
+            return outside(call.unit, call.memory, call.array, call.copyno, call.index,
+                           words.data());
         });
     }
+    if (status >= 0 && !write) std::copy_n(words.begin(), layout->words(), entry);
     if (status >= 0 && watched) {
         std::string name = layout->name;
         if (call.array > 0) name += '[' + std::to_string(call.array) + ']';
@@ -244,20 +249,24 @@ int access_words(const char *function, int unit, std::uint32_t address, Directio
                                 place->index, direction};
         return access_register(function, call, value);
     }
-    return on_unit(function, unit, Need::kReset, [&](Unit &view) {
+    Value words{};
+    std::ranges::copy(value, words.begin());
+    const int status = on_unit(function, unit, Need::kReset, [&](Unit &view) {
         for (std::size_t i = 0; i < value.size(); ++i)
             if (word_mask(address + 4 * static_cast<std::uint32_t>(i)) == 0) return BCM_E_NOT_FOUND;
-        int status = BCM_E_NONE;
-        for (std::uint32_t &word : value) {
+        for (std::uint32_t &word : std::span(words).first(value.size())) {
             const bool kept = keeps_word(view.state, address);
-            status = direction == Direction::kRead
-                         ? word_read(view, address, kept, word)
-                         : word_write(view, address, kept, word & word_mask(address));
-            if (status < 0) return status;
+            const int one = direction == Direction::kRead
+                                ? word_read(view, address, kept, word)
+                                : word_write(view, address, kept, word & word_mask(address));
+            if (one < 0) return one;
             address += 4;
         }
-        return status;
+        return BCM_E_NONE;
     });
+    if (status >= 0 && direction == Direction::kRead)
+        std::copy_n(words.begin(), value.size(), value.begin());
+    return status;
 }
 
 std::string register_text(const RegisterLayout &layout, int port, int index) {

@@ -1,10 +1,13 @@
 // Bytes of packets, and records as text.
+#include <algorithm>
+
 #include "sdk/bcm/l2_types.h"
 #include "sdk/constants.h"
 #include "sdk/diag/text.h"
 #include "sdk/variables.h"
 #include "standin/base/output.h"
 #include "standin/base/scan.h"
+#include "standin/model/l2_table.h"
 #include "standin/text/address_text.h"
 #include "standin/text/unit_ports.h"
 
@@ -15,7 +18,9 @@ namespace {
 // "static,0x40": the flags by name, what has none as a number.
 std::string l2_flags_text(uint32 flags) {
     std::string text;
-    for (int bit = 0; bit < 32 && bit < bcm_l2_flags_count; ++bit) {
+    // The count is a variable that a caller may raise; the texts stay as many as they are.
+    const int count = std::min(bcm_l2_flags_count, kL2FlagTexts);
+    for (int bit = 0; bit < count; ++bit) {
         const char *name = bcm_l2_flags_str[bit];
         if ((flags >> bit & 1U) == 0 || name == nullptr || *name == '\0') continue;
         text += (text.empty() ? "" : ",") + lower_case(name);

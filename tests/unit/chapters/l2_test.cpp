@@ -224,6 +224,19 @@ TEST_F(Chip, LearningObeysPortFreezeStaticAndLimit) {
     EXPECT_EQ(standin_l2_learn(0, Mac(5).data(), 10, 3), BCM_E_RESOURCE);
     EXPECT_EQ(standin_l2_learn(0, Mac(5).data(), 20, 3), BCM_E_NONE) << "another VLAN";
     EXPECT_EQ(standin_l2_learn(0, Mac(4).data(), 10, 5), BCM_E_NONE) << "a move adds none";
+    limit.flags = kLimitPort;
+    limit.port = 6;
+    limit.limit = 1;
+    EXPECT_EQ(bcm_l2_learn_limit_set(0, &limit), BCM_E_NONE);
+    for (const auto turn : {"first", "again"}) {
+        EXPECT_EQ(standin_l2_learn(0, Mac(6).data(), 30, 6), BCM_E_NONE) << turn;
+        EXPECT_EQ(standin_l2_learn(0, Mac(7).data(), 30, 6), BCM_E_RESOURCE) << turn;
+        EXPECT_EQ(bcm_l2_addr_delete(0, Mac(6).data(), 30), BCM_E_NONE) << "makes room";
+        EXPECT_EQ(add(8, 30, 6, kL2Static), BCM_E_NONE) << "counts for nothing";
+    }
+    EXPECT_EQ(add(8, 30, 6), BCM_E_NONE) << "counts from now on";
+    EXPECT_EQ(standin_l2_learn(0, Mac(6).data(), 30, 6), BCM_E_RESOURCE);
+    limit.flags = kLimitVlan;
     limit.limit = 0;
     EXPECT_EQ(bcm_l2_learn_limit_get(0, &limit), BCM_E_NONE);
     EXPECT_EQ(limit.limit, 3);

@@ -160,6 +160,32 @@ TEST_F(Routing, OneGroupInThreeForms) {
     EXPECT_EQ(bcm_l3_ecmp_get(0, nullptr, 3, members, &count), BCM_E_NOT_FOUND);
 }
 
+// With the highest number in use a new object gets the lowest free one, whatever went before.
+TEST_F(Routing, EgressObjectsFillTheirNumbers) {
+    constexpr bcm_if_t last = kFirstEgress + static_cast<bcm_if_t>(kL3Egresses) - 1;
+    bcm_l3_egress_t made{};
+    made.intf = intf.l3a_intf_id;
+    made.port = 3;
+    for (bcm_if_t given : {last, kFirstEgress + 2}) {
+        bcm_if_t id = given;
+        ASSERT_EQ(bcm_l3_egress_create(0, kWithId, &made, &id), BCM_E_NONE);
+    }
+    auto next = [&] {
+        bcm_if_t id = -1;
+        EXPECT_EQ(bcm_l3_egress_create(0, 0, &made, &id), BCM_E_NONE);
+        return id;
+    };
+    EXPECT_EQ(next(), kFirstEgress + 1);
+    for (bcm_if_t id = kFirstEgress + 3; id < last; ++id) ASSERT_EQ(next(), id);
+    bcm_if_t id = -1;
+    EXPECT_EQ(bcm_l3_egress_create(0, 0, &made, &id), BCM_E_FULL);
+    for (bcm_if_t gone : {last, kFirstEgress + 8, kFirstEgress + 6, kFirstEgress + 7})
+        EXPECT_EQ(bcm_l3_egress_destroy(0, gone), BCM_E_NONE);
+    EXPECT_EQ(next(), last);
+    for (bcm_if_t free : {6, 7, 8}) EXPECT_EQ(next(), kFirstEgress + free);
+    EXPECT_EQ(bcm_l3_egress_create(0, 0, &made, &id), BCM_E_FULL);
+}
+
 TEST(IpMask, LengthsBothWays) {
     struct {
         int length;
