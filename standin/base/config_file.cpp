@@ -7,7 +7,9 @@
 
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
 
 #include "standin/base/scan.h"
@@ -164,6 +166,64 @@ bool write_all(int fd, std::string_view text) {
     return true;
 }
 
+// "" for a name without a folder.
+std::string folder_of(const std::string &path) {
+    std::size_t end = path.rfind('/');
+    return end == std::string::npos ? std::string() : path.substr(0, end + 1);
+}
+
+// The file that a chain of links leads to, whether it is there or not.
+bool follow_links(const std::string &path, std::string &target) {
+    constexpr int kMostLinks = 40;
+    target = path;
+    for (int links = 0; links < kMostLinks; ++links) {
+        std::array<char, PATH_MAX> text;
+        ssize_t length = ::readlink(target.c_str(), text.data(), text.size());
+        if (length < 0) return true;
+        std::string next(text.data(), static_cast<std::size_t>(length));
+        target = next.starts_with('/') ? next : folder_of(target) + next;
+    }
+    errno = ELOOP;
+    return false;
+}
+
+// What `path` leads to and the permissions that it has, or will have; false where that is neither
+// a plain file nor nothing.
+bool find_target(const std::string &path, std::string &target, mode_t &mode) {
+    constexpr mode_t kNew = 0644;
+    if (!follow_links(path, target)) return false;
+    struct stat old {};
+    if (::lstat(target.c_str(), &old) != 0) {
+        mode = kNew;
+        return errno == ENOENT;
+    }
+    mode = old.st_mode & 07777;
+    if (S_ISREG(old.st_mode)) return true;
+    errno = S_ISDIR(old.st_mode) ? EISDIR : EINVAL;
+    return false;
+}
+
+// A file of our own by that name, or, for an empty one, by a name that is put into it. What has the
+// name already is a leftover, or was laid there for us: it goes.
+int make_temporary(const std::string &target, std::string &name) {
+    if (name.empty()) {
+        name = target + ".XXXXXX";
+        return ::mkostemp(name.data(), O_CLOEXEC);
+    }
+    constexpr int kAnew = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    int fd = ::open(name.c_str(), kAnew, 0600);
+    if (fd >= 0 || errno != EEXIST || ::unlink(name.c_str()) != 0) return fd;
+    return ::open(name.c_str(), kAnew, 0600);
+}
+
+// Makes the new name last. The file is in its place already, so a failure is none.
+void sync_folder(const std::string &target) {
+    int fd = ::open((folder_of(target) + '.').c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
 }  // namespace
 
 bool config_name_ok(std::string_view name) {
@@ -214,17 +274,28 @@ bool read_file(const std::string &path, std::string &text) {
     return got == 0;
 }
 
+bool replaceable(const std::string &path) {
+    std::string target;
+    mode_t mode = 0;
+    return find_target(path, target, mode);
+}
+
 bool write_file(const std::string &path, const std::string &temporary, std::string_view text) {
-    struct stat old {};
-    mode_t mode = ::stat(path.c_str(), &old) == 0 ? old.st_mode & 07777 : 0644;
-    int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode);
+    std::string target;
+    mode_t mode = 0;
+    if (!find_target(path, target, mode)) return false;
+    std::string made = temporary;
+    int fd = make_temporary(target, made);
     if (fd < 0) return false;
-    bool ok = write_all(fd, text) && ::fsync(fd) == 0;
+    bool ok = ::fchmod(fd, mode) == 0 && write_all(fd, text) && ::fsync(fd) == 0;
     ok = ::close(fd) == 0 && ok;
-    ok = ok && std::rename(temporary.c_str(), path.c_str()) == 0;
-    if (ok) return true;
+    ok = ok && std::rename(made.c_str(), target.c_str()) == 0;
+    if (ok) {
+        sync_folder(target);
+        return true;
+    }
     int error = errno;
-    ::unlink(temporary.c_str());
+    ::unlink(made.c_str());
     errno = error;
     return false;
 }

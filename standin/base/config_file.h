@@ -46,9 +46,14 @@ std::string format_config_line(std::string_view name, std::string_view value);
 // Reads `path` into `text`. False when it cannot be read; errno tells why.
 bool read_file(const std::string &path, std::string &text);
 
-// Puts `text` at `path` as a whole or not at all: written to `temporary`, flushed to the disk and
-// renamed. The file keeps its permissions; a new one gets 0644. False on failure: `path` is then as
-// it was, `temporary` is gone, errno tells why.
+// Puts `text` at `path` as a whole or not at all: written to a temporary file that is made anew,
+// flushed to the disk and renamed. A link is followed; what is there and is no plain file is
+// refused. The file keeps its permissions; a new one gets 0644. The temporary file is `temporary`,
+// or, for an empty name, one in the folder of the file that nobody can foretell. False on failure:
+// `path` is then as it was, the temporary file is gone, errno tells why.
 bool write_file(const std::string &path, const std::string &temporary, std::string_view text);
+
+// Whether write_file would go on: a plain file, a link to one, or nothing at all. errno if not.
+bool replaceable(const std::string &path);
 
 }  // namespace standin

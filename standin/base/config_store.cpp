@@ -12,6 +12,7 @@
 #include <shared_mutex>
 
 #include "sdk/constants.h"
+#include "standin/base/faults.h"
 #include "standin/base/log.h"
 #include "standin/base/number_text.h"
 #include "standin/base/scan.h"
@@ -29,7 +30,7 @@ struct Store {
     std::shared_mutex lock;
     std::map<std::string, Setting, std::less<>> settings;
     std::atomic<std::uint64_t> generation{1};
-    ConfigFiles files{std::string(kConfigFile), std::string(kConfigFile) + ".tmp"};
+    ConfigFiles files{std::string(kConfigFile), {}};
 };
 
 // Never destroyed: threads of the process may read it while it ends.
@@ -78,8 +79,22 @@ std::optional<std::string> config_get(std::string_view name) {
 
 std::uint64_t config_generation() { return store().generation.load(std::memory_order_acquire); }
 
+bool config_setting_ok(std::string_view name, std::string_view value, std::string &fault) {
+    std::optional<std::string> word = fault_misread(name, value);
+    if (!config_name_ok(name))
+        fault = "bad name '" + std::string(name) + '\'';
+    else if (value.find('\0') != std::string_view::npos)
+        fault = "a zero byte";
+    else if (word)
+        fault = "no fault is '" + *word + '\'';
+    else
+        return true;
+    return false;
+}
+
 bool config_set(std::string_view name, std::string_view value) {
-    if (!config_name_ok(name) || value.find('\0') != std::string_view::npos) return false;
+    std::string fault;
+    if (!config_setting_ok(name, value, fault)) return false;
     Store &all = store();
     std::unique_lock hold(all.lock);
     all.settings.insert_or_assign(std::string(name), Setting{std::string(value), 0});
@@ -137,6 +152,12 @@ int config_load(const std::string &path, bool replace) {
         return BCM_E_NOT_FOUND;
     }
     ConfigText parsed = parse_config_text(text);
+    std::erase_if(parsed.entries, [&](const ConfigEntry &entry) {
+        std::string fault;
+        if (config_setting_ok(entry.name, entry.value, fault)) return false;
+        parsed.faults.push_back({entry.line, fault});
+        return true;
+    });
     {
         Store &all = store();
         std::unique_lock hold(all.lock);
@@ -151,12 +172,13 @@ int config_load(const std::string &path, bool replace) {
 
 int config_save(const std::string &path, std::string_view pattern, bool append) {
     std::string text;
+    if (!replaceable(path)) return not_saved(path);
     if (append && !read_file(path, text) && errno != ENOENT) return not_saved(path);
     if (!text.empty() && text.back() != '\n') text += '\n';
     for (const ConfigEntry &entry : config_entries(pattern))
         text += format_config_line(entry.name, entry.value);
     ConfigFiles files = config_files();
-    std::string temporary = path == files.file ? files.temporary : path + ".tmp";
+    std::string temporary = path == files.file ? files.temporary : std::string();
     return write_file(path, temporary, text) ? BCM_E_NONE : not_saved(path);
 }
 

@@ -29,7 +29,11 @@ std::optional<std::string> config_get(std::string_view name);
 // Grows with every change of any setting, so that a reader can keep what it has worked out.
 std::uint64_t config_generation();
 
-// Sets `name`; false, and no change, when config_name_ok refuses it or `value` has a zero byte.
+// Whether a setting can be; else `fault` says why: its name, a zero byte, or a fault with a word
+// that is not understood.
+bool config_setting_ok(std::string_view name, std::string_view value, std::string &fault);
+
+// Sets `name`; false, and no change, where config_setting_ok says so.
 bool config_set(std::string_view name, std::string_view value);
 
 // False when there was no such setting.
@@ -51,13 +55,13 @@ void config_load_defaults();
 int config_load(const std::string &path, bool replace);
 
 // Writes the settings that match `pattern` to `path`, by name, as a whole or not at all; with
-// `append` behind what stands in the file. Goes over the temporary file that config_files names
-// when `path` is the configuration file, over `path` with ".tmp" otherwise.
+// `append` behind what stands in the file. Goes over the temporary file that config_files names,
+// if any, when `path` is the configuration file, else over one with a name of its own.
 int config_save(const std::string &path, std::string_view pattern, bool append);
 
 struct ConfigFiles {
     std::string file;       // "config.ombra"
-    std::string temporary;  // "config.ombra.tmp", in the same directory, since it is renamed
+    std::string temporary;  // where one was given: on the same file system, since it is renamed
 };
 ConfigFiles config_files();
 void config_files_set(ConfigFiles files);

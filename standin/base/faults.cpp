@@ -51,14 +51,24 @@ bool read_item(std::string_view item, Fault &fault) {
     return true;
 }
 
-std::optional<Fault> read_fault(std::string_view text) {
+// Nothing, with the item that means nothing in `word`, for a value that cannot be read.
+std::optional<Fault> read_fault(std::string_view text, std::string_view &word) {
     Fault fault;
-    while (!text.empty()) {
+    do {
         const std::size_t comma = std::min(text.find(','), text.size());
-        if (!read_item(text.substr(0, comma), fault)) return std::nullopt;
+        word = text.substr(0, comma);
+        if (!read_item(word, fault)) return std::nullopt;
         text.remove_prefix(std::min(comma + 1, text.size()));
-    }
+    } while (!text.empty());
     return fault;
+}
+
+// The limit of a table.
+std::optional<std::size_t> read_limit(std::string_view text) {
+    if (text == "full") return 0;
+    const std::optional<long> limit = number(text);
+    if (!limit || *limit < 0) return std::nullopt;
+    return static_cast<std::size_t>(*limit);
 }
 
 std::string written(const Fault &fault) {
@@ -86,7 +96,8 @@ int fault_check(std::string_view function) {
     name += function;
     const std::optional<std::string> text = config_get(name);
     if (!text) return 0;
-    std::optional<Fault> fault = read_fault(*text);
+    std::string_view word;
+    std::optional<Fault> fault = read_fault(*text, word);
     if (!fault) return 0;
     if (fault->count > 0) {
         --fault->count;
@@ -100,13 +111,22 @@ int fault_check(std::string_view function) {
     return fault->status;
 }
 
+std::optional<std::string> fault_misread(std::string_view name, std::string_view value) {
+    constexpr std::string_view kFault = "fault.";
+    constexpr std::string_view kTable = "table.";
+    if (!name.starts_with(kFault)) return std::nullopt;
+    name.remove_prefix(kFault.size());
+    std::string_view word = value;
+    const bool good = name.starts_with(kTable) ? read_limit(value).has_value()
+                                               : read_fault(value, word).has_value();
+    return good ? std::nullopt : std::optional(std::string(word));
+}
+
 std::size_t table_capacity(std::string_view name, std::size_t usual) {
     if (!faults_armed()) return usual;
     const std::optional<std::string> text = config_get("fault.table." + std::string(name));
     if (!text) return usual;
-    if (*text == "full") return 0;
-    const std::optional<long> limit = number(*text);
-    return limit && *limit >= 0 ? static_cast<std::size_t>(*limit) : usual;
+    return read_limit(*text).value_or(usual);
 }
 
 }  // namespace standin

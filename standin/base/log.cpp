@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -11,6 +12,7 @@
 #include <span>
 
 #include "standin/base/config_store.h"
+#include "standin/base/descriptor.h"
 #include "standin/base/number_text.h"
 #include "standin/base/scan.h"
 
@@ -39,6 +41,7 @@ struct Log {
     std::mutex lock;  // guards the rest
     int descriptor = STDERR_FILENO;
     std::string captured;
+    std::size_t forgotten = 0;  // bytes at its front
     std::size_t limit = kCaptureLimit;
     std::string bde_tag;
 
@@ -78,8 +81,9 @@ std::size_t level_index(int layer, int source) {
 
 // REQUIRES: the lock is held.
 void write_line(Log &log, std::string_view line) {
-    while (!line.empty()) {
-        ssize_t done = ::write(log.descriptor, line.data(), line.size());
+    while (!line.empty() && wait_writable(log.descriptor)) {
+        ssize_t done =
+            ::write(log.descriptor, line.data(), std::min<size_t>(line.size(), kSureBytes));
         if (done < 0 && errno == EINTR) continue;
         if (done <= 0) return;
         line.remove_prefix(static_cast<std::size_t>(done));
@@ -90,9 +94,14 @@ void write_line(Log &log, std::string_view line) {
 void capture_line(Log &log, std::string_view line) {
     if (!log.capturing) return;
     log.captured += line;
-    if (log.captured.size() <= log.limit) return;
-    std::size_t start = log.captured.find('\n', log.captured.size() - log.limit - 1);
-    log.captured.erase(0, start == std::string::npos ? std::string::npos : start + 1);
+    std::size_t kept = log.captured.size() - log.forgotten;
+    if (kept <= log.limit) return;
+    std::size_t end = log.captured.find('\n', log.captured.size() - log.limit - 1);
+    log.forgotten = end == std::string::npos ? log.captured.size() : end + 1;
+    if (log.forgotten < log.limit && log.forgotten < log.captured.size()) return;
+    // As much goes as stays, so that a line costs the same whatever the limit is.
+    log.captured.erase(0, log.forgotten);
+    log.forgotten = 0;
 }
 
 std::string message_line(int severity, int layer, int source, int unit, std::string_view text,
@@ -179,7 +188,10 @@ void trace_capture_set(bool enable) {
     std::uint32_t limit = property_number("trace_capture_limit", 0, -1, kCaptureLimit);
     Log &log = the_log();
     std::lock_guard hold(log.lock);
-    if (enable) log.captured.clear();
+    if (enable) {
+        log.captured.clear();
+        log.forgotten = 0;
+    }
     log.limit = limit;
     log.capturing = enable;
 }
@@ -189,7 +201,7 @@ bool trace_capture() { return the_log().capturing; }
 std::string trace_text() {
     Log &log = the_log();
     std::lock_guard hold(log.lock);
-    return log.captured;
+    return log.captured.substr(log.forgotten);
 }
 
 void trace_to_log_set(bool enable) { the_log().to_log = enable; }

@@ -22,7 +22,8 @@
 // While capture is on it is collected for getTrace; while traceToLog is on it goes to the log,
 // whatever the levels are.
 //
-// Safe to use from several threads. Nothing here fails: what cannot be written is dropped.
+// Safe to use from several threads. Nothing here fails: what cannot be written is dropped, also
+// what a full pipe does not take whose reader is this process.
 #pragma once
 
 #include <cstdint>

@@ -22,13 +22,18 @@ void KorvelWriteBslLogMsg(char const *file, unsigned int line, char const *func,
     log_message(severity, layer, source, unit, view_of(msg), {view_of(file), line, view_of(func)});
 }
 
-void traceToLogIs(bool enable) { trace_to_log_set(enable); }
+void traceToLogIs(bool enable) {
+    if (fault_check(__func__) == BCM_E_NONE) trace_to_log_set(enable);
+}
 
-void captureTrace(bool enable) { trace_capture_set(enable); }
+void captureTrace(bool enable) {
+    if (fault_check(__func__) == BCM_E_NONE) trace_capture_set(enable);
+}
 
 Lumo::String getTrace() { return Lumo::String(trace_text()); }
 
 void korvelBdeMemTrace(uint32 enable, char const *traceTag) {
+    if (fault_check(__func__) != BCM_E_NONE) return;
     bde_trace_set(enable != 0, view_of(traceTag));
 }
 

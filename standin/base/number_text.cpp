@@ -2,6 +2,7 @@
 #include "standin/base/number_text.h"
 
 #include <algorithm>
+#include <bit>
 #include <vector>
 
 #include "standin/base/scan.h"
@@ -65,6 +66,39 @@ std::optional<std::uint64_t> value_of(const Digits &digits) {
     return value;
 }
 
+// The digits as words, least significant first; false if that took more words.
+bool fill_words(const Digits &digits, std::span<std::uint32_t> words) {
+    std::uint64_t lost = 0;
+    std::fill(words.begin(), words.end(), 0U);
+    for (char digit : digits.values) {
+        std::uint64_t carry = static_cast<std::uint64_t>(digit);
+        for (std::uint32_t &word : words) {
+            carry += std::uint64_t{word} * digits.base;
+            word = static_cast<std::uint32_t>(carry);
+            carry >>= 32;
+        }
+        lost |= carry;
+    }
+    return lost == 0;
+}
+
+void negate(std::span<std::uint32_t> words) {
+    std::uint64_t carry = 1;
+    for (std::uint32_t &word : words) {
+        carry += static_cast<std::uint32_t>(~word);
+        word = static_cast<std::uint32_t>(carry);
+        carry >>= 32;
+    }
+}
+
+unsigned bit_width(std::span<const std::uint32_t> words) {
+    std::size_t top = words.size();
+    while (top > 0 && words[top - 1] == 0) --top;
+    if (top == 0) return 0;
+    return static_cast<unsigned>(32 * (top - 1)) +
+           static_cast<unsigned>(std::bit_width(words[top - 1]));
+}
+
 }  // namespace
 
 std::optional<std::uint64_t> read_u64(std::string_view text) {
@@ -104,23 +138,27 @@ bool read_words(std::string_view text, std::span<std::uint32_t> words) {
     bool minus = take_minus(text);
     std::optional<Digits> digits = read_digits(text);
     if (!digits) return false;
-    std::fill(words.begin(), words.end(), 0U);
-    for (char digit : digits->values) {
-        std::uint64_t carry = static_cast<std::uint64_t>(digit);
-        for (std::uint32_t &word : words) {
-            carry += std::uint64_t{word} * digits->base;
-            word = static_cast<std::uint32_t>(carry);
-            carry >>= 32;
-        }
+    fill_words(*digits, words);
+    if (minus) negate(words);
+    return true;
+}
+
+bool read_words(std::string_view text, std::span<std::uint32_t> words, unsigned bits) {
+    bool minus = take_minus(text);
+    std::optional<Digits> digits = read_digits(text);
+    std::vector<std::uint32_t> value(words.size());
+    if (!digits || !fill_words(*digits, value)) return false;
+    unsigned width = bit_width(value);
+    if (minus && width > 0) {
+        // -n takes the bits of n - 1, which are those of its complement turned round, and a sign.
+        negate(value);
+        std::vector<std::uint32_t> turned(value);
+        for (std::uint32_t &word : turned) word = ~word;
+        width = bit_width(turned) + 1;
     }
-    if (minus) {
-        std::uint64_t carry = 1;
-        for (std::uint32_t &word : words) {
-            carry += static_cast<std::uint32_t>(~word);
-            word = static_cast<std::uint32_t>(carry);
-            carry >>= 32;
-        }
-    }
+    if (width > bits) return false;
+    for (unsigned at = bits; at < 32 * value.size(); ++at) value[at / 32] &= ~(1U << (at % 32));
+    std::copy(value.begin(), value.end(), words.begin());
     return true;
 }
 

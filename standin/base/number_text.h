@@ -31,6 +31,10 @@ std::optional<bool> read_truth(std::string_view text);
 // gives the two's complement. False, with the words untouched, if it is no number.
 bool read_words(std::string_view text, std::span<std::uint32_t> words);
 
+// The same for a number of `bits` bits at most, or a negative one that they hold; false for any
+// other. REQUIRES: the words have so many bits.
+bool read_words(std::string_view text, std::span<std::uint32_t> words, unsigned bits);
+
 // "0x" and the digits without leading zeros; at most 2 + 8 * words.size() characters. "0x0" for
 // none.
 std::string words_text(std::span<const std::uint32_t> words);

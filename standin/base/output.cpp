@@ -5,6 +5,7 @@
 #include <cstdarg>
 #include <cstdio>
 
+#include "standin/base/descriptor.h"
 #include "standin/base/scan.h"
 
 namespace standin {
@@ -20,14 +21,27 @@ struct Pager {
 };
 thread_local Pager pager;
 
+// Drops what standard output cannot take, as wait_writable has it; what the program had written
+// before goes first.
+void print(std::string_view text) {
+    int fd = ::fileno(stdout);
+    if (!wait_writable(fd)) return;
+    std::fflush(stdout);
+    while (!text.empty() && wait_writable(fd)) {
+        std::string_view piece = text.substr(0, kSureBytes);
+        std::fwrite(piece.data(), 1, piece.size(), stdout);
+        std::fflush(stdout);
+        text.remove_prefix(piece.size());
+    }
+}
+
 void page(std::string_view text) {
     while (!text.empty() && !pager.stopped) {
         std::size_t end = text.find('\n');
         std::string_view line = text.substr(0, end == std::string_view::npos ? end : end + 1);
-        std::fwrite(line.data(), 1, line.size(), stdout);
+        print(line);
         text.remove_prefix(line.size());
         if (end == std::string_view::npos || ++pager.printed < pager.lines) continue;
-        std::fflush(stdout);
         pager.printed = 0;
         pager.stopped = !pager.more();
     }
@@ -54,8 +68,7 @@ void out(std::string_view text) {
     if (pager.lines > 0 && pager.more != nullptr)
         page(text);
     else
-        std::fwrite(text.data(), 1, text.size(), stdout);
-    std::fflush(stdout);
+        print(text);
 }
 
 void outf(const char *format, ...) {

@@ -8,6 +8,7 @@
 
 namespace standin {
 
+// What a full pipe does not take whose reader is this process is dropped.
 void out(std::string_view text);
 [[gnu::format(printf, 1, 2)]] void outf(const char *format, ...);
 

@@ -1,6 +1,8 @@
 // Taking words off a command's arguments, and storing options by key.
 #include "standin/shell/args.h"
 
+#include <algorithm>
+
 #include "sdk/constants.h"
 #include "sdk/diag/parse.h"
 #include "standin/base/number_text.h"
@@ -19,7 +21,33 @@ bool keep(std::optional<T> &value, const std::optional<V> &found) {
     return found.has_value();
 }
 
+bool is_there(int port, const PortNames &names) {
+    if (names.empty()) return true;
+    return std::any_of(names.begin(), names.end(),
+                       [port](const PortName &entry) { return entry.port == port; });
+}
+
+// A global port, which is one of the unit's where it names a local one.
+std::optional<std::int32_t> read_port_there(std::string_view text, const PortNames &names) {
+    std::optional<std::int32_t> gport = read_gport(text, names);
+    bool local = gport && (gport_type(*gport) == 0 || gport_type(*gport) == kLocalGport.type);
+    if (local && !is_there(plain_port(*gport), names)) return std::nullopt;
+    return gport;
+}
+
 }  // namespace
+
+std::optional<PortSet> standin::read_ports_there(std::string_view text, const PortNames &names,
+                                                 std::string &fault) {
+    std::optional<PortSet> ports = read_port_list(text, names, fault);
+    for (std::size_t at = 0; ports && at < ports->size(); ++at) {
+        int port = static_cast<int>(at);
+        if (!(*ports)[at] || is_there(port, names)) continue;
+        fault = "no port " + std::to_string(port);
+        return std::nullopt;
+    }
+    return ports;
+}
 
 std::optional<std::string> args_s::peek() const {
     return empty() ? std::nullopt : std::optional(words[next]);
@@ -65,7 +93,7 @@ void parse_table_s::add(std::string key, std::optional<std::string> &value) {
 void parse_table_s::add(std::string key, std::optional<PortSet> &value) {
     options_.push_back({std::move(key), false, [this, &value](std::string_view text) {
                             std::string reason;
-                            return keep(value, read_port_list(text, names_, reason));
+                            return keep(value, read_ports_there(text, names_, reason));
                         }});
 }
 
@@ -76,7 +104,7 @@ void parse_table_s::add(std::string key, std::optional<MacBytes> &value) {
 
 void parse_table_s::add_port(std::string key, std::optional<std::int32_t> &value) {
     options_.push_back({std::move(key), false, [this, &value](std::string_view text) {
-                            return keep(value, read_gport(text, names_));
+                            return keep(value, read_port_there(text, names_));
                         }});
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "native/values.h"
+#include "standin/model/port_set.h"
 #include "standin/text/address_text.h"
 #include "standin/text/port_text.h"
 
@@ -29,6 +30,20 @@ struct args_s {
     // Takes all that is left, joined by blanks.
     std::string take_rest();
 };
+
+namespace standin {
+
+// The number of a local port, which may come as a global one.
+constexpr int plain_port(std::int32_t port) {
+    return gport_type(port) == kLocalGport.type ? port & kLocalGport.mask : port;
+}
+
+// A list of ports that are all among `names`; else nothing, with `fault` saying which is not. With
+// no names at all any port will do.
+std::optional<PortSet> read_ports_there(std::string_view text, const PortNames &names,
+                                        std::string &fault);
+
+}  // namespace standin
 
 struct parse_table_s {
     // `unit` gives the names of ports.

@@ -43,7 +43,7 @@ std::optional<PortSet> take_ports(int unit, args_t &args, const PortNames &names
     }
     std::string fault;
     bool given = !args.empty() && args.peek()->find('=') == std::string::npos;
-    std::optional<PortSet> ports = read_port_list(given ? *args.take() : "all", names, fault);
+    std::optional<PortSet> ports = read_ports_there(given ? *args.take() : "all", names, fault);
     if (!ports) refuse(args, fault);
     return ports;
 }

@@ -11,6 +11,8 @@
 #include "standin/base/number_text.h"
 #include "standin/base/output.h"
 #include "standin/base/scan.h"
+#include "standin/model/model.h"
+#include "standin/model/switch.h"
 #include "standin/shell/commands.h"
 #include "standin/text/name_text.h"
 #include "standin/text/unit_ports.h"
@@ -102,13 +104,37 @@ int apply(int unit, int port, const PortChange &change) {
     set(change.frame, bcm_port_frame_max_set);
     set(change.loopback_mode, bcm_port_loopback_set);
     set(change.vlan, [](int of_unit, int of_port, int vlan) {
-        if (vlan < 0 || vlan > 0xffff) return BCM_E_PARAM;
         return bcm_port_untagged_vlan_set(of_unit, of_port, static_cast<bcm_vlan_t>(vlan));
     });
     set(change.learn, [](int of_unit, int of_port, int flags) {
         return bcm_port_learn_set(of_unit, of_port, static_cast<uint32>(flags));
     });
     return status;
+}
+
+// Whether every port could take the change, before any does: the status of the first that cannot,
+// and its number in `port`.
+int check(int unit, const PortSet &ports, const PortChange &change, int &port) {
+    auto is_flag = [](const std::optional<std::int32_t> &value) {
+        return !value || within(*value, 0, 1);
+    };
+    auto in_range = [](const std::optional<std::int32_t> &value, int low, int high) {
+        return !value || within(*value, low, high);
+    };
+    bool good = is_flag(change.enable) && is_flag(change.autoneg) && is_flag(change.duplex) &&
+                in_range(change.frame, kSmallestFrame, kLargestFrame) &&
+                in_range(change.vlan, kFirstVlan, kLastVlan) && in_range(change.learn, 0, 7);
+    return on_switch("port", unit, [&](Switch &chip) {
+        cmd_result_t first = for_ports(ports, [&](int each) {
+            port = each;
+            const Port *one = chip.ports.find(each);
+            bool runs = one != nullptr && (change.speed.value_or(0) == 0 ||
+                                           can_run_at(*one, *change.speed));
+            return runs ? kOk : kFail;
+        });
+        if (!good) return BCM_E_PARAM;
+        return first == kOk ? BCM_E_NONE : BCM_E_CONFIG;
+    });
 }
 
 std::string hex_cell(U32 value) { return text_of("0x%04x", value); }
@@ -164,11 +190,14 @@ cmd_result_t cmd_port(int unit, args_t *args) {
         print_ports(unit, *ports, names);
         return kOk;
     }
-    return for_ports(*ports, [&](int port) {
-        int status = apply(unit, port, change);
+    auto tell = [&](int port, int status) {
         if (status >= 0) return kOk;
         return refuse(*args, port_text(port, names) + ": " + status_text(status));
-    });
+    };
+    int first = -1;
+    int status = check(unit, *ports, change, first);
+    if (status < 0) return tell(first, status);
+    return for_ports(*ports, [&](int port) { return tell(port, apply(unit, port, change)); });
 }
 
 cmd_result_t cmd_ps(int unit, args_t *args) {
@@ -218,7 +247,7 @@ cmd_result_t cmd_phy(int unit, args_t *args) {
     std::optional<std::string> value_word = args->take();
     std::optional<std::uint32_t> reg = read_u32(reg_word.value_or("0"));
     std::optional<std::uint32_t> value = read_u32(value_word.value_or("0"));
-    if (!args->empty() || !reg || !value) return kUsage;
+    if (!args->empty() || !reg || !value || *value > 0xffff) return kUsage;
     if (value_word) {
         return for_ports(*ports, [&](int port) {
             return report(*args, bcm_port_phy_set(unit, port, 0, *reg, *value));

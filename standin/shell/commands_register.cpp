@@ -6,6 +6,7 @@
 #include "standin/base/number_text.h"
 #include "standin/base/output.h"
 #include "standin/base/scan.h"
+#include "standin/regs/layout.h"
 #include "standin/shell/commands.h"
 #include "standin/text/identifier_text.h"
 #include "standin/text/name_text.h"
@@ -23,7 +24,10 @@ using WideValue = std::array<uint32, kRegisterWords>;
 
 std::string register_text(const soc_regaddrinfo_t &at, const PortNames &names) {
     std::string text = identifier_text(Identifier::kRegister, at.reg);
-    if (at.port >= 0) text += '.' + port_text(at.port, names);
+    const RegisterLayout *layout = find_register(at.reg);
+    bool on_port = layout == nullptr || layout->block->scope == Scope::kPort;
+    // The instances of other registers are cores, which have numbers alone.
+    if (at.port >= 0) text += '.' + (on_port ? port_text(at.port, names) : std::to_string(at.port));
     if (at.idx > 0) text += '[' + std::to_string(at.idx) + ']';
     return text;
 }
@@ -82,16 +86,37 @@ void print_fields(int unit, int reg, WideValue &value) {
     }
 }
 
-// "FIELD=VALUE" applied to `value`.
-bool change_field(int unit, int reg, std::string_view word, WideValue &value) {
+std::string too_wide(const std::string &text, unsigned bits) {
+    return '\'' + text + "' is more than " + std::to_string(bits) + " bits";
+}
+
+// "FIELD=VALUE", read.
+struct FieldChange {
+    std::int32_t field;
+    WideValue value;
+};
+
+// Nothing, with `fault` set, for a field that the register has not or that the value does not fit.
+std::optional<FieldChange> read_change(int unit, int reg, const std::string &word,
+                                       std::string &fault) {
     std::string_view name;
     std::string_view text;
-    WideValue part{};
-    if (!cut(word, '=', name, text) || !read_words(text, part)) return false;
+    FieldChange change{};
+    bool whole = cut(word, '=', name, text);
     std::optional<std::int32_t> field = identifier_of(Identifier::kField, name);
-    if (!field || soc_reg_field_valid(unit, reg, *field) == 0) return false;
-    soc_reg_above_64_field_set(unit, reg, value.data(), *field, part.data());
-    return true;
+    fault = "no field in '" + word + '\'';
+    if (!whole || !field || soc_reg_field_valid(unit, reg, *field) == 0) return std::nullopt;
+    auto bits = static_cast<unsigned>(soc_reg_field_length(unit, reg, *field));
+    fault = too_wide(word, bits);
+    if (!read_words(text, change.value, bits)) return std::nullopt;
+    change.field = *field;
+    return change;
+}
+
+// The bits of a register that can be written; all 32 at an address where nothing lies.
+unsigned bits_of(const soc_regaddrinfo_t &at, bool by_address) {
+    const RegisterLayout *layout = find_register(at.reg);
+    return by_address || layout == nullptr ? kWordBits : layout->bits;
 }
 
 std::optional<MemoryRef> take_memory(args_t &args) {
@@ -152,6 +177,9 @@ cmd_result_t cmd_setreg(int unit, args_t *args) {
     WideValue value{};
     std::optional<std::string> word = args->take();
     if (!word || !args->empty() || !read_words(*word, value)) return kUsage;
+    unsigned bits = bits_of(registers.list.front(), registers.by_address);
+    if (!read_words(*word, value, bits))
+        return refuse(*args, too_wide(*word, bits));
     for (const soc_regaddrinfo_t &at : registers.list) {
         int status = write_register(unit, at, registers.by_address, value);
         if (status < 0) return report(*args, status);
@@ -165,14 +193,21 @@ cmd_result_t cmd_modreg(int unit, args_t *args) {
     if (!take_registers(unit, *args, registers, result)) return result;
     if (args->empty()) return kUsage;
     if (registers.by_address) return refuse(*args, "an address has no fields");
+    // One reference means one register, on however many ports.
+    int reg = registers.list.front().reg;
+    std::vector<FieldChange> changes;
+    while (std::optional<std::string> word = args->take()) {
+        std::string fault;
+        std::optional<FieldChange> change = read_change(unit, reg, *word, fault);
+        if (!change) return refuse(*args, fault);
+        changes.push_back(*change);
+    }
     for (const soc_regaddrinfo_t &at : registers.list) {
         WideValue value{};
-        int status = read_register(unit, at, registers.by_address, value);
-        for (std::size_t word = args->next; word < args->words.size() && status >= 0; ++word) {
-            if (change_field(unit, at.reg, args->words[word], value)) continue;
-            return refuse(*args, "no field in '" + args->words[word] + '\'');
-        }
-        if (status >= 0) status = write_register(unit, at, registers.by_address, value);
+        int status = read_register(unit, at, false, value);
+        for (FieldChange &change : changes)
+            soc_reg_above_64_field_set(unit, reg, value.data(), change.field, change.value.data());
+        if (status >= 0) status = write_register(unit, at, false, value);
         if (status < 0) return report(*args, status);
     }
     return kOk;
@@ -194,7 +229,11 @@ cmd_result_t cmd_dump(int unit, args_t *args) {
     std::optional<std::int32_t> first = read_i32(args->take().value_or("0"));
     std::optional<std::int32_t> count = read_i32(args->take().value_or("1"));
     if (!first || !count || *first < 0 || *count < 1 || !args->empty()) return kUsage;
-    for (std::int32_t at = 0; at < *count && *first <= 0x7fffffff - at; ++at) {
+    const MemoryLayout *layout = find_memory(ref->memory);
+    int entries = layout == nullptr ? 0 : layout->entries;
+    if (*first >= entries || *count > entries - *first)
+        return refuse(*args, "entries are 0 to " + std::to_string(entries - 1));
+    for (std::int32_t at = 0; at < *count; ++at) {
         std::array<uint32, kEntryWords> entry{};
         int status = soc_mem_array_read(unit, ref->memory, ref->array_index, ref->copy, *first + at,
                                         entry.data());
@@ -212,6 +251,9 @@ cmd_result_t cmd_write(int unit, args_t *args) {
     std::array<uint32, kEntryWords> entry{};
     std::optional<std::string> value = args->take();
     if (!index || !value || !read_words(*value, entry) || !args->empty()) return kUsage;
+    const MemoryLayout *layout = find_memory(ref->memory);
+    unsigned bits = layout == nullptr ? kWordBits : layout->bits;
+    if (!read_words(*value, entry, bits)) return refuse(*args, too_wide(*value, bits));
     return report(*args, soc_mem_array_write(unit, ref->memory, ref->array_index, ref->copy, *index,
                                              entry.data()));
 }

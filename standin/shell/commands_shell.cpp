@@ -43,11 +43,22 @@ std::optional<int> knob_value(std::string_view text) {
     return *truth ? 1 : 0;
 }
 
+// A number with its sign, so that numbers compare as these do: a sign, then two's complement.
+using Ordered = std::pair<bool, std::uint64_t>;
+std::optional<Ordered> ordered(std::string_view text) {
+    bool minus = text.starts_with('-');
+    if (minus || text.starts_with('+')) text.remove_prefix(1);
+    std::optional<std::uint64_t> size = read_u64(text);
+    if (!size || is_blank(text.front())) return std::nullopt;
+    bool below = minus && *size != 0;
+    return Ordered{!below, below ? 0 - *size : *size};
+}
+
 // `left op right`, by number where both are, else by text. Nothing for an unknown operator.
 std::optional<bool> compare(const std::string &left, std::string_view op,
                             const std::string &right) {
-    std::optional<std::uint64_t> first = read_u64(left);
-    std::optional<std::uint64_t> second = read_u64(right);
+    std::optional<Ordered> first = ordered(left);
+    std::optional<Ordered> second = ordered(right);
     int order = left.compare(right);
     if (first && second) order = *first < *second ? -1 : *first > *second ? 1 : 0;
     if (op == "==") return order == 0;
@@ -69,17 +80,20 @@ std::optional<bool> take_condition(args_t &args) {
     return compare(left, op, args.take().value_or(""));
 }
 
-// The members of "1-4,9,abc": numbers in ranges, any other word as it is.
-std::vector<std::string> loop_values(std::string_view text) {
+constexpr std::size_t kMostTurns = 65536;  // of one `for`
+
+// The members of "1-4,9,abc": numbers in ranges, any other word as it is. Nothing for too many.
+std::optional<std::vector<std::string>> loop_values(std::string_view text) {
     constexpr Range kAny = {0, 0x7fffffff};
-    constexpr int kMost = 65536;
     std::vector<std::string> values;
     for (std::string_view item : split(text, ",")) {
         std::optional<Range> range = read_range(item, kAny);
-        if (!range || range->high - range->low >= kMost) {
+        if (!range) {
             values.emplace_back(item);
             continue;
         }
+        auto more = static_cast<std::size_t>(range->high - range->low);
+        if (values.size() + more >= kMostTurns) return std::nullopt;
         for (int value = range->low; value <= range->high; ++value)
             values.push_back(std::to_string(value));
     }
@@ -137,6 +151,7 @@ cmd_result_t cmd_set(int, args_t *args) {
         table.print();
         return kOk;
     }
+    std::vector<std::pair<int *, int>> changes;
     while (std::optional<std::string> word = args->take()) {
         std::string_view name;
         std::string_view text;
@@ -144,8 +159,9 @@ cmd_result_t cmd_set(int, args_t *args) {
         const Knob *knob = find_knob(name);
         std::optional<int> value = knob_value(has_value ? text : "1");
         if (knob == nullptr || !value) return kUsage;
-        *knob->value = *value;
+        changes.emplace_back(knob->value, *value);
     }
+    for (const auto &[setting, value] : changes) *setting = value;
     return kOk;
 }
 
@@ -193,9 +209,11 @@ cmd_result_t cmd_for(int unit, args_t *args) {
     std::optional<std::string> command = args->take();
     if (!head || !command || !args->empty() || !cut(*head, '=', name, list) || name.empty())
         return kUsage;
+    std::optional<std::vector<std::string>> values = loop_values(list);
+    if (!values) return refuse(*args, "more than " + std::to_string(kMostTurns) + " values");
     cmd_result_t result = kOk;
     bool go_on = true;
-    for (const std::string &value : loop_values(list)) {
+    for (const std::string &value : *values) {
         Shell::instance().variable_set(std::string(name), value);
         result = turn(unit, *command, go_on);
         if (!go_on) break;

@@ -15,11 +15,6 @@
 namespace standin {
 namespace {
 
-// The number of a local port, which may come as a global port number.
-int plain_port(int port) {
-    return gport_type(port) == kLocalGport.type ? port & kLocalGport.mask : port;
-}
-
 // What picks rows of the MAC table, and what a new row holds.
 struct L2Options {
     std::optional<MacBytes> mac;
@@ -65,6 +60,7 @@ cmd_result_t pick_rows(int unit, args_t &args, std::vector<bcm_l2_addr_t> &rows)
     L2Options options;
     cmd_result_t result = kOk;
     if (!read_options(unit, args, options, result)) return result;
+    if (options.vlan && !vlan_ok(options.vlan)) return kUsage;
     int status = bcm_l2_traverse(unit, collect_row, &rows);
     std::erase_if(rows, [&](const bcm_l2_addr_t &row) { return !picked(row, options); });
     return report(args, status);
@@ -119,7 +115,8 @@ cmd_result_t l2_delete(int unit, args_t *args) {
     L2Options options;
     cmd_result_t result = kOk;
     if (!read_options(unit, *args, options, result)) return result;
-    if (!options.mac || !vlan_ok(options.vlan)) return kUsage;
+    bool more = options.port || options.trunk || options.is_static || options.discard;
+    if (!options.mac || !vlan_ok(options.vlan) || more) return kUsage;
     auto vlan = static_cast<bcm_vlan_t>(*options.vlan);
     return report(*args, bcm_l2_addr_delete(unit, options.mac->data(), vlan));
 }
@@ -180,16 +177,18 @@ cmd_result_t vlan_show(int unit, args_t *args) {
     return kOk;
 }
 
+enum class VlanOptions { kNone, kPorts, kUntagged };  // each with those before it
+
 // Runs `call` with the VLAN that the next word names and the ports of the options.
 template <class Call>
-cmd_result_t on_vlan(int unit, args_t &args, Call &&call) {
+cmd_result_t on_vlan(int unit, args_t &args, VlanOptions options, Call &&call) {
     std::optional<std::int32_t> vlan = take_number(args);
     if (!vlan) return kUsage;
     std::optional<PortSet> ports;
     std::optional<PortSet> untagged;
     parse_table_s table(unit);
-    table.add("ports", ports);
-    table.add("untagged", untagged);
+    if (options >= VlanOptions::kPorts) table.add("ports", ports);
+    if (options >= VlanOptions::kUntagged) table.add("untagged", untagged);
     cmd_result_t result = kOk;
     if (!parse_all(args, table, result)) return result;
     PortSet members = ports.value_or(PortSet()) | untagged.value_or(PortSet());
@@ -198,7 +197,7 @@ cmd_result_t on_vlan(int unit, args_t &args, Call &&call) {
 }
 
 cmd_result_t vlan_create(int unit, args_t *args) {
-    return on_vlan(unit, *args, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t untagged) {
+    return on_vlan(unit, *args, VlanOptions::kUntagged, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t untagged) {
         int status = bcm_vlan_create(unit, vlan);
         if (status < 0 || port_set_of(ports).none()) return status;
         return bcm_vlan_port_add(unit, vlan, ports, untagged);
@@ -206,19 +205,19 @@ cmd_result_t vlan_create(int unit, args_t *args) {
 }
 
 cmd_result_t vlan_destroy(int unit, args_t *args) {
-    return on_vlan(unit, *args, [&](bcm_vlan_t vlan, bcm_pbmp_t, bcm_pbmp_t) {
+    return on_vlan(unit, *args, VlanOptions::kNone, [&](bcm_vlan_t vlan, bcm_pbmp_t, bcm_pbmp_t) {
         return bcm_vlan_destroy(unit, vlan);
     });
 }
 
 cmd_result_t vlan_add(int unit, args_t *args) {
-    return on_vlan(unit, *args, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t untagged) {
+    return on_vlan(unit, *args, VlanOptions::kUntagged, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t untagged) {
         return bcm_vlan_port_add(unit, vlan, ports, untagged);
     });
 }
 
 cmd_result_t vlan_remove(int unit, args_t *args) {
-    return on_vlan(unit, *args, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t) {
+    return on_vlan(unit, *args, VlanOptions::kPorts, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t) {
         return bcm_vlan_port_remove(unit, vlan, ports);
     });
 }

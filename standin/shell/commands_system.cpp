@@ -30,19 +30,28 @@ cmd_result_t config_get_one(int, args_t *args) {
 
 cmd_result_t config_change(int, args_t *args) {
     if (args->empty()) return kUsage;
+    std::vector<std::pair<std::string, std::string>> settings;
     while (std::optional<std::string> word = args->take()) {
         std::string_view name;
         std::string_view value;
         if (!cut(*word, '=', name, value)) return kUsage;
-        if (!config_set(name, value)) return refuse(*args, "bad setting '" + *word + '\'');
+        std::string fault;
+        if (!config_setting_ok(name, value, fault))
+            return refuse(*args, "bad setting '" + *word + "': " + fault);
+        settings.emplace_back(name, value);
     }
+    for (const auto &[name, value] : settings) config_set(name, value);
     return kOk;
 }
 
 cmd_result_t config_delete(int, args_t *args) {
     if (args->empty()) return kUsage;
-    while (std::optional<std::string> name = args->take())
-        if (!config_remove(*name)) return refuse(*args, "no setting '" + *name + '\'');
+    std::vector<std::string> names;
+    while (std::optional<std::string> name = args->take()) {
+        if (!config_get(*name)) return refuse(*args, "no setting '" + *name + '\'');
+        names.push_back(*name);
+    }
+    for (const std::string &name : names) config_remove(name);
     return kOk;
 }
 
@@ -137,7 +146,7 @@ cmd_result_t trace_print(int, args_t *args) {
 cmd_result_t pw_start(int unit, args_t *args) {
     if (!args->empty()) return kUsage;
     if (sh_check_attached("pw start", unit) != BCM_E_NONE) return kFail;
-    Shell::instance().watching.insert(unit);
+    Shell::instance().watching_set(unit, true);
     return kOk;
 }
 

@@ -19,6 +19,7 @@ bool ask_more() {
     std::fflush(stdout);
     int first = std::getc(stdin);
     for (int sign = first; sign != '\n' && sign != EOF;) sign = std::getc(stdin);
+    std::clearerr(stdin);  // an end or a signal is the pager's, not the next line's
     return first != EOF && first != 'q' && first != 'Q';
 }
 
@@ -73,8 +74,10 @@ cmd_result_t interact(LineSource &source, int unit, const std::string &prefix, b
         pager.renew();
         cmd_result_t result = shell.run(shell.unit(), line.c_str());
         if (result == kExit) return kExit;
-        if (result == kInterrupted) {
+        // A signal that came too late for the command, or at its pager, is done with as well.
+        if (interrupted() || result == kInterrupted) {
             interrupt_take();
+            out_pager_set(0, nullptr);
             out("interrupted\n");
         }
     }

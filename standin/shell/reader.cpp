@@ -115,8 +115,7 @@ SplitLine split_commands(std::string_view line) {
     SplitLine out;
     std::string command;
     char quote = '\0';
-    bool comment = false;
-    for (std::size_t at = 0; at < line.size() && !comment; ++at) {
+    for (std::size_t at = 0; at < line.size(); ++at) {
         char sign = line[at];
         bool word_start = at == 0 || is_blank(line[at - 1]) || line[at - 1] == ';';
         if (quote == '\0' && sign == ';') {
@@ -124,8 +123,8 @@ SplitLine split_commands(std::string_view line) {
             command.clear();
             continue;
         }
-        comment = quote == '\0' && sign == '#' && word_start;
-        if (comment) break;
+        out.comment = quote == '\0' && sign == '#' && word_start;
+        if (out.comment) break;
         command += sign;
         if (sign == '\\' && quote != '\'' && at + 1 < line.size()) {
             command += line[++at];
@@ -162,7 +161,7 @@ Words read_command_words(std::string_view command, const VariableLookup &lookup)
 bool take_continuation(std::string &line) {
     std::size_t slashes = 0;
     while (slashes < line.size() && line[line.size() - 1 - slashes] == '\\') ++slashes;
-    if (slashes % 2 == 0) return false;
+    if (slashes % 2 == 0 || split_commands(line).comment) return false;
     line.pop_back();
     return true;
 }

@@ -31,6 +31,7 @@ struct UnitPrefix {
 // The commands of a line, as text; a fault for quotes that stay open.
 struct SplitLine {
     std::vector<std::string> commands;
+    bool comment = false;  // whether the line ends in one
     std::optional<ShellFault> fault;
 };
 SplitLine split_commands(std::string_view line);
@@ -46,8 +47,8 @@ struct Words {
 };
 Words read_command_words(std::string_view command, const VariableLookup &lookup);
 
-// Whether a line asks for another one behind it: it ends in a backslash that nothing escapes.
-// The backslash is taken off.
+// Whether a line asks for another one behind it: it ends in a backslash that nothing escapes, and
+// not in a comment, which ends with its line. The backslash is taken off.
 bool take_continuation(std::string &line);
 
 }  // namespace standin

@@ -2,9 +2,11 @@
 #include "standin/shell/session.h"
 
 #include <array>
+#include <atomic>
 #include <chrono>
 
 #include "sdk/bcm/init.h"
+#include "sdk/diag/shell.h"
 #include "sdk/variables.h"
 #include "standin/base/config_file.h"
 #include "standin/base/log.h"
@@ -20,16 +22,30 @@ namespace {
 
 constexpr int kUnits = SOC_MAX_NUM_DEVICES;
 
-// Counts a level of nesting while it lives.
-class Level {
-  public:
-    explicit Level(int &depth) : depth_(depth) { ++depth_; }
-    ~Level() { --depth_; }
-    Level(const Level &) = delete;
-    Level &operator=(const Level &) = delete;
+// How deep this thread is in commands, and in files with their words.
+thread_local int depth = 0;
+thread_local std::vector<std::vector<std::string>> files;
 
-  private:
-    int &depth_;
+class CommandLevel {
+  public:
+    CommandLevel() { ++depth; }
+    ~CommandLevel() { --depth; }
+    CommandLevel(const CommandLevel &) = delete;
+    CommandLevel &operator=(const CommandLevel &) = delete;
+};
+
+class FileLevel {
+  public:
+    explicit FileLevel(const std::vector<std::string> &words) {
+        files.push_back(words);
+        ++std::atomic_ref(sh_rcload_depth);
+    }
+    ~FileLevel() {
+        files.pop_back();
+        --std::atomic_ref(sh_rcload_depth);
+    }
+    FileLevel(const FileLevel &) = delete;
+    FileLevel &operator=(const FileLevel &) = delete;
 };
 
 // The logical lines of a file with the number of the first physical line of each.
@@ -47,12 +63,11 @@ std::vector<FileLine> lines_of(std::string_view text) {
         text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
         ++number;
         if (line.ends_with('\r')) line.pop_back();
-        bool more = take_continuation(line);
         if (joined)
             lines.back().text += line;
         else
             lines.push_back({line, number});
-        joined = more;
+        joined = take_continuation(lines.back().text);
     }
     return lines;
 }
@@ -90,27 +105,21 @@ Shell &Shell::instance() {
 }
 
 cmd_result_t Shell::run(int unit, const char *line) {
-    if (line == nullptr) return kFail;
-    std::lock_guard hold(lock_);
-    return run_line(unit, line, false);
+    return line == nullptr ? kFail : run_line(unit, line, false);
 }
 
 cmd_result_t Shell::run_checked(int unit, const char *line) {
     if (line == nullptr) return kFail;
-    std::lock_guard hold(lock_);
-    if (!unit_attached(unit)) {
-        outf("unit %d is not attached\n", unit);
-        return kFail;
-    }
+    if (sh_check_attached(nullptr, unit) != BCM_E_NONE) return kFail;
     return run_line(unit, line, true);
 }
 
 cmd_result_t Shell::run_line(int unit, std::string_view line, bool checked) {
-    if (depth_ >= kCommandDepth) {
+    if (depth >= kCommandDepth) {
         out("commands are nested too deeply\n");
         return kFail;
     }
-    Level level(depth_);
+    CommandLevel level;
     InterruptScope interrupts;
     SplitLine split = split_commands(line);
     if (split.fault) {
@@ -130,6 +139,7 @@ cmd_result_t Shell::run_line(int unit, std::string_view line, bool checked) {
 cmd_result_t Shell::run_command(int unit, std::string_view text) {
     std::optional<UnitPrefix> prefix = take_unit_prefix(text);
     if (!prefix) return run_on_units(std::string(text), unit);
+    if (!prefix->every && sh_check_attached(nullptr, prefix->unit) != BCM_E_NONE) return kFail;
     if (text.empty() && !prefix->every) {
         unit_ = prefix->unit;
         return kOk;
@@ -161,7 +171,7 @@ cmd_result_t Shell::run_on_units(const std::string &text, int unit) {
     if (trace_wanted())
         trace("shell u" + std::to_string(unit) + ": " + text + ": " + result_name(result));
     report_result(name, result);
-    if (sh_set_report_time != 0 && depth_ == 1) {
+    if (sh_set_report_time != 0 && depth == 1) {
         std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
         outf("%s: %.3f s\n", name.c_str(), took.count());
     }
@@ -184,23 +194,19 @@ cmd_result_t Shell::call(int unit, std::vector<std::string> words) {
 
 cmd_result_t Shell::run_file(int unit, const std::string &path,
                              const std::vector<std::string> &words, bool add_rc) {
-    std::lock_guard hold(lock_);
     std::string name = add_rc && !path.ends_with(".rc") ? path + ".rc" : path;
     std::string text;
     if (!read_file(name, text)) {
         outf("%s: cannot be read\n", name.c_str());
         return kNotFound;
     }
-    if (sh_rcload_depth >= kFileDepth) {
+    if (files.size() >= kFileDepth) {
         outf("%s: files are nested too deeply\n", name.c_str());
         return kFail;
     }
-    Level level(sh_rcload_depth);
+    FileLevel level(words);
     InterruptScope interrupts;
-    positional_.push_back(words);
-    cmd_result_t result = run_lines(unit, name, text);
-    positional_.pop_back();
-    return result;
+    return run_lines(unit, name, text);
 }
 
 cmd_result_t Shell::run_lines(int unit, const std::string &name, std::string_view text) {
@@ -222,26 +228,59 @@ cmd_result_t Shell::run_lines(int unit, const std::string &name, std::string_vie
 
 std::string Shell::variable(std::string_view name) const {
     if (std::optional<std::uint64_t> place = read_u64(name)) {
-        bool there = !positional_.empty() && *place > 0 && *place <= positional_.back().size();
-        return there ? positional_.back()[*place - 1] : std::string();
+        bool there = !files.empty() && *place > 0 && *place <= files.back().size();
+        return there ? files.back()[*place - 1] : std::string();
     }
-    const auto &all = variables();
-    auto found = all.find(std::string(name));
-    return found == all.end() ? std::string() : found->second;
+    std::lock_guard hold(lock_);
+    auto set = variables_.find(variables_unit_);
+    if (set == variables_.end()) return {};
+    auto found = set->second.find(std::string(name));
+    return found == set->second.end() ? std::string() : found->second;
+}
+
+void Shell::swap_variables(int unit) {
+    std::lock_guard hold(lock_);
+    variables_unit_ = unit;
+}
+
+std::optional<std::string> Shell::start_file(int unit) const {
+    std::lock_guard hold(lock_);
+    auto found = start_files_.find(unit);
+    return found == start_files_.end() ? std::nullopt : std::optional(found->second);
+}
+
+void Shell::start_file_set(int unit, const std::string &name) {
+    std::lock_guard hold(lock_);
+    if (name.empty())
+        start_files_.erase(unit);
+    else
+        start_files_[unit] = name;
+}
+
+bool Shell::watching(int unit) const {
+    std::lock_guard hold(lock_);
+    return watching_.count(unit) != 0;
+}
+
+bool Shell::watching_set(int unit, bool on) {
+    std::lock_guard hold(lock_);
+    return on ? watching_.insert(unit).second : watching_.erase(unit) != 0;
 }
 
 void Shell::variable_set(const std::string &name, const std::string &value) {
+    std::lock_guard hold(lock_);
     variables_[variables_unit_][name] = value;
 }
 
 bool Shell::variable_remove(const std::string &name) {
+    std::lock_guard hold(lock_);
     return variables_[variables_unit_].erase(name) > 0;
 }
 
-const std::map<std::string, std::string> &Shell::variables() const {
-    static const std::map<std::string, std::string> none;
+std::map<std::string, std::string> Shell::variables() const {
+    std::lock_guard hold(lock_);
     auto found = variables_.find(variables_unit_);
-    return found == variables_.end() ? none : found->second;
+    return found == variables_.end() ? std::map<std::string, std::string>() : found->second;
 }
 
 }  // namespace standin

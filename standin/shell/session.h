@@ -1,7 +1,8 @@
 // The shell: running lines of commands, and what it remembers between them.
 //
-// One shell a process. Commands run one at a time, whatever thread asks; a command that runs
-// another one (loop, if, rcload) does so on its own thread.
+// One shell a process, for every thread that asks. Commands run side by side, and no lock is held
+// while one does: it may reach an object of Python, and wait for a thread that waits for the shell.
+// Nesting and the words of files belong to the thread, all else is shared.
 //
 // Results: the last command's result is the line's, and `$?`. A command that fails does not keep
 // the rest of its line from running, CMD_EXIT and CMD_INTR do. A line of nothing is CMD_OK.
@@ -18,8 +19,10 @@
 //   sh_rcload_depth       how many files are being run, one inside the other; at most 16
 #pragma once
 
+#include <atomic>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -40,8 +43,8 @@ inline constexpr cmd_result_t kExit{CMD_EXIT};
 inline constexpr cmd_result_t kInterrupted{CMD_INTR};
 inline constexpr cmd_result_t kNotImplemented{CMD_NOTIMPL};
 
-inline constexpr int kFileDepth = 16;     // files within files
-inline constexpr int kCommandDepth = 64;  // commands within commands
+inline constexpr std::size_t kFileDepth = 16;  // files within files
+inline constexpr int kCommandDepth = 64;       // commands within commands
 
 // "CMD_FAIL"
 const char *result_name(int result);
@@ -67,15 +70,20 @@ class Shell {
     std::string variable(std::string_view name) const;
     void variable_set(const std::string &name, const std::string &value);
     bool variable_remove(const std::string &name);
-    const std::map<std::string, std::string> &variables() const;
-    void swap_variables(int unit) { variables_unit_ = unit; }
+    std::map<std::string, std::string> variables() const;
+    void swap_variables(int unit);
 
     // The unit for lines that name none, in the interactive shell.
     int unit() const { return unit_; }
     void unit_set(int unit) { unit_ = unit; }
 
-    std::map<int, std::string> start_files;  // by unit
-    std::set<int> watching;                  // units whose packet watcher runs
+    // The start-up file of a unit; an empty name is none.
+    std::optional<std::string> start_file(int unit) const;
+    void start_file_set(int unit, const std::string &name);
+
+    // Whether the packet watcher of a unit runs; false when the setting was that already.
+    bool watching(int unit) const;
+    bool watching_set(int unit, bool on);
 
   private:
     Shell() = default;
@@ -85,13 +93,14 @@ class Shell {
     cmd_result_t run_lines(int unit, const std::string &name, std::string_view text);
     cmd_result_t call(int unit, std::vector<std::string> words);
 
-    mutable std::recursive_mutex lock_;
+    std::atomic<int> unit_ = 0;
+    std::atomic<int> result_ = CMD_OK;
+
+    mutable std::mutex lock_;  // guards the rest
     std::map<int, std::map<std::string, std::string>> variables_;
-    std::vector<std::vector<std::string>> positional_;  // of the files that run
     int variables_unit_ = 0;
-    int unit_ = 0;
-    int depth_ = 0;
-    int result_ = CMD_OK;
+    std::map<int, std::string> start_files_;
+    std::set<int> watching_;
 };
 
 // Whether the library has this unit.

@@ -89,24 +89,22 @@ int sh_check_attached(char const *pfx, int unit) {
 void sh_swap_unit_vars(int new_unit) { Shell::instance().swap_variables(new_unit); }
 
 void diag_rc_set(int unit, char const *fname) {
-    if (fname == nullptr || *fname == '\0')
-        Shell::instance().start_files.erase(unit);
-    else
-        Shell::instance().start_files[unit] = fname;
+    Shell::instance().start_file_set(unit, std::string(view_of(fname)));
 }
 
 void diag_rc_get(int unit, char const **fname) {
     if (fname == nullptr) return;
-    const auto &files = Shell::instance().start_files;
-    auto found = files.find(unit);
-    *fname = found == files.end() ? nullptr : found->second.c_str();
+    // Lent out until this thread asks again: another one may set a name.
+    thread_local std::string lent;
+    std::optional<std::string> file = Shell::instance().start_file(unit);
+    lent = file.value_or("");
+    *fname = file ? lent.c_str() : nullptr;
 }
 
 int diag_rc_load(int unit) {
-    char const *file = nullptr;
-    diag_rc_get(unit, &file);
-    if (file == nullptr || sh_set_rcload == 0) return BCM_E_NONE;
-    cmd_result_t result = Shell::instance().run_file(unit, file, {}, false);
+    std::optional<std::string> file = Shell::instance().start_file(unit);
+    if (!file || sh_set_rcload == 0) return BCM_E_NONE;
+    cmd_result_t result = Shell::instance().run_file(unit, *file, {}, false);
     if (result == kNotFound) return BCM_E_NOT_FOUND;
     return result == kOk ? BCM_E_NONE : BCM_E_FAIL;
 }
@@ -121,9 +119,9 @@ void sh_block_ctrl_c(int block) { interrupt_block(block != 0); }
 
 void sh_ctrl_c_take(void) { interrupt_take(); }
 
-int pw_running(int unit) { return Shell::instance().watching.count(unit) != 0 ? 1 : 0; }
+int pw_running(int unit) { return Shell::instance().watching(unit) ? 1 : 0; }
 
 // There is no task that would have to be waited for, so `sync` changes nothing.
 cmd_result_t pw_stop(int unit, int) {
-    return Shell::instance().watching.erase(unit) != 0 ? kOk : kFail;
+    return Shell::instance().watching_set(unit, false) ? kOk : kFail;
 }

@@ -39,13 +39,13 @@ int sal_config_flush(void) {
 
 int sal_config_file_set(char const *fname, char const *tname) {
     if (fname == nullptr || *fname == '\0') return BCM_E_PARAM;
-    config_files_set({fname, text_or(tname, std::string(fname) + ".tmp")});
+    config_files_set({fname, text_or(tname, {})});
     return BCM_E_NONE;
 }
 
 int sal_config_file_get(char const **fname, char const **tname) {
     if (fname == nullptr && tname == nullptr) return BCM_E_PARAM;
-    // The names are lent out until this thread asks again.
+    // The names are lent out until this thread asks again; an empty one is none.
     thread_local ConfigFiles files;
     files = config_files();
     if (fname != nullptr) *fname = files.file.c_str();
@@ -70,7 +70,12 @@ char *sal_config_get(char const *name) {
 int sal_config_set(char *name, char *value) {
     if (name == nullptr || !config_name_ok(name)) return BCM_E_PARAM;
     if (value == nullptr) return config_remove(name) ? BCM_E_NONE : BCM_E_NOT_FOUND;
-    return config_set(name, value) ? BCM_E_NONE : BCM_E_PARAM;
+    if (config_set(name, value)) return BCM_E_NONE;
+    std::string fault;
+    config_setting_ok(name, value, fault);
+    log_message(kSeverityError, kLayerSal, kSourceConfig, kNoUnit,
+                std::string("setting ") + name + ": " + fault);
+    return BCM_E_PARAM;
 }
 
 int sal_config_get_next(char **name, char **value) {

@@ -20,7 +20,7 @@ class ConfigStore : public ::testing::Test {
     void SetUp() override { config_clear(); }
     void TearDown() override {
         config_clear();
-        config_files_set({std::string(kConfigFile), std::string(kConfigFile) + ".tmp"});
+        config_files_set({std::string(kConfigFile), {}});
     }
 
     std::string text_of_store() {
@@ -215,6 +215,53 @@ TEST_F(ConfigStore, SaveKeepsPermissionsAndRefusesWhatItCannotRead) {
     EXPECT_EQ(sal_config_save(Text("/tmp"), nullptr, 1), BCM_E_FAIL);
     EXPECT_EQ(sal_config_save(Text("/tmp"), nullptr, 0), BCM_E_FAIL);
     log_level_set(kLayerSal, kSourceConfig, kSeverityWarning);
+}
+
+TEST_F(ConfigStore, SaveFollowsLinksAndRefusesWhatIsNoPlainFile) {
+    config_set("a", "1");
+    std::string file = directory_.file_with("real", "old=1\n");
+    ASSERT_EQ(::chmod(file.c_str(), 0640), 0);
+    std::string link = directory_.file("link");
+    ASSERT_EQ(::symlink("real", link.c_str()), 0);
+    ASSERT_EQ(sal_config_save(Text(link), nullptr, 1), BCM_E_NONE);
+    EXPECT_EQ(content(file), "old=1\na=1\n");
+    struct stat state {};
+    ASSERT_EQ(::lstat(link.c_str(), &state), 0);
+    EXPECT_TRUE(S_ISLNK(state.st_mode));
+    ASSERT_EQ(::stat(file.c_str(), &state), 0);
+    EXPECT_EQ(state.st_mode & 0777u, 0640u);
+    std::string loop = directory_.file("loop");
+    ASSERT_EQ(::symlink("loop", loop.c_str()), 0);
+    std::string fifo = directory_.file("fifo");
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    log_level_set(kLayerSal, kSourceConfig, kSeverityOff);
+    for (const std::string &name : {fifo, loop})
+        for (int append : {0, 1})
+            EXPECT_EQ(sal_config_save(Text(name), nullptr, append), BCM_E_FAIL) << name;
+    log_level_set(kLayerSal, kSourceConfig, kSeverityWarning);
+    ASSERT_EQ(::lstat(fifo.c_str(), &state), 0);
+    EXPECT_TRUE(S_ISFIFO(state.st_mode));
+}
+
+TEST_F(ConfigStore, SaveGoesOverNoFileOfOthers) {
+    config_set("a", "1");
+    std::string victim = directory_.file_with("victim", "untouched\n");
+    std::string file = directory_.file("config");
+    std::string planted = directory_.file("config.tmp");
+    ASSERT_EQ(::symlink(victim.c_str(), planted.c_str()), 0);
+    ASSERT_EQ(sal_config_file_set(file.c_str(), nullptr), BCM_E_NONE);
+    ASSERT_EQ(sal_config_save(nullptr, nullptr, 0), BCM_E_NONE);
+    struct stat state {};
+    EXPECT_EQ(::lstat(planted.c_str(), &state), 0) << "not even looked at";
+    // The name that was given is made anew.
+    ASSERT_EQ(sal_config_file_set(file.c_str(), planted.c_str()), BCM_E_NONE);
+    ASSERT_EQ(sal_config_save(nullptr, nullptr, 0), BCM_E_NONE);
+    EXPECT_NE(::lstat(planted.c_str(), &state), 0);
+    EXPECT_EQ(content(victim), "untouched\n");
+    EXPECT_EQ(content(file), "a=1\n");
+    ASSERT_EQ(::lstat(file.c_str(), &state), 0);
+    EXPECT_TRUE(S_ISREG(state.st_mode));
+    EXPECT_EQ(state.st_mode & 0777u, 0644u);
 }
 
 TEST_F(ConfigStore, FailedSaveLeavesTheOldFile) {

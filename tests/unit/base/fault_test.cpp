@@ -1,8 +1,12 @@
 // Faults set through the configuration store.
 #include "chip_fixture.h"
+#include "helper/trace.h"
 #include "sdk/bcm/l2.h"
 #include "sdk/bcm/vlan.h"
+#include "sdk/sal/config.h"
+#include "standin/base/config_store.h"
 #include "standin/base/faults.h"
+#include "standin/base/log.h"
 
 namespace standin {
 namespace {
@@ -36,12 +40,43 @@ TEST_F(Chip, FaultMeetsCallsOfEveryForm) {
     EXPECT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE) << "only slower";
 }
 
-TEST_F(Chip, UnreadableFaultInjectsNothing) {
-    for (const char *text : {"", "status", "status:", "status:x", "count:0", "status:-6,count:-1",
-                             "status:99999999999", "speed:1", "status:-6;count:1"}) {
-        config_set("fault.bcm_vlan_create", text);
-        EXPECT_EQ(bcm_vlan_create(0, 0), BCM_E_PARAM) << text;
+TEST_F(Chip, AFaultIsRefusedWithTheWordThatIsNotUnderstood) {
+    struct {
+        const char *name;
+        const char *value;
+        const char *word;
+    } const cases[] = {
+        {"bcm_vlan_create", "", ""},
+        {"bcm_vlan_create", "status", "status"},
+        {"bcm_vlan_create", "status:", "status:"},
+        {"bcm_vlan_create", "status:x", "status:x"},
+        {"bcm_vlan_create", "count:0", "count:0"},
+        {"bcm_vlan_create", "status:-6,count:-1", "count:-1"},
+        {"bcm_vlan_create", "status:99999999999", "status:99999999999"},
+        {"bcm_vlan_create", "speed:1,status:-6", "speed:1"},
+        {"bcm_vlan_create", "status:-6;count:1", "status:-6;count:1"},
+        {"table.vlan", "many", "many"},
+        {"table.vlan", "-1", "-1"},
+    };
+    log_level_set(kLayerSal, kSourceConfig, kSeverityOff);
+    for (const auto &one : cases) {
+        const std::string name = std::string("fault.") + one.name;
+        std::string fault;
+        EXPECT_FALSE(config_setting_ok(name, one.value, fault)) << one.value;
+        EXPECT_EQ(fault, std::string("no fault is '") + one.word + '\'');
+        std::string given = name;
+        std::string value = one.value;
+        EXPECT_EQ(sal_config_set(given.data(), value.data()), BCM_E_PARAM);
+        EXPECT_EQ(config_get(name), std::nullopt);
     }
+    log_level_set(kLayerSal, kSourceConfig, kSeverityWarning);
+}
+
+TEST_F(Chip, FaultsMeetTheTraceAsWell) {
+    config_set("fault.captureTrace", "status:-1");
+    captureTrace(true);
+    EXPECT_FALSE(trace_capture());
+    config_clear();
 }
 
 TEST_F(Chip, TableFullAsTold) {
@@ -50,7 +85,7 @@ TEST_F(Chip, TableFullAsTold) {
     config_set("fault.table.vlan", "2");
     EXPECT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
     EXPECT_EQ(bcm_vlan_create(0, 11), BCM_E_FULL) << "the default VLAN counts";
-    config_set("fault.table.vlan", "many");
+    config_remove("fault.table.vlan");
     EXPECT_EQ(bcm_vlan_create(0, 11), BCM_E_NONE);
 }
 

@@ -1,5 +1,6 @@
 // Levels, captures and descriptors of the log and the trace.
 #include "standin/base/log.h"
+#include "standin/base/output.h"
 
 #include <fcntl.h>
 
@@ -106,6 +107,34 @@ TEST_F(LogTest, CaptureForgetsTheOldestLines) {
     captureTrace(true);
     for (int at = 0; at < 10; ++at) trace("line " + std::to_string(at));
     EXPECT_EQ(getTrace().stdString(), "TRACE line 8\nTRACE line 9\n");
+    trace(std::string(40, 'x'));
+    EXPECT_EQ(getTrace().stdString(), "") << "longer than all that is kept";
+    trace("short");
+    EXPECT_EQ(getTrace().stdString(), "TRACE short\n");
+}
+
+// The reader of this pipe is the process that writes, which holds the interpreter lock.
+TEST_F(LogTest, AFullPipeOfTheProcessItselfDropsWhatItCannotTake) {
+    ::alarm(60);
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    ASSERT_EQ(::fcntl(ends[1], F_SETPIPE_SZ, 4096), 4096);
+    ASSERT_TRUE(log_descriptor_set(ends[1]));
+    for (const char *text : {"first", "second"})
+        KorvelWriteBslLogMsg("f", 1, "g", 2, 0, 0, -1, std::string(4000, *text).c_str());
+    std::fflush(stdout);
+    int before = ::dup(STDOUT_FILENO);
+    ::dup2(ends[1], STDOUT_FILENO);
+    out(std::string(100'000, 'o'));
+    ::dup2(before, STDOUT_FILENO);
+    ::close(before);
+    log_descriptor_set(-1);
+    ::close(ends[1]);
+    std::string text(200'000, '\0');
+    text.resize(static_cast<std::size_t>(::read(ends[0], text.data(), text.size())));
+    ::close(ends[0]);
+    EXPECT_EQ(text, "ERROR app.common f:1 g(): " + std::string(4000, 'f') + '\n');
+    ::alarm(0);
 }
 
 TEST_F(LogTest, TraceGoesToTheLogWhenTold) {

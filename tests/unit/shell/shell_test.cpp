@@ -1,6 +1,10 @@
 // The shell: whole sessions, files, variables, interrupts.
+#include <pthread.h>
+
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
+#include <thread>
 
 #include "diag_fixture.h"
 #include "helper/device.h"
@@ -29,7 +33,7 @@ class ShellTest : public ::testing::Test {
     void SetUp() override {
         standin_reset();
         config_clear();
-        config_files_set({std::string(kConfigFile), std::string(kConfigFile) + ".tmp"});
+        config_files_set({std::string(kConfigFile), {}});
         ASSERT_EQ(addOmbraDevice(0, 1, 0, 0), 0);
         ASSERT_EQ(soc_init(0), BCM_E_NONE);
         settings({0, 0, 0, 0, 0, 0, 0});
@@ -37,10 +41,10 @@ class ShellTest : public ::testing::Test {
     }
     void TearDown() override {
         settings({0, 0, 0, 0, 0, 0, 0});
-        while (!Shell::instance().variables().empty())
-            Shell::instance().variable_remove(Shell::instance().variables().begin()->first);
-        Shell::instance().start_files.clear();
-        Shell::instance().watching.clear();
+        for (const auto &variable : Shell::instance().variables())
+            Shell::instance().variable_remove(variable.first);
+        Shell::instance().start_file_set(0, "");
+        Shell::instance().watching_set(0, false);
         config_clear();
         standin_reset();
     }
@@ -88,7 +92,7 @@ TEST_P(ShellSession, GoesAsItDidBefore) {
 
 INSTANTIATE_TEST_SUITE_P(Golden, ShellSession,
                          ::testing::Values("language", "ports", "switching", "registers", "system",
-                                           "help"));
+                                           "help", "refusals"));
 
 TEST_F(ShellTest, ResultCodes) {
     EXPECT_EQ(run(""), CMD_OK);
@@ -142,6 +146,12 @@ TEST_F(ShellTest, FilesStopAtAnErrorOnlyWhenTold) {
     EXPECT_EQ(output(("rcload " + file).c_str()), file + ":1: nonsense\n" + file + ":2: echo on\n");
 }
 
+TEST_F(ShellTest, ACommentEndsWithItsLine) {
+    std::string file = directory_.file_with(
+        "f", "# a comment \\\necho one # another \\\necho 'two # \\\nthree'\n");
+    EXPECT_EQ(output(("rcload " + file).c_str()), "one\ntwo # three\n");
+}
+
 TEST_F(ShellTest, FilesThatLoadThemselvesEnd) {
     std::string file = directory_.file("self");
     ASSERT_TRUE(write_file(file, file + ".new", "rcload " + file + "\n"));
@@ -159,6 +169,9 @@ TEST_F(ShellTest, StartFiles) {
     diag_rc_set(0, file.c_str());
     diag_rc_get(0, &name);
     EXPECT_EQ(name, file);
+    std::thread([] { diag_rc_set(0, "another file with a name that is longer"); }).join();
+    EXPECT_EQ(name, file) << "lent until this thread asks again";
+    diag_rc_set(0, file.c_str());
     sh_set_rcload = 0;
     EXPECT_EQ(diag_rc_load(0), BCM_E_NONE);
     EXPECT_EQ(Shell::instance().variable("loaded"), "");
@@ -250,12 +263,14 @@ class Script : public LineSource {
         : steps_(std::move(steps)), terminal_(terminal) {}
     LineEnd read(const std::string &prompt, std::string &line) override {
         prompts += prompt;
+        ++reads;
         if (at_ == steps_.size()) return LineEnd::kEnd;
         line = steps_[at_].line;
         return steps_[at_++].end;
     }
     bool terminal() const override { return terminal_; }
     std::string prompts;
+    std::atomic<int> reads = 0;
 
   private:
     std::vector<Step> steps_;
@@ -264,19 +279,44 @@ class Script : public LineSource {
 };
 
 TEST_F(ShellTest, InteractiveSession) {
+    ASSERT_EQ(addOmbraDevice(0, 2, 0, 0), 1);
     Capture capture;
     Script script({{LineEnd::kLine, "echo a \\"},
                    {LineEnd::kLine, "b"},
                    {LineEnd::kInterrupt, ""},
                    {LineEnd::kEnd, ""},
                    {LineEnd::kLine, "3:"},
+                   {LineEnd::kLine, "1:"},
                    {LineEnd::kLine, "echo $unit"},
                    {LineEnd::kLine, "exit"},
                    {LineEnd::kLine, "echo not reached"}},
                   true);
     EXPECT_EQ(interact(script, 0, "S", false), CMD_EXIT);
-    EXPECT_EQ(script.prompts, "S.0> > S.0> S.0> S.0> S.3> S.3> ");
-    EXPECT_EQ(capture.text(), "a b\n\n\n'exit' leaves the shell\n3\n");
+    EXPECT_EQ(script.prompts, "S.0> > S.0> S.0> S.0> S.0> S.1> S.1> ");
+    EXPECT_EQ(capture.text(), "a b\n\n\n'exit' leaves the shell\nunit 3 is not attached\n1\n");
+}
+
+// What a person types at the pager is that of a pipe, which stays empty until the signal comes.
+TEST_F(ShellTest, AnInterruptAtThePagerEndsNoOtherCommand) {
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    int input = ::dup(STDIN_FILENO);
+    ::dup2(ends[0], STDIN_FILENO);
+    sh_set_more_lines = 1;
+    auto before = std::signal(SIGINT, [](int) {});
+    Script script({{LineEnd::kLine, "unit"}, {LineEnd::kLine, "setenv after yes"}}, true);
+    std::thread interrupting([&script, person = ::pthread_self()] {
+        while (script.reads < 2) {
+            ::usleep(20'000);
+            if (script.reads == 1) ::pthread_kill(person, SIGINT);
+        }
+    });
+    EXPECT_EQ(interact(script, 0, "S", true), CMD_OK);
+    interrupting.join();
+    std::signal(SIGINT, before);
+    EXPECT_EQ(Shell::instance().variable("after"), "yes");
+    ::dup2(input, STDIN_FILENO);
+    for (int fd : {ends[0], ends[1], input}) ::close(fd);
 }
 
 TEST_F(ShellTest, InputThatStaysAtItsEndEndsTheShell) {
