@@ -6,6 +6,8 @@ SHELL := /bin/bash
 .NOTPARALLEL:
 
 JOBS ?= $(shell nproc)
+ROUNDS ?= 20000
+SEED ?= 1
 prefix ?= /usr/local
 SUITE ?= bullseye
 DESTDIR ?=
@@ -18,7 +20,7 @@ compile_debug := cmake --build build/debug --parallel $(JOBS)
 python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
 have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
 
-.PHONY: help demo test build debug bench docs fuzz portable install install-standin uninstall deb \
+.PHONY: help demo test build debug bench docs race fuzz portable install install-standin uninstall deb \
     deb-test root-test format tidy setup configure mutants clean
 
 demo: build ## install what is missing, build, and run the quick start
@@ -40,6 +42,12 @@ bench: build ## compare with hand-written extension code, ctypes, Cython and pyb
 
 docs: build ## the reference, made from the declarations
 	@$(compile) --target docs
+
+race: build ## threads of both kinds over the libraries, under ThreadSanitizer
+	@setup/configure.sh threads
+	@cmake --build build/threads --parallel $(JOBS) --target soak_threads
+	@LD_LIBRARY_PATH=build/threads/lib PYTHONPATH=build/lib TSAN_OPTIONS=halt_on_error=1 \
+	    build/threads/tests/soak/threads/soak_threads $(ROUNDS) $(SEED)
 
 fuzz: setup ## feed the parsers and the conversions hostile input
 	@setup/packages.sh fuzz

@@ -2,7 +2,7 @@
 # Configures a build tree, unless it has been configured in the same way before
 # (changes to CMake's own files are noticed by the build itself).
 #
-# usage: setup/configure.sh release|debug|fuzz
+# usage: setup/configure.sh release|debug|fuzz|threads
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . setup/lib.sh
@@ -21,7 +21,11 @@ case "${1:-}" in
         options+=(-DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++
                   -DOMBRA_FUZZ=ON -DOMBRA_SANITIZE=ON)
         ;;
-    *) die "usage: setup/configure.sh release|debug|fuzz" ;;
+    threads)
+        tree=build/threads
+        options+=(-DOMBRA_SANITIZE_THREADS=ON)
+        ;;
+    *) die "usage: setup/configure.sh release|debug|fuzz|threads" ;;
 esac
 for name in PYTHON27{,_DEBUG}_{EXECUTABLE,INCLUDE_DIR,LIBRARY}; do
     options+=("-D$name=${!name}")
