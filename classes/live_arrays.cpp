@@ -1,3 +1,4 @@
+// The table of counted arrays, by address.
 #include "classes/live_arrays.h"
 
 #include <new>

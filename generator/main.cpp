@@ -3,7 +3,8 @@
 //     generator --root DIR --out DIR     reads DIR/platform, DIR/catalogue and DIR/api, and from
 //                                        DIR/standin the names that it defines
 //     generator --list-rules             what the check pass looks at
-//     generator --list-kinds             the declared types that cross, with their kinds
+//     generator --root DIR --list-kinds  the declared types that cross, with their kinds
+//     generator --root DIR --explain ROW a row's whole way, from its declaration to who answers it
 //
 // Exit status 0 and one line of totals, or 1 with every fault of the run and no output written.
 
@@ -123,18 +124,21 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
     return list;
 }
 
-int generate(const fs::path &root, const fs::path &out) {
-    Model model;
+// The declarations, checked. False after telling the faults.
+bool read_checked(const fs::path &root, Model &model) {
     Faults faults;
     read_headers(root, model, faults);
     read_catalogue(root, model, faults);
     resolve(model, faults);
     check(model, faults);
     if (faults.none()) check_standin(model, faults);
-    if (!faults.none()) {
-        faults.print();
-        return 1;
-    }
+    if (!faults.none()) faults.print();
+    return faults.none();
+}
+
+int generate(const fs::path &root, const fs::path &out) {
+    Model model;
+    if (!read_checked(root, model)) return 1;
     for (const auto &[file, emitter] : outputs(model)) {
         if (!write_if_changed(out / file, emitter(model))) {
             std::cerr << (out / file).string() << ": cannot be written\n";
@@ -151,18 +155,27 @@ int generate(const fs::path &root, const fs::path &out) {
 
 int list_kinds(const fs::path &root) {
     Model model;
-    Faults faults;
-    read_headers(root, model, faults);
-    read_catalogue(root, model, faults);
-    resolve(model, faults);
+    if (!read_checked(root, model)) return 1;
     for (const auto &row : model.kinds)
         if (row.used) std::cout << traits(row.kind).name << "\t" << row.type << "\n";
     return 0;
 }
 
+int explain_row(const fs::path &root, const std::string &name) {
+    Model model;
+    if (!read_checked(root, model)) return 1;
+    const std::string text = explain(model, name);
+    std::cout << text;
+    if (!text.empty()) return 0;
+    std::cerr << "no row '" << name << "'\n";
+    for (const auto &near : near_names(model, name)) std::cerr << "  near it: " << near << "\n";
+    return 1;
+}
+
 int run(const std::vector<std::string> &arguments) {
     std::optional<fs::path> root;
     std::optional<fs::path> out;
+    std::optional<std::string> row;
     bool kinds = false;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (arguments[i] == "--list-rules") {
@@ -175,11 +188,14 @@ int run(const std::vector<std::string> &arguments) {
             root = arguments[++i];
         else if (arguments[i] == "--out" && i + 1 < arguments.size())
             out = arguments[++i];
+        else if (arguments[i] == "--explain" && i + 1 < arguments.size())
+            row = arguments[++i];
     }
     if (kinds && root) return list_kinds(*root);
+    if (row && root) return explain_row(*root, *row);
     if (!root || !out) {
         std::cerr << "usage: generator --root DIR --out DIR | --list-rules | "
-                     "--root DIR --list-kinds\n";
+                     "--root DIR --list-kinds | --root DIR --explain ROW\n";
         return 2;
     }
     return generate(*root, *out);

@@ -24,16 +24,6 @@ std::string without_const(std::string type) {
     return type;
 }
 
-// A type whose mangled name ends in a number type has a twin, named after the box of that number,
-// whose objects pass for it.
-std::string twin_of(const std::string &mangled) {
-    if (ends_with(mangled, "unsigned_int")) return mangled.substr(0, mangled.size() - 12) + "uintp";
-    if (ends_with(mangled, "int")) return mangled + "p";
-    if (ends_with(mangled, "unsigned_short"))
-        return mangled.substr(0, mangled.size() - 14) + "uint16p";
-    return "";
-}
-
 class Resolver {
   public:
     Resolver(Model &model, Faults &faults) : model_(model), faults_(faults) {}
@@ -53,6 +43,19 @@ class Resolver {
     }
 
   private:
+    // A type whose mangled name ends in a number of C's that has a box has a twin, named after the
+    // box, whose objects pass for it.
+    std::string twin_of(const std::string &mangled) const {
+        for (const auto &helper : model_.helpers) {
+            std::string ending = helper.element;
+            std::replace(ending.begin(), ending.end(), ' ', '_');
+            if (helper.form == Helper::Form::box && kind_of_native(helper.element) != Kind::none &&
+                ends_with(mangled, ending) && !ends_with(mangled, "unsigned_" + ending))
+                return mangled.substr(0, mangled.size() - ending.size()) + helper.name;
+        }
+        return "";
+    }
+
     void add_twins() {
         std::set<std::string> known;
         for (const auto &row : model_.types) known.insert(row.mangled);

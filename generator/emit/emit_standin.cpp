@@ -21,8 +21,8 @@ const std::string kFile = R"(@banner@
 
 const std::string kAnswer = R"(@result@ @native@(@parameters@) {
     using namespace standin;
-@bindings@    static constexpr Call call{"@row@", "@family@", @owner@, @owner_key@, @key@, @bytes@,
-                               Operation::@operation@, @count@, @max@, @filled@, @bound@};
+@bindings@    static constexpr Call call{
+        @call@};
     const void *const arguments[] = {@arguments@};
     @return@;
 }
@@ -32,7 +32,7 @@ const std::string kAnswer = R"(@result@ @native@(@parameters@) {
 const std::string kInit = R"(void @native@(@parameters@) {
     using namespace standin;
 @bindings@    const void *const arguments[] = {@arguments@};
-    clear_record(@record@, sizeof *@record@, @bound@, arguments);
+    clear_record(@record@, sizeof *@record@, @bindings_or_none@, arguments);
 }
 
 )";
@@ -58,10 +58,8 @@ std::string parameters_of(const Function &function, const std::set<std::size_t> 
     std::string text;
     for (std::size_t i = 0; i < function.parameters.size(); ++i) {
         const Variable &parameter = function.parameters[i];
-        text += i == 0 ? "" : ", ";
-        text += parameter.type;
-        text += named.contains(i) ? " " + name_of(parameter, i) : "";
-        for (const auto &bound : parameter.bounds) text += "[" + bound + "]";
+        text += (i == 0 ? "" : ", ") +
+                declared(parameter, named.contains(i) ? name_of(parameter, i) : "");
     }
     return text;
 }
@@ -84,34 +82,79 @@ std::string unit_of(const Function &function) {
     return function.parameters.front().type == "int" ? name : "static_cast<int>(" + name + ")";
 }
 
-std::string bindings_of(const Plan &plan) {
-    if (plan.bindings.empty()) return "";
-    std::string text = "    static constexpr Binding bindings[] = {";
-    for (const auto &binding : plan.bindings) {
-        text += "\n        {" + number(binding.argument) + ", Role::" + binding.role + ", " +
-                (binding.memory ? "true" : "false");
-        for (const std::size_t value : {binding.at, binding.stride, binding.row, binding.size})
-            text += ", " + number(value);
-        text += "},";
+// "{.argument = 1, .size = 4}": what is not its field's default, which is nothing or false.
+class Fields {
+  public:
+    explicit Fields(std::string between = ", ") : between_(std::move(between)) {}
+
+    Fields &add(const std::string &name, const std::string &value) {
+        if (!value.empty()) text_ += (text_.empty() ? "." : between_ + ".") + name + " = " + value;
+        return *this;
     }
-    text.back() = '}';
-    return text + ";\n";
+    Fields &add(const std::string &name, std::size_t value) {
+        return add(name, value == 0 ? "" : number(value));
+    }
+    Fields &add(const std::string &name, bool value) {
+        return add(name, std::string(value ? "true" : ""));
+    }
+    const std::string &text() const { return text_; }
+
+  private:
+    std::string between_;
+    std::string text_;
+};
+
+std::string array_of(const std::string &type, const std::string &name,
+                     const std::vector<Fields> &elements) {
+    std::string text;
+    for (const auto &element : elements)
+        text += std::string(text.empty() ? "" : ",") + "\n        {" + element.text() + "}";
+    return text.empty() ? ""
+                        : "    static constexpr " + type + " " + name + "[] = {" + text + "};\n";
+}
+
+std::string bindings_of(const Plan &plan) {
+    std::vector<Fields> elements;
+    for (const auto &binding : plan.bindings)
+        elements.push_back(Fields()
+                               .add("argument", binding.argument)
+                               .add("role", "Role::" + binding.role)
+                               .add("memory", binding.memory)
+                               .add("at", binding.at)
+                               .add("stride", binding.stride)
+                               .add("row", binding.row)
+                               .add("size", binding.size));
+    return array_of("Binding", "bindings", elements);
 }
 
 std::string columns_of(const Plan &plan) {
-    std::string text = "    static constexpr Column columns[] = {";
-    for (const auto &column : plan.columns) {
-        text += "{" + number(column.row) + ", " + number(column.size) + ", " +
-                (column.number ? "true" : "false") + "}, ";
-    }
-    text.erase(text.size() - 2);
-    return text + "};\n";
+    std::vector<Fields> elements;
+    for (const auto &column : plan.columns)
+        elements.push_back(
+            Fields().add("row", column.row).add("size", column.size).add("number", column.number));
+    return array_of("Column", "columns", elements);
 }
 
 std::string number_argument(const Shapes &shapes, const Function &function, std::size_t parameter) {
-    if (parameter == 0) return "{}";
+    if (parameter == 0) return "";
     const Shape shape = shapes.of(function.parameters[parameter]);
-    return "{" + number(parameter) + ", " + number(shape.size) + "}";
+    return "{" + Fields().add("argument", parameter).add("size", shape.size).text() + "}";
+}
+
+std::string call_of(const Shapes &shapes, const Function &function, const Plan &plan) {
+    return Fields(",\n        ")
+        .add("name", quoted(function.row))
+        .add("family", quoted(plan.family))
+        .add("owner", plan.owner.empty() ? "" : quoted(plan.owner))
+        .add("owner_key", plan.owner_key)
+        .add("key", plan.key)
+        .add("row", plan.row)
+        .add("operation", "Operation::" + plan.operation)
+        .add("count", number_argument(shapes, function, plan.count))
+        .add("max", number_argument(shapes, function, plan.max))
+        .add("filled", number_argument(shapes, function, plan.filled))
+        .add("bindings", std::string(plan.bindings.empty() ? "" : "bindings"))
+        .text();
 }
 
 // The call of the runtime, and what becomes of its status.
@@ -128,37 +171,24 @@ std::string return_of(const Function &function, const Plan &plan) {
 }
 
 std::string answer_text(const Shapes &shapes, const Function &function, const Plan &plan) {
-    const bool bound = !plan.bindings.empty();
     return fill(kAnswer,
                 {{"result", function.result},
                  {"native", function.native},
                  {"parameters", parameters_of(function, all_of(function))},
                  {"bindings", bindings_of(plan) + (plan.callback == 0 ? "" : columns_of(plan))},
-                 {"row", function.row},
-                 {"family", plan.family},
-                 {"owner", plan.owner.empty() ? "nullptr" : quoted(plan.owner)},
-                 {"owner_key", number(plan.owner_key)},
-                 {"key", number(plan.key)},
-                 {"bytes", number(plan.row)},
-                 {"operation", plan.operation},
-                 {"count", number_argument(shapes, function, plan.count)},
-                 {"max", number_argument(shapes, function, plan.max)},
-                 {"filled", number_argument(shapes, function, plan.filled)},
-                 {"bound", bound ? "bindings, " + number(plan.bindings.size()) : "nullptr, 0"},
+                 {"call", call_of(shapes, function, plan)},
                  {"arguments", addresses_of(function)},
                  {"return", return_of(function, plan)}});
 }
 
 std::string init_text(const Function &function, const Plan &plan) {
-    const bool bound = !plan.bindings.empty();
     const Variable &record = function.parameters[plan.callback];
-    return fill(kInit,
-                {{"native", function.native},
-                 {"parameters", parameters_of(function, all_of(function))},
-                 {"bindings", bindings_of(plan)},
-                 {"arguments", addresses_of(function)},
-                 {"record", name_of(record, plan.callback)},
-                 {"bound", bound ? "bindings, " + number(plan.bindings.size()) : "nullptr, 0"}});
+    return fill(kInit, {{"native", function.native},
+                        {"parameters", parameters_of(function, all_of(function))},
+                        {"bindings", bindings_of(plan)},
+                        {"arguments", addresses_of(function)},
+                        {"record", name_of(record, plan.callback)},
+                        {"bindings_or_none", plan.bindings.empty() ? "{}" : "bindings"}});
 }
 
 // The values of a qualifier as blocks of memory.
@@ -230,24 +260,23 @@ std::string bound_name(const Shapes &shapes, const Function &function, const Pla
     return name;
 }
 
-// "standin/chapters/l2_calls.cpp", or rule, family, key and values between tabs.
-std::string answer_of(const Shapes &shapes, const Function &function, const Plan &plan) {
-    if (!function.modelled.empty()) return function.modelled;
-    std::string key;
-    std::string values;
+GeneratedAnswer answer_by_rule(const Shapes &shapes, const Function &function, const Plan &plan) {
+    GeneratedAnswer answer{plan.layer, plan.family, "", ""};
     for (const auto &binding : plan.bindings) {
         const bool list = binding.role.starts_with("list");
-        std::string &names = !list && binding.row < plan.key ? key : values;
+        std::string &names = !list && binding.row < plan.key ? answer.key : answer.values;
         if (binding.role != "flags")
             names += (names.empty() ? "" : " ") + bound_name(shapes, function, binding);
     }
-    std::string text = plan.layer;
-    for (const std::string &part : {plan.family, key, values})
-        text += "\t" + (part.empty() ? "-" : part);
-    return text;
+    return answer;
 }
 
 }  // namespace
+
+GeneratedAnswer generated_answer(const Model &model, const Function &function) {
+    const auto index = static_cast<std::size_t>(&function - model.functions.data());
+    return answer_by_rule(Shapes(model), function, plans_of(model)[index]);
+}
 
 std::string standin_file(const std::string &header) {
     return "standin" + rows_file(header).substr(4);
@@ -263,7 +292,7 @@ std::string emit_standin(const Model &model, const std::string &header) {
     bool qualifies = false;
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
         const Function &one = model.functions[i];
-        if (one.place.file != header || !one.modelled.empty()) continue;
+        if (one.place.file != header || !one.modelled.file.empty()) continue;
         functions += function_text(shapes, model.functions[i], plans[i]);
         proofs += proofs_of(shapes, model.functions[i], plans[i], proved);
         walks = walks || !plans[i].columns.empty();
@@ -292,7 +321,16 @@ std::string emit_standin_calls(const Model &model) {
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
         const Function &function = model.functions[i];
         if (function.module_native) continue;
-        text += function.native + "\t" + answer_of(shapes, function, plans[i]) + "\n";
+        text += function.native + "\t";
+        if (function.modelled.file.empty()) {
+            const GeneratedAnswer answer = answer_by_rule(shapes, function, plans[i]);
+            text += answer.rule;
+            for (const std::string &part : {answer.family, answer.key, answer.values})
+                text += "\t" + (part.empty() ? "-" : part);
+        } else {
+            text += function.modelled.file;
+        }
+        text += "\n";
     }
     return text;
 }
@@ -301,7 +339,7 @@ std::string emit_standin_calls(const Model &model) {
 std::string emit_standin_required(const Model &model) {
     std::string text;
     for (const auto &function : model.functions)
-        if (!function.modelled.empty() && !function.place.file.ends_with("_cxx.h"))
+        if (!function.modelled.file.empty() && !function.place.file.ends_with("_cxx.h"))
             text += "--require-defined=" + function.native + "\n";
     return text;
 }

@@ -24,7 +24,22 @@ std::string emit_constants_header(const Model &model);
 std::string emit_constant_names(const Model &model);  // number and name, for the stand-in's texts
 std::string emit_model(const Model &model);           // JSON, for the tests and tools
 std::string emit_standin(const Model &model, const std::string &header);  // what no source models
-std::string emit_standin_calls(const Model &model);     // who answers each function
+std::string emit_standin_calls(const Model &model);  // who answers each function
+// The rule that makes a function's answer, where no source models it.
+struct GeneratedAnswer {
+    std::string rule;    // "generic-pair", or "unavailable"
+    std::string family;  // "bcm_x"
+    std::string key;     // "port", or "map.gport" for a field behind an address, between blanks
+    std::string values;
+};
+// REQUIRES: the function is one of the model's.
+GeneratedAnswer generated_answer(const Model &model, const Function &function);
+
+// A row's whole way, for people: from its declaration to who answers it. Empty for an unknown name.
+std::string explain(const Model &model, const std::string &name);
+// The rows whose names are nearest, nearest first.
+std::vector<std::string> near_names(const Model &model, const std::string &name);
+
 std::string emit_standin_required(const Model &model);  // what its sources have to define
 std::string emit_recording(const Model &model, const std::string &header);  // the recording SDK
 std::string emit_proxy(const Model &model);                // the proxy module's tables, Python

@@ -48,7 +48,7 @@ struct Function {
     Place place;
     std::string section;            // "Addresses in bulk", the comment above its group
     bool module_native = false;     // declared below api/: defined in the module itself
-    std::string modelled;           // "standin/chapters/l2_calls.cpp" that defines it, or empty
+    Place modelled;                 // the definition in the stand-in's sources; no file for none
     std::vector<Variable> visible;  // the parameters that Python passes, resolved
     std::string visible_result;     // the docstring's result, resolved; empty for void
     Conversion conversion;          // of the result, resolved
@@ -158,5 +158,12 @@ struct Model {
 
 // "unsigned char [16]": a declared type with its bounds.
 std::string spelled(const std::string &type, const std::vector<std::string> &bounds);
+
+// "int *speed", "unsigned int words[2]": the same with a name, as a declaration has it; the name
+// may be empty.
+std::string declared(const Variable &variable, const std::string &name);
+
+// "standin/chapters/l2_calls.cpp:88".
+std::string text_of(const Place &place);
 
 }  // namespace generator

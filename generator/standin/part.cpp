@@ -1,3 +1,4 @@
+// Finds the columns of one table from all members of its family, and binds each member to them.
 #include "generator/standin/part.h"
 
 #include <algorithm>

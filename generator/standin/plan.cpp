@@ -1,3 +1,4 @@
+// Sorts the functions into families by their names, and plans each family.
 #include "generator/standin/plan.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Reads from a declared type how its values lie in memory.
 #include "generator/standin/shapes.h"
 
 #include <algorithm>

@@ -226,12 +226,11 @@ int unavailable(const char *name) {
     return fault != BCM_E_NONE ? fault : BCM_E_UNAVAIL;
 }
 
-void clear_record(void *record, std::size_t size, const Binding *bindings, int count,
+void clear_record(void *record, std::size_t size, std::span<const Binding> bindings,
                   const void *const *arguments) {
     if (record == nullptr) return;
     std::memset(record, 0, size);
-    for (int i = 0; i < count; ++i) {
-        const Binding &binding = bindings[i];
+    for (const Binding &binding : bindings) {
         const void *source = arguments[binding.argument];
         if (binding.memory) source = *static_cast<const void *const *>(source);
         if (source == nullptr) continue;

@@ -12,6 +12,7 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace standin {
 
@@ -42,20 +43,20 @@ enum class Role : std::uint8_t {
 };
 
 struct Binding {
-    std::uint8_t argument;  // index into the arguments, 0 being the unit
-    Role role;
-    bool memory;           // the argument is the address of the bytes
-    std::uint32_t at;      // offset of the bytes behind that address
-    std::uint32_t stride;  // size of an element where the address is that of an array, else 0
-    std::uint32_t row;     // offset in the row, or the number of the list
-    std::uint32_t size;
+    std::uint8_t argument = 0;  // index into the arguments, 0 being the unit
+    Role role = Role::select;
+    bool memory = false;       // the argument is the address of the bytes
+    std::uint32_t at = 0;      // offset of the bytes behind that address
+    std::uint32_t stride = 0;  // size of an element where the address is that of an array, else 0
+    std::uint32_t row = 0;     // offset in the row, or the number of the list
+    std::uint32_t size = 0;
 };
 
 // A column of the rows that a traversal hands out. Numbers pass by value, others by address.
 struct Column {
-    std::uint32_t row;
-    std::uint32_t size;
-    bool number;
+    std::uint32_t row = 0;
+    std::uint32_t size = 0;
+    bool number = false;
 };
 
 // An argument that is a number of elements, or the address of one; 0, the unit's place, for none.
@@ -65,19 +66,18 @@ struct Number {
 };
 
 struct Call {
-    const char *name;    // "bcm_x_set", by which faults are injected
-    const char *family;  // "bcm_x"
-    const char *owner;   // the family of the objects that these rows belong to, or null; the key
-                         // then begins with the key of the owner
-    std::uint32_t owner_key;  // its length
-    std::uint32_t key;        // bytes of the key
-    std::uint32_t row;        // bytes of the row
-    Operation operation;
-    Number count;   // how many elements come in; one without it
-    Number max;     // how many elements fit
-    Number filled;  // receives how many there are
-    const Binding *bindings;
-    std::size_t binding_count;
+    const char *name = nullptr;    // "bcm_x_set", by which faults are injected
+    const char *family = nullptr;  // "bcm_x"
+    const char *owner = nullptr;   // the family of the objects that these rows belong to, or null;
+                                   // the key then begins with the key of the owner
+    std::uint32_t owner_key = 0;   // its length
+    std::uint32_t key = 0;         // bytes of the key
+    std::uint32_t row = 0;         // bytes of the row
+    Operation operation = Operation::store;
+    Number count = {};   // how many elements come in; one without it
+    Number max = {};     // how many elements fit
+    Number filled = {};  // receives how many there are
+    std::span<const Binding> bindings = {};
 };
 
 // Does the call: `arguments` are the addresses of the native arguments, the unit first. Faults
@@ -91,7 +91,7 @@ int unavailable(const char *name);
 
 // For the `_t_init` forms: clears the record, then copies each binding (whose `row` is the place
 // in the record) into it. Null does nothing.
-void clear_record(void *record, std::size_t size, const Binding *bindings, int count,
+void clear_record(void *record, std::size_t size, std::span<const Binding> bindings,
                   const void *const *arguments);
 
 }  // namespace standin

@@ -63,10 +63,9 @@ char *Invocation::target(const Binding &binding, int element) const {
 }
 
 const Binding *Invocation::find(Role role) const {
-    const Binding *const end = call_.bindings + call_.binding_count;
-    const Binding *const found = std::find_if(
-        call_.bindings, end, [&](const Binding &binding) { return binding.role == role; });
-    return found == end ? nullptr : found;
+    const auto found = std::find_if(call_.bindings.begin(), call_.bindings.end(),
+                                    [&](const Binding &binding) { return binding.role == role; });
+    return found == call_.bindings.end() ? nullptr : &*found;
 }
 
 std::uint32_t Invocation::flags() const {

@@ -43,7 +43,7 @@ class Invocation {
 
     template <class Visit>
     void each(Visit &&visit) const {
-        for (std::size_t i = 0; i < call_.binding_count; ++i) visit(call_.bindings[i]);
+        for (const Binding &binding : call_.bindings) visit(binding);
     }
 
   private:

@@ -1,3 +1,4 @@
+// Starts the program, and tells how its outputs differ from golden ones.
 #include "driver.h"
 
 #include <stdlib.h>

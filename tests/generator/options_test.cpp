@@ -29,7 +29,7 @@ TEST(Options, UsageErrors) {
         EXPECT_EQ(run.out, "");
         EXPECT_EQ(run.err,
                   "usage: generator --root DIR --out DIR | --list-rules | "
-                  "--root DIR --list-kinds\n");
+                  "--root DIR --list-kinds | --root DIR --explain ROW\n");
     }
 }
 
@@ -57,12 +57,62 @@ TEST(Options, KindsAreListedWithTheirTypes) {
     EXPECT_EQ(count(run.out, "unsigned-16\tunsigned short"), 0);
 }
 
+// A row of every role is told from its declaration to who answers; an unknown one by its
+// neighbours.
+TEST(Options, ExplainTellsTheWayOfARow) {
+    const Scratch scratch;
+    copy_small(scratch.path());
+    write_text(scratch.path() / "standin/one.cpp", "// One.\nint tiny_none() { return 0; }\n");
+    const std::string method = "in method '";
+    const std::pair<const char *, std::vector<std::string>> rows[] = {
+        {"tiny_none",
+         {"declared platform/sdk/bcm/tiny.h:7", "int tiny_none(void);",
+          "docstring tiny_none() -> int", "result int, signed-32", "native tiny_none",
+          "answers standin/one.cpp:2"}},
+        {"tiny_speed_get",
+         {"int tiny_speed_get(int unit, tiny_port_t port, int *speed);",
+          "argument 3 speed: int *, pointer, slot _p_int",
+          method + "tiny_speed_get', argument 3 of type 'int *'", "answers rule generic-pair",
+          "family tiny_speed", "key port", "values speed"}},
+        {"tiny_create",
+         {"departure append-output, id (catalogue/departures.txt:2)",
+          "the new id is what callers want", "and the value of 'id', in one list",
+          "answers rule unavailable"}},
+        {"Tiny::find",
+         {"declared platform/helper/tiny_cxx.h:7", "declared platform/helper/tiny_cxx.h:8",
+          "find(unit) -> int", "native Tiny::find, called by ombra::rows::find of api/"}},
+        {"tiny_test", {"answers the module itself"}},
+        {"tiny_all_t_vector_set",
+         {"declared platform/sdk/bcm/tiny_types.h:29", "tiny_vector_t vector;",
+          "invalid null reference " + method +
+              "tiny_all_t_vector_set', argument 1 of type 'tiny_all_t *'",
+          "invalid null reference in variable 'vector' of type 'unsigned int "
+          "[_SHR_BITDCLSIZE(tinyLast)]'",
+          "result none"}},
+        {"new_tiny_pair_t", {"struct tiny_pair_s", "native none; class of 8 bytes"}},
+        {"intp_value", {"declared catalogue/helpers.txt:3", "box intp of int", "native none"}}};
+    const auto explained = [&](const std::string &row) {
+        return run_generator({"--root", scratch.path().string(), "--explain", row});
+    };
+    for (const auto &[row, lines] : rows) {
+        const Outcome run = explained(row);
+        EXPECT_EQ(run.status, 0) << row << run.err;
+        const std::string flat = std::regex_replace(run.out, std::regex(" +"), " ");
+        for (const auto &line : lines)
+            EXPECT_TRUE(count(flat, " " + line) == 1) << line << "\n" << run.out;
+    }
+    const Outcome unknown = explained("tiny_sped_set");
+    EXPECT_EQ(unknown.status, 1);
+    EXPECT_EQ(unknown.out, "");
+    EXPECT_EQ(lines_of(unknown.err).at(1), "  near it: tiny_speed_set");
+}
+
 TEST(Options, SuccessIsOneLineOfTotals) {
     const Scratch scratch;
     const Outcome run = generate(tests_folder() / "small", scratch.path());
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "");
-    EXPECT_EQ(run.out, "checked 21 functions, 3 classes with 25 fields, 17 types, 91 rows\n");
+    EXPECT_EQ(run.out, "checked 21 functions, 3 classes with 25 fields, 14 types, 91 rows\n");
 }
 
 TEST(Options, AnOutputThatCannotBeWritten) {

@@ -1,8 +1,8 @@
 #!/bin/bash
 # Includes go one way: a folder may include the folders below it, and nothing above. The rooms of
 # generator/ and standin/ stand in a row, and each sees itself and those before it (of the
-# generator's files only includes of its own count: the others are text that it writes). Prints each
-# include that does not go that way, and fails.
+# generator's files only includes of its own count: the others are text that it writes). Every source
+# opens with a comment on what it is for. Prints each line that breaks this, and fails.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -49,4 +49,10 @@ for folder in "${!may[@]}"; do
         fi
     done < <(grep -rnE "^#include \"${only[$folder]:-}" --include='*.h' --include='*.cpp' --include='*.inc' "$folder")
 done
+
+# The generator sees to the headers of platform/ itself.
+while IFS= read -r file; do
+    [[ $(head -c 2 "$file") =~ ^/[/*] ]] || { echo "$file:1: open with a comment that says what it is for" >&2; status=1; }
+done < <(find . \( -path './build*' -o -path ./platform -o -name '.*' ! -name . \) -prune \
+    -o \( -name '*.cpp' -o -name '*.h' -o -name '*.c' -o -name '*.inc' \) -print)
 exit "$status"

@@ -35,41 +35,60 @@ tiny_pair_t * tiny_pointer(int) { return {}; }
 int tiny_speed_set(int unit, tiny_port_t port, int speed) {
     using namespace standin;
     static constexpr Binding bindings[] = {
-        {1, Role::select, false, 0, 0, 0, 4},
-        {2, Role::write, false, 0, 0, 4, 4}};
-    static constexpr Call call{"tiny_speed_set", "tiny_speed", nullptr, 0, 4, 8,
-                               Operation::store, {}, {}, {}, bindings, 2};
+        {.argument = 1, .role = Role::select, .size = 4},
+        {.argument = 2, .role = Role::write, .row = 4, .size = 4}};
+    static constexpr Call call{
+        .name = "tiny_speed_set",
+        .family = "tiny_speed",
+        .key = 4,
+        .row = 8,
+        .operation = Operation::store,
+        .bindings = bindings};
     const void *const arguments[] = {&unit, &port, &speed};
     return answer(call, unit, arguments);
 }
 
-int tiny_speed_get(int unit, tiny_port_t port, int * speed) {
+int tiny_speed_get(int unit, tiny_port_t port, int *speed) {
     using namespace standin;
     static constexpr Binding bindings[] = {
-        {1, Role::select, false, 0, 0, 0, 4},
-        {2, Role::read, true, 0, 0, 4, 4}};
-    static constexpr Call call{"tiny_speed_get", "tiny_speed", nullptr, 0, 4, 8,
-                               Operation::read, {}, {}, {}, bindings, 2};
+        {.argument = 1, .role = Role::select, .size = 4},
+        {.argument = 2, .role = Role::read, .memory = true, .row = 4, .size = 4}};
+    static constexpr Call call{
+        .name = "tiny_speed_get",
+        .family = "tiny_speed",
+        .key = 4,
+        .row = 8,
+        .operation = Operation::read,
+        .bindings = bindings};
     const void *const arguments[] = {&unit, &port, &speed};
     return answer(call, unit, arguments);
 }
 
-int tiny_list_set(int unit, int count, int * list) {
+int tiny_list_set(int unit, int count, int *list) {
     using namespace standin;
     static constexpr Binding bindings[] = {
-        {2, Role::list_in, true, 0, 0, 0, 4}};
-    static constexpr Call call{"tiny_list_set", "tiny_list", nullptr, 0, 0, 0,
-                               Operation::store, {1, 4}, {}, {}, bindings, 1};
+        {.argument = 2, .role = Role::list_in, .memory = true, .size = 4}};
+    static constexpr Call call{
+        .name = "tiny_list_set",
+        .family = "tiny_list",
+        .operation = Operation::store,
+        .count = {.argument = 1, .size = 4},
+        .bindings = bindings};
     const void *const arguments[] = {&unit, &count, &list};
     return answer(call, unit, arguments);
 }
 
-int tiny_list_get(int unit, int max, int * list, int * count) {
+int tiny_list_get(int unit, int max, int *list, int *count) {
     using namespace standin;
     static constexpr Binding bindings[] = {
-        {2, Role::list_out, true, 0, 0, 0, 4}};
-    static constexpr Call call{"tiny_list_get", "tiny_list", nullptr, 0, 0, 0,
-                               Operation::read, {}, {1, 4}, {3, 4}, bindings, 1};
+        {.argument = 2, .role = Role::list_out, .memory = true, .size = 4}};
+    static constexpr Call call{
+        .name = "tiny_list_get",
+        .family = "tiny_list",
+        .operation = Operation::read,
+        .max = {.argument = 1, .size = 4},
+        .filled = {.argument = 3, .size = 4},
+        .bindings = bindings};
     const void *const arguments[] = {&unit, &max, &list, &count};
     return answer(call, unit, arguments);
 }
