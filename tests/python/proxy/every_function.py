@@ -21,8 +21,8 @@ import OmbraSdkV2Helper as sdk
 ROOM = 16
 TEXT_ROOM = 4096
 
-NUMBERS = ('signed-8', 'signed-16', 'signed-32', 'unsigned-8', 'unsigned-16',
-           'unsigned-32', 'unsigned-long', 'unsigned-64', 'address-32')
+# What the kinds of numbers begin with.
+NUMBERS = ('signed', 'unsigned', 'address')
 
 # Words in the names of functions that end what a unit does.
 ENDING = ('detach', 'deinit', 'shutdown', 'unmap')
@@ -73,7 +73,7 @@ def value_of(declared):
 def make(argument, keep):
     """An argument of the declared type, and never None."""
     kind, declared = argument['kind'], argument['type']
-    if kind in NUMBERS:
+    if kind.split('-')[0] in NUMBERS:
         return 0 if argument['name'] == 'unit' else 1
     if kind == 'strict-bool':
         return True
