@@ -83,7 +83,7 @@ TEST(Options, ExplainTellsTheWayOfARow) {
           "find(unit) -> int", "native Tiny::find, called by ombra::rows::find of api/"}},
         {"tiny_test", {"answers the module itself"}},
         {"tiny_all_t_vector_set",
-         {"declared platform/sdk/bcm/tiny_types.h:29", "tiny_vector_t vector;",
+         {"declared platform/sdk/bcm/tiny_types.h:24", "tiny_vector_t vector;",
           "invalid null reference " + method +
               "tiny_all_t_vector_set', argument 1 of type 'tiny_all_t *'",
           "invalid null reference in variable 'vector' of type 'unsigned int "
