@@ -1,3 +1,4 @@
+// Finds out whose pipe a descriptor is, and waits for room in it.
 #include "standin/base/descriptor.h"
 
 #include <dirent.h>
