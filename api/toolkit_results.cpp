@@ -43,11 +43,12 @@ PyObject *TesselApiSetExt84328MdioAccessWrapper(int unit, int phyId, PyObject *p
 }
 
 PyObject *findChipMemory(const CallRow &by_address, PyObject *args) {
-    CallRow by_base = by_address;  // the name and the result's type are those of the first shape
-    by_base.texts =
+    // The type of the result is that of the first shape.
+    static constexpr char by_base_texts[] =
         "in method 'findChipMemory', argument 1 of type 'int'\0"
         "in method 'findChipMemory', argument 2 of type 'int'\0"
         "in method 'findChipMemory', argument 3 of type 'int'";
+    const CallRow by_base{by_address.name, by_base_texts};
     return find_chip_memory({by_address, by_base}, args);
 }
 

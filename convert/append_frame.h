@@ -21,14 +21,14 @@ struct AppendCall<Result(Args...)> {
     using Native = typename Result::Native (*)(typename Args::Native..., int *);
 
     template <typename R, typename... P>
-    static Native native(R (*function)(P...)) {
+    static consteval bool takes(R (*)(P...)) {
         static_assert(sizeof...(P) == sizeof...(Args) + 1, "the hidden output comes last");
         static_assert(fits_output<P...>(std::index_sequence_for<Args...>()));
         static_assert(fits_shape<Result, R>(), "the result does not fit its kind");
-        return reinterpret_cast<Native>(reinterpret_cast<void (*)()>(function));
+        return true;
     }
 
-    static PyObject *run(const CallRow &row, Native native, PyObject *args);
+    static PyObject *run(const FunctionRow &row, PyObject *args);
 
   private:
     template <typename... P, std::size_t... I>

@@ -7,8 +7,8 @@
 //   5. release what the arguments hold (their destructors)
 //
 // The frame is instantiated once for each shape, the tuple of result and argument kinds. An entry
-// `_wrap_NAME` is a few instructions: it loads the row's record and the native function's address
-// and jumps here. The steps stand in frame_body.h.
+// `_wrap_NAME` is two instructions: it loads the address of the row's record and jumps here. The
+// steps stand in frame_body.h.
 #pragma once
 
 #include <Python.h>
@@ -52,18 +52,18 @@ template <typename Result, typename... Args>
 struct Call<Result(Args...)> {
     using Native = typename Result::Native (*)(typename Args::Native...);
 
-    // The address of a native function as this shape's function type. Compares its real type with
-    // the shape, so that a wrong record does not compile.
+    // Compares the real type of a row's native function with the shape, so that a wrong record does
+    // not compile.
     template <typename R, typename... P>
-    static Native native(R (*function)(P...)) {
+    static consteval bool takes(R (*)(P...)) {
         static_assert(sizeof...(P) == sizeof...(Args), "argument count of the native function");
         static_assert((fits_shape<Args, P>() && ...), "an argument does not fit its kind");
         static_assert(fits_shape<Result, R>(), "the result does not fit its kind");
-        return reinterpret_cast<Native>(reinterpret_cast<void (*)()>(function));
+        return true;
     }
 
     // Defined in frame_body.h, and instantiated once for each shape by generated code.
-    static PyObject *run(const CallRow &row, Native native, PyObject *args);
+    static PyObject *run(const FunctionRow &row, PyObject *args);
 };
 
 }  // namespace ombra

@@ -48,22 +48,24 @@ template <typename... Args, typename Body>
 }
 
 template <typename Result, typename... Args>
-PyObject *Call<Result(Args...)>::run(const CallRow &row, Native native, PyObject *args) {
-    return call_with<Args...>(row, args, [&](const auto &...values) -> PyObject * {
+PyObject *Call<Result(Args...)>::run(const FunctionRow &row, PyObject *args) {
+    return call_with<Args...>(row.call, args, [&](const auto &...values) -> PyObject * {
+        const auto native = reinterpret_cast<Native>(row.native);
         if constexpr (std::is_void_v<typename Result::Native>) {
             native(values...);
             Py_RETURN_NONE;
         } else {
-            return Result::result(native(values...), row);
+            return Result::result(native(values...), row.call);
         }
     });
 }
 
 template <typename Result, typename... Args>
-PyObject *AppendCall<Result(Args...)>::run(const CallRow &row, Native native, PyObject *args) {
-    return call_with<Args...>(row, args, [&](const auto &...values) {
+PyObject *AppendCall<Result(Args...)>::run(const FunctionRow &row, PyObject *args) {
+    return call_with<Args...>(row.call, args, [&](const auto &...values) {
         int output = 0;
-        PyObject *status = Result::result(native(values..., &output), row);
+        PyObject *status =
+            Result::result(reinterpret_cast<Native>(row.native)(values..., &output), row.call);
         if (status == nullptr) return status;  // the output alone would hide the exception
         return SWIG_Python_AppendOutput(status, PyInt_FromLong(output));
     });

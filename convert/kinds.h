@@ -144,27 +144,19 @@ class StrictBool {
     bool value_;
 };
 
-// Text: the Python string's own storage, valid for the call. A copy, should the reader have made
-// one, is released with the frame.
+// Text: the storage of the Python string or behind the pointer, valid for the call. The reader is
+// asked for no copy, so there is nothing to release.
 class Text {
   public:
     using Native = char *;
 
-    Text() = default;
-    Text(const Text &) = delete;
-    Text &operator=(const Text &) = delete;
-    ~Text() {
-        if (alloc_ == STATUS_NEWOBJ) delete[] text_;
-    }
-
     [[gnu::always_inline]] bool read(PyObject *object, const CallRow &row, unsigned index) {
         if (PyString_Check(object)) [[likely]] {
-            text_ = PyString_AS_STRING(object);  // what the reader gives for a marker of 0
+            text_ = PyString_AS_STRING(object);
             return true;
         }
-        const OtherText result = read_other_text(object, row, index);
+        const TextRead result = read_other_text(object, row, index);
         text_ = result.text;
-        alloc_ = result.alloc;
         return result.good;
     }
 
@@ -174,7 +166,6 @@ class Text {
 
   private:
     char *text_;
-    int alloc_ = 0;
 };
 
 // A pointer of the argument's type slot; slot kAnyPointer takes a pointer of any type. None is the

@@ -13,11 +13,11 @@ PointerRead read_other_pointer(PyObject *object, const CallRow &row, unsigned in
     return {pointer, status};
 }
 
-OtherText read_other_text(PyObject *object, const CallRow &row, unsigned index) {
+TextRead read_other_text(PyObject *object, const CallRow &row, unsigned index) {
     char *text = nullptr;
     int alloc = 0;
     const int status = SWIG_AsCharPtrAndSize(object, &text, nullptr, &alloc);
-    return {text, alloc, status >= 0 || refuse(row, index, status)};
+    return {text, status >= 0 || refuse(row, index, status)};
 }
 
 }  // namespace ombra

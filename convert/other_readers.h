@@ -12,7 +12,7 @@
 namespace ombra {
 
 inline swig_type_info *slot(const CallRow &row, unsigned index) {
-    return swig_type_slots[row.slots[index]];
+    return swig_type_slots[slot_number(row, index)];
 }
 
 struct PointerRead {
@@ -34,13 +34,12 @@ struct PointerRead {
     return read_other_pointer(object, row, index);
 }
 
-struct OtherText {
+struct TextRead {
     char *text;
-    int alloc;  // STATUS_NEWOBJ: `text` is from new[], and the caller's
-    bool good;
+    bool good;  // false: exception set
 };
 
-// The text of what is no `str`.
-[[gnu::noinline]] OtherText read_other_text(PyObject *object, const CallRow &row, unsigned index);
+// The text of what is no `str`, which is not copied.
+[[gnu::noinline]] TextRead read_other_text(PyObject *object, const CallRow &row, unsigned index);
 
 }  // namespace ombra

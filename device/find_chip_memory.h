@@ -10,8 +10,8 @@ namespace ombra {
 // Both shapes of the row, each a record like any other, under the one name "findChipMemory". Their
 // results are of one type, so its slot is read from `by_address` alone.
 struct FindChipMemoryRows {
-    CallRow by_address;  // unit, mem, sca, sizeBytes
-    CallRow by_base;     // unit, mem, baseAddr
+    const CallRow &by_address;  // unit, mem, sca, sizeBytes
+    const CallRow &by_base;     // unit, mem, baseAddr
 };
 
 // Picks the shape by the number of arguments and by what they could be, raising nothing, then runs

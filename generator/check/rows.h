@@ -2,6 +2,7 @@
 // table, the model export and the reference share.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -70,11 +71,15 @@ std::vector<Row> helper_rows(const Model &model);
 // All rows but the runtime's own first one.
 std::vector<Row> all_rows(const Model &model);
 
-// What a row's record holds beside its name: all messages in one literal, each ended by a zero byte
-// (the literal's own ends the last), and the slots of the arguments and, in the last place, of the
-// result. In emit_rows.cpp.
+// All messages of a row in one literal, each ended by a zero byte (the literal's own ends the
+// last). In emit_rows.cpp.
 std::string texts_of(const Row &row);
-std::string slots_of(const Model &model, const Row &row);
+
+// Adds to the values of a template what it says of type slots: "slots", how many the record has,
+// and "slot_list", the rest of its initialiser. The result's is the first, then come those of the
+// arguments, up to the last that is read. In emit_rows.cpp.
+using Holes = std::map<std::string, std::string>;
+Holes with_slots(const Model &model, const Row &row, Holes holes);
 
 // "slots::_p_int", of generated/type_slots.h.
 std::string slot_name(const Model &model, int slot);

@@ -16,10 +16,9 @@ using namespace ombra;
 
 @rows@)";
 
-const std::string kRow = R"(static constexpr CallRow row_@name@{
-    "@name@",
-    @texts@,
-    {@slots@}};
+const std::string kRow = R"(static constexpr Record<CallRow, @slots@> row_@name@{
+    {"@name@",
+     @texts@}@slot_list@};
 PyObject *@entry@(PyObject *, PyObject *args) {
     return @call@(row_@name@, args);
 }
@@ -43,11 +42,11 @@ std::string row_text(const Model &model, const Row &row) {
         return fill(kRegistration,
                     {{"entry", row.entry}, {"slot", slot_name(model, row.result.slot)}});
     }
-    return fill(kRow, {{"name", row.name},
-                       {"entry", row.entry},
-                       {"texts", texts_of(row)},
-                       {"slots", slots_of(model, row)},
-                       {"call", call_of(row)}});
+    return fill(kRow, with_slots(model, row,
+                                 {{"name", row.name},
+                                  {"entry", row.entry},
+                                  {"texts", texts_of(row)},
+                                  {"call", call_of(row)}}));
 }
 
 }  // namespace

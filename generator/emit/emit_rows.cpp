@@ -24,22 +24,22 @@ using namespace ombra;
 @rows@)";
 
 const std::string kFunction = R"(// @doc@
-static constexpr CallRow row_@name@{
-    "@name@",
-    @texts@,
-    {@slots@}};
+static const Record<FunctionRow, @slots@> row_@name@{
+    {reinterpret_cast<NativeFunction>(&@native@),
+     {"@name@",
+      @texts@}}@slot_list@};
 PyObject *@entry@(PyObject *, PyObject *args) {
     using Shape = @frame@<@shape@>;
-    return Shape::run(row_@name@, Shape::native(&@native@), args);
+    static_assert(Shape::takes(&@native@));
+    return Shape::run(row_@name@, args);
 }
 
 )";
 
 const std::string kEntry = R"(// @doc@
-static constexpr CallRow row_@name@{
-    "@name@",
-    @texts@,
-    {@slots@}};
+static constexpr Record<CallRow, @slots@> row_@name@{
+    {"@name@",
+     @texts@}@slot_list@};
 PyObject *@entry@(PyObject *, PyObject *args) {
     return ombra::rows::@name@(row_@name@, args);
 }
@@ -48,26 +48,25 @@ PyObject *@entry@(PyObject *, PyObject *args) {
 
 const std::string kField = R"(static constexpr FieldRow row_@name@{
     {"@name@",
-     @texts@,
-     {@slots@}},
-    @offset@, @size@, @count@};
+     @texts@},
+    {0, @self@, @field@}, @count@, @offset@, @size@};
 PyObject *@entry@(PyObject *, PyObject *args) {
     return @accessor@(row_@name@, args);
 }
 
 )";
 
-const std::string kConstructor = R"(static constexpr CallRow row_@name@{"@name@", "", {@slots@}};
+const std::string kConstructor =
+    R"(static constexpr Record<CallRow, @slots@> row_@name@{{"@name@", ""}@slot_list@};
 PyObject *@entry@(PyObject *, PyObject *args) {
     return new_struct(row_@name@, args, @size@);
 }
 
 )";
 
-const std::string kDestructor = R"(static constexpr CallRow row_@name@{
-    "@name@",
-    @texts@,
-    {@slots@}};
+const std::string kDestructor = R"(static constexpr Record<CallRow, @slots@> row_@name@{
+    {"@name@",
+     @texts@}@slot_list@};
 PyObject *@entry@(PyObject *, PyObject *args) {
     return delete_struct(row_@name@, args);
 }
@@ -108,15 +107,16 @@ std::string function_text(const Model &model, const Row &row) {
     const std::string native = body                     ? "ombra::rows::" + row.name
                                : function.module_native ? "::" + function.native
                                                         : function.native;
-    return fill(function.hand_written == "entry" ? kEntry : kFunction,
-                {{"doc", doc},
-                 {"name", row.name},
-                 {"entry", row.entry},
-                 {"texts", texts_of(row)},
-                 {"slots", slots_of(model, row)},
-                 {"frame", function.appended.empty() ? "Call" : "AppendCall"},
-                 {"shape", shape_of(row)},
-                 {"native", native}});
+    const bool entry = function.hand_written == "entry";
+    return fill(entry ? kEntry : kFunction,
+                with_slots(model, row,
+                           {{"doc", doc},
+                            {"name", row.name},
+                            {"entry", row.entry},
+                            {"texts", texts_of(row)},
+                            {"frame", function.appended.empty() ? "Call" : "AppendCall"},
+                            {"shape", shape_of(row)},
+                            {"native", native}}));
 }
 
 // "get_value" and "set_value" are templates on the kind.
@@ -130,12 +130,12 @@ std::string accessor_of(const Variable &field, bool getter) {
 std::string field_text(const Model &model, const Row &row) {
     const Conversion &field = row.field->conversion;
     const bool getter = row.role == RowRole::getter;
-    const std::string slots = slot_name(model, row.record->slot) + ", " +
-                              slot_text(model, field, getter ? field.result_slot : field.slot);
+    const std::string slot = slot_text(model, field, getter ? field.result_slot : field.slot);
     return fill(kField, {{"name", row.name},
                          {"entry", row.entry},
                          {"texts", texts_of(row)},
-                         {"slots", slots},
+                         {"self", slot_name(model, row.record->slot)},
+                         {"field", slot},
                          {"offset", std::to_string(row.field->offset)},
                          {"size", std::to_string(field.size)},
                          {"count", std::to_string(field.count)},
@@ -143,13 +143,14 @@ std::string field_text(const Model &model, const Row &row) {
 }
 
 std::string row_text(const Model &model, const Row &row) {
-    const std::map<std::string, std::string> holes = {
-        {"name", row.name},
-        {"entry", row.entry},
-        {"texts", texts_of(row)},
-        {"slots", slots_of(model, row)},
-        {"slot", row.record == nullptr ? "" : slot_name(model, row.record->slot)},
-        {"size", row.record == nullptr ? "" : std::to_string(row.record->size)}};
+    const Struct *record = row.record;
+    const Holes holes =
+        with_slots(model, row,
+                   {{"name", row.name},
+                    {"entry", row.entry},
+                    {"texts", texts_of(row)},
+                    {"slot", record == nullptr ? "" : slot_name(model, record->slot)},
+                    {"size", record == nullptr ? "" : std::to_string(record->size)}});
     switch (row.role) {
         case RowRole::function:
             return function_text(model, row);
@@ -186,23 +187,27 @@ std::string texts_of(const Row &row) {
     if (!row.field_null_text.empty()) texts.push_back(row.field_null_text);
     std::string literal;
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        literal += i == 0 ? "" : "\n    ";
+        literal += i == 0 ? "" : "\n      ";
         literal += quoted(texts[i]);
         if (i + 1 < texts.size()) literal.insert(literal.size() - 1, "\\0");
     }
     return literal.empty() ? "\"\"" : literal;
 }
 
-std::string slots_of(const Model &model, const Row &row) {
-    constexpr std::size_t most_arguments = 9;
-    std::string slots;
-    for (std::size_t i = 0; i < most_arguments; ++i) {
-        const Conversion none;
-        const Conversion &one = i < row.arguments.size() ? row.arguments[i].conversion : none;
-        slots += slot_text(model, one, one.slot) + ", ";
+Holes with_slots(const Model &model, const Row &row, Holes holes) {
+    std::string list = slot_text(model, row.result, row.result.result_slot);
+    std::string kept = traits(row.result.kind).typed ? list : "";
+    std::size_t count = kept.empty() ? 0 : 1;
+    for (std::size_t i = 0; i < row.arguments.size(); ++i) {
+        const Conversion &argument = row.arguments[i].conversion;
+        list += ", " + slot_text(model, argument, argument.slot);
+        if (!traits(argument.kind).typed) continue;
+        kept = list;
+        count = i + 2;
     }
-    return slots + (row.record != nullptr ? slot_name(model, row.record->slot)
-                                          : slot_text(model, row.result, row.result.result_slot));
+    holes["slots"] = std::to_string(count);
+    holes["slot_list"] = count == 0 ? "" : ",\n    {" + kept + "}";
+    return holes;
 }
 
 std::string emit_shapes(const Model &model, unsigned part) {
