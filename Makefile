@@ -13,29 +13,34 @@ SUITE ?= bullseye
 DESTDIR ?=
 export DESTDIR PYTHON27 PYTHON27_DEBUG
 
+# On a terminal the build tool keeps to one line; elsewhere it says nothing but what fails.
+quiet := $(if $(MAKE_TERMOUT),,-- --quiet)
 compile := cmake --build build --parallel $(JOBS)
-compile_debug := cmake --build build/debug --parallel $(JOBS)
+compile_debug := cmake --build build/debug --parallel $(JOBS) $(quiet)
 
 # Runs its argument under the interpreter that was built for, with the fresh module.
 python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
 have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
 
-.PHONY: help demo test build debug bench docs race fuzz portable install install-standin uninstall deb \
+.PHONY: help demo test build product debug bench docs race fuzz portable install install-standin uninstall deb \
     deb-test root-test format tidy setup configure mutants clean
 
-demo: build ## install what is missing, build, and run the quick start
+demo: product ## install what is missing, build, and run the quick start
 	@$(call python,examples/quickstart.py)
 
 test: build portable debug ## the same, and every test: release, then debug interpreter and sanitizers
 	@tests/run/ctest_all.sh $(JOBS)
 
-build: configure ## the module, its libraries and Python files, together in build/lib
-	@$(compile)
+build: configure ## the module, its libraries and Python files, together in build/lib, and the tests
+	@$(compile) $(quiet)
+
+product: configure # the module and its libraries, and no test
+	@$(compile) --target product $(quiet)
 
 debug: configure ## the same under the debug interpreter and sanitizers, in build/debug
 	@if $(have_debug); then setup/configure.sh debug && $(compile_debug); fi
 
-bench: build ## compare with hand-written extension code, ctypes, Cython and pybind11
+bench: product ## compare with hand-written extension code, ctypes, Cython and pybind11
 	@setup/peers.sh build/peers
 	@cmake build --log-level=WARNING
 	@$(compile) --target bench
