@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "runtime/collector_pause.h"
 #include "runtime/hex_text.h"
 #include "runtime/module_list.h"
 #include "runtime/packed_object.h"
@@ -75,13 +76,18 @@ void install(PyObject *dictionary, const swig_module_definition &definition,
     }
 }
 
+PyObject *init_module(const swig_module_definition &definition) {
+    const ombra::CollectorPause pause;
+    return Py_InitModule4(definition.name, definition.methods, nullptr, nullptr,
+                          PYTHON_API_VERSION);
+}
+
 }  // namespace
 
 void SWIG_Python_RunEntry(const swig_module_definition &definition) {
     SWIG_Python_PatchDocstrings(definition.methods, definition.const_rows, swig_type_seeds,
                                 swig_type_slots);
-    PyObject *module =
-        Py_InitModule4(definition.name, definition.methods, nullptr, nullptr, PYTHON_API_VERSION);
+    PyObject *const module = init_module(definition);
     if (module == nullptr) return;
     PyObject *dictionary = PyModule_GetDict(module);
     SWIG_Python_JoinModuleList(*definition.table, swig_type_seeds, swig_cast_seeds);
@@ -93,6 +99,7 @@ void SWIG_Python_RunEntry(const swig_module_definition &definition) {
 
 void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *rows,
                                  swig_type_info *const *type_seeds, swig_type_info **type_slots) {
+    if (rows->kind == SWIG_CONST_END) return;  // no row that a marker could name
     for (PyMethodDef *method = methods; method->ml_name != nullptr; ++method) {
         const char *marker =
             method->ml_doc != nullptr ? std::strstr(method->ml_doc, kMarker.data()) : nullptr;

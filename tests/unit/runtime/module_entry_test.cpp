@@ -6,6 +6,7 @@
 #include <cstring>
 #include <string>
 
+#include "runtime/collector_pause.h"
 #include "runtime/module_list.h"
 #include "runtime/packed_object.h"
 #include "tests/unit/runtime/tiny_module.h"
@@ -39,6 +40,35 @@ TEST_F(ModuleEntryTest, VariableLink) {
     const char *silent = "Unknown C global variable 'silent'";
     EXPECT_EQ(refused("cvar.silent", PyExc_AttributeError), silent);
     EXPECT_EQ(refused("cvar.silent = 1", PyExc_AttributeError), silent);
+}
+
+// What a pause leaves: the collector's own state, no module that was not there, and the exception
+// that was pending. Where the module cannot be had, it does nothing.
+TEST_F(ModuleEntryTest, CollectorPauseLeavesNoTrace) {
+    const struct {
+        const char *before;
+        const char *during;
+        const char *after;
+    } cases[] = {
+        {"import gc; gc.enable()", "False", "True"},
+        {"import gc; gc.disable()", "False", "False"},
+        {"gc.enable(); import sys; sys.modules['gc'] = None", "True", "True"},
+        {"del sys.modules['gc']; sys.modules.pop('time', None)", "False", "True"},
+    };
+    for (const auto &entry : cases) {
+        ASSERT_EQ(refused(entry.before, PyExc_Exception), "") << entry.before;
+        const std::string modules = evaluate("sorted(__import__('sys').modules)");
+        PyErr_SetString(PyExc_KeyError, "pending");
+        {
+            const ombra::CollectorPause pause;
+            EXPECT_EQ(tiny::take_error(PyExc_KeyError), "pending");
+            EXPECT_EQ(evaluate("gc.isenabled()"), entry.during) << entry.before;
+            PyErr_SetString(PyExc_KeyError, "pending");
+        }
+        EXPECT_EQ(tiny::take_error(PyExc_KeyError), "pending");
+        EXPECT_EQ(evaluate("gc.isenabled()"), entry.after) << entry.before;
+        EXPECT_EQ(evaluate("sorted(__import__('sys').modules)"), modules) << entry.before;
+    }
 }
 
 // Runs the entry in a second interpreter, in a process of its own: the variables go into the one

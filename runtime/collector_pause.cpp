@@ -1,0 +1,61 @@
+// Switching the collector through its module, the only way that this interpreter has.
+#include "runtime/collector_pause.h"
+
+#include <iterator>
+
+namespace {
+
+// Sets the exception of the caller aside, and whatever is raised meanwhile with it.
+class SetAside {
+  public:
+    SetAside() { PyErr_Fetch(&type_, &value_, &traceback_); }
+    SetAside(const SetAside &) = delete;
+    SetAside &operator=(const SetAside &) = delete;
+    ~SetAside() { PyErr_Restore(type_, value_, traceback_); }
+
+  private:
+    PyObject *type_ = nullptr;
+    PyObject *value_ = nullptr;
+    PyObject *traceback_ = nullptr;
+};
+
+// The import of the collector's module, which itself imports another.
+ombra::PyRef import_collector() {
+    static const char *const names[] = {"gc", "time"};
+    PyObject *const modules = PyImport_GetModuleDict();
+    bool known[std::size(names)];
+    for (std::size_t i = 0; i < std::size(names); ++i)
+        known[i] = PyDict_GetItemString(modules, names[i]) != nullptr;
+    ombra::PyRef collector(
+        PyImport_ImportModuleLevel(const_cast<char *>(names[0]), nullptr, nullptr, nullptr, 0));
+    for (std::size_t i = 0; i < std::size(names); ++i)
+        if (!known[i] && PyDict_DelItemString(modules, names[i]) != 0) PyErr_Clear();
+    return collector;
+}
+
+// The result of a function of the collector, or null. No error stays set.
+ombra::PyRef call(PyObject *collector, const char *name) {
+    ombra::PyRef result(PyObject_CallMethod(collector, const_cast<char *>(name), nullptr));
+    if (result == nullptr) PyErr_Clear();
+    return result;
+}
+
+}  // namespace
+
+ombra::CollectorPause::CollectorPause() {
+    const SetAside set_aside;
+    PyRef collector = import_collector();
+    if (collector == nullptr) {
+        PyErr_Clear();
+        return;
+    }
+    const PyRef enabled = call(collector.get(), "isenabled");
+    if (enabled.get() == Py_True && call(collector.get(), "disable") != nullptr)
+        collector_ = std::move(collector);
+}
+
+ombra::CollectorPause::~CollectorPause() {
+    if (collector_ == nullptr) return;
+    const SetAside set_aside;
+    call(collector_.get(), "enable");
+}
