@@ -14,7 +14,7 @@ DESTDIR ?=
 export DESTDIR PYTHON27 PYTHON27_DEBUG
 
 # On a terminal the build tool keeps to one line; elsewhere it says nothing but what fails.
-quiet := $(if $(MAKE_TERMOUT),,-- --quiet)
+quiet := $(if $(MAKE_TERMOUT),,$(shell ninja --help 2>&1 | grep -q -e --quiet && echo -- --quiet))
 compile := cmake --build build --parallel $(JOBS)
 compile_debug := cmake --build build/debug --parallel $(JOBS) $(quiet)
 

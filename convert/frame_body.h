@@ -36,9 +36,10 @@ template <typename... Args, typename Body>
         if (!PyArg_UnpackTuple(args, const_cast<char *>(row.name), count, count, &items[I]...))
             return nullptr;  // 1
         [[maybe_unused]] Arguments<std::index_sequence<I...>, Args...> values;
-        if (!(values.Argument<I, Args>::kind.read(items[I], row, I) && ...)) return nullptr;  // 2
+        if (!(static_cast<Argument<I, Args> &>(values).kind.read(items[I], row, I) && ...))
+            return nullptr;  // 2
         try {
-            return body(values.Argument<I, Args>::kind.native()...);  // 3, 4
+            return body(static_cast<Argument<I, Args> &>(values).kind.native()...);  // 3, 4
         } catch (abi::__forced_unwind &) {
             throw;
         } catch (...) {
