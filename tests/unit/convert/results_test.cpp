@@ -74,12 +74,13 @@ int end_thread() { pthread_exit(nullptr); }
 
 // A native function may end its thread: the frame lets it unwind, and does not return.
 TEST_F(ResultsTest, AThreadThatEndsGoesOnUnwinding) {
-    static constexpr ombra::CallRow row{"row", "", {0, 0, 0, 0, 0, 0, 0, 0, 0, 0}};
+    static const ombra::FunctionRow row{reinterpret_cast<ombra::NativeFunction>(&end_thread),
+                                        {"row", ""}};
     static const PyRef none(PyTuple_New(0));
     static bool returned = false;
     pthread_t thread{};
     const auto run = [](void *) -> void * {
-        ombra::Call<ombra::Signed32()>::run(row, end_thread, none.get());
+        ombra::Call<ombra::Signed32()>::run(row, none.get());
         returned = true;
         return nullptr;
     };
