@@ -204,4 +204,10 @@ const char *standin_agent_name(void) {
     return platform().agent_name.c_str();
 }
 
+const char *standin_last_refusal(void) {
+    thread_local std::string told;
+    told = last_refusal();
+    return told.c_str();
+}
+
 }  // extern "C"

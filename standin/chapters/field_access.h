@@ -29,11 +29,24 @@ bool in_set(const SHR_BITDCL (&words)[N], int number) {
     return (words[number / 32] >> (number % 32) & 1u) != 0;
 }
 
-// Takes an entry out of the engine, and its hold on counters and policers.
-// REQUIRES: the entry is there.
-void erase_rule(Switch &chip, bcm_field_entry_t entry);
+// The rules of a group, ascending.
+inline std::vector<bcm_field_entry_t> entries_in(const Switch &chip, bcm_field_group_t group) {
+    std::vector<bcm_field_entry_t> found;
+    chip.references.each_user(
+        object(ObjectKind::kGroup, group), Use::kRuleGroup,
+        [&](const Object &rule) { found.push_back(static_cast<bcm_field_entry_t>(rule.number)); });
+    return found;
+}
 
-// A copy of an entry holds the same counters and policers.
-void hold_links(Switch &chip, const FieldEntry &entry);
+// Changes a rule by `edit(chip, copy)`, which answers a status; refused whole.
+template <class Edit>
+int change_rule(const char *function, int unit, bcm_field_entry_t entry, Edit &&edit) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        FieldEntry *const rule = find_in(entries_of(chip), entry);
+        if (rule == nullptr) return missing(entry);
+        return change(chip, object(ObjectKind::kRule, entry), *rule,
+                      [&](FieldEntry &made) { return edit(chip, made); });
+    });
+}
 
 }  // namespace standin

@@ -17,12 +17,10 @@ bool allowed(const FieldGroup &group, int action) {
 
 int add(const char *function, int unit, bcm_field_entry_t entry, bcm_field_action_t action,
         const FieldAction &made) {
-    return on_switch(function, unit, [&](Switch &chip) {
-        FieldEntry *const rule = find_in(entries_of(chip), entry);
-        if (rule == nullptr) return BCM_E_NOT_FOUND;
+    return change_rule(function, unit, entry, [&](Switch &chip, FieldEntry &rule) {
         if (!within<int>(action, 0, bcmFieldActionCount - 1)) return BCM_E_PARAM;
-        if (!allowed(groups_of(chip)[rule->group], action)) return BCM_E_PARAM;
-        return rule->actions.emplace(action, made).second ? BCM_E_NONE : BCM_E_EXISTS;
+        if (!allowed(groups_of(chip)[rule.group], action)) return BCM_E_PARAM;
+        return rule.actions.emplace(action, made).second ? BCM_E_NONE : BCM_E_EXISTS;
     });
 }
 
@@ -84,7 +82,7 @@ int bcm_field_action_ports_get(int unit, bcm_field_entry_t entry, bcm_field_acti
 }
 
 int bcm_field_action_remove(int unit, bcm_field_entry_t entry, bcm_field_action_t action) {
-    return on_rule(__func__, unit, entry, [&](FieldEntry &rule) {
+    return change_rule(__func__, unit, entry, [&](Switch &, FieldEntry &rule) {
         return rule.actions.erase(action) == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
     });
 }
@@ -92,7 +90,7 @@ int bcm_field_action_remove(int unit, bcm_field_entry_t entry, bcm_field_action_
 // Only an action with these parameters.
 int bcm_field_action_delete(int unit, bcm_field_entry_t entry, bcm_field_action_t action,
                             uint32 param0, uint32 param1) {
-    return on_rule(__func__, unit, entry, [&](FieldEntry &rule) {
+    return change_rule(__func__, unit, entry, [&](Switch &, FieldEntry &rule) {
         const FieldAction *const one = find_in(rule.actions, action);
         if (one == nullptr || one->param0 != param0 || one->param1 != param1)
             return BCM_E_NOT_FOUND;
@@ -102,7 +100,7 @@ int bcm_field_action_delete(int unit, bcm_field_entry_t entry, bcm_field_action_
 }
 
 int bcm_field_action_remove_all(int unit, bcm_field_entry_t entry) {
-    return on_rule(__func__, unit, entry, [](FieldEntry &rule) {
+    return change_rule(__func__, unit, entry, [](Switch &, FieldEntry &rule) {
         rule.actions.clear();
         return BCM_E_NONE;
     });

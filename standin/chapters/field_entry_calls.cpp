@@ -5,34 +5,22 @@
 
 using namespace standin;
 
-namespace standin {
-
-void hold_links(Switch &chip, const FieldEntry &entry) {
-    if (entry.stat) ++stats_of(chip)[*entry.stat].users;
-    for (const auto &[level, policer] : entry.policers) ++chip.groups.policers[policer].users;
-}
-
-void erase_rule(Switch &chip, bcm_field_entry_t entry) {
-    const FieldEntry &rule = entries_of(chip)[entry];
-    if (rule.stat) --stats_of(chip)[*rule.stat].users;
-    for (const auto &[level, policer] : rule.policers) --chip.groups.policers[policer].users;
-    entries_of(chip).erase(entry);
-}
-
-}  // namespace standin
-
 namespace {
 
 constexpr Numbering<bcm_field_entry_t> kNumbers{"field_entry", kFieldEntries, 1, 0x7fffffff};
 
+int put(Switch &chip, bool given, bcm_field_entry_t *entry, const FieldEntry &rule) {
+    int status = BCM_E_NONE;
+    FieldEntry *const made = new_entry(entries_of(chip), kNumbers, given, entry, status);
+    return made == nullptr ? status : assign(chip, object(ObjectKind::kRule, *entry), *made, rule);
+}
+
 int create(const char *function, int unit, bcm_field_group_t group, bool given,
            bcm_field_entry_t *entry) {
     return on_switch(function, unit, [&](Switch &chip) {
-        if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
-        int status = BCM_E_NONE;
-        FieldEntry *const made = new_entry(entries_of(chip), kNumbers, given, entry, status);
-        if (made != nullptr) made->group = group;
-        return status;
+        FieldEntry rule;
+        rule.group = group;
+        return groups_of(chip).contains(group) ? put(chip, given, entry, rule) : missing(group);
     });
 }
 
@@ -41,29 +29,24 @@ int copy(const char *function, int unit, bcm_field_entry_t source, bool given,
          bcm_field_entry_t *target) {
     return on_switch(function, unit, [&](Switch &chip) {
         const FieldEntry *const from = find_in(entries_of(chip), source);
-        if (from == nullptr) return BCM_E_NOT_FOUND;
-        int status = BCM_E_NONE;
-        FieldEntry *const made = new_entry(entries_of(chip), kNumbers, given, target, status);
-        if (made == nullptr) return status;
-        *made = *from;
-        made->installed = false;
-        hold_links(chip, *made);
-        return BCM_E_NONE;
+        if (from == nullptr) return missing(source);
+        FieldEntry rule = *from;
+        rule.installed = false;
+        return put(chip, given, target, rule);
     });
 }
 
 int attach_stat(const char *function, int unit, bcm_field_entry_t entry, int stat_id,
                 bcm_field_stat_action_t action) {
-    return on_switch(function, unit, [&](Switch &chip) {
-        FieldEntry *const rule = find_in(entries_of(chip), entry);
-        FieldStat *const stat = find_in(stats_of(chip), stat_id);
-        if (rule == nullptr || stat == nullptr) return BCM_E_NOT_FOUND;
-        if (stat->group != rule->group) return BCM_E_PARAM;
-        if (rule->stat) return BCM_E_EXISTS;
-        rule->stat = stat_id;
-        rule->stat_action = action;
-        ++stat->users;
-        return BCM_E_NONE;
+    return change_rule(function, unit, entry, [&](Switch &chip, FieldEntry &rule) {
+        const FieldStat *const stat = find_in(stats_of(chip), stat_id);
+        if (stat != nullptr && stat->group != rule.group)
+            return refused(BCM_E_PARAM, "counter " + std::to_string(stat_id) + " is of group " +
+                                            std::to_string(stat->group));
+        if (rule.stat) return refused(BCM_E_EXISTS, "it has counter " + std::to_string(*rule.stat));
+        rule.stat = stat_id;
+        rule.stat_action = action;
+        return int{BCM_E_NONE};
     });
 }
 
@@ -96,16 +79,13 @@ int bcm_field_entry_copy_id(int unit, bcm_field_entry_t src_entry, bcm_field_ent
 
 int bcm_field_entry_destroy(int unit, bcm_field_entry_t entry) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        if (!entries_of(chip).contains(entry)) return BCM_E_NOT_FOUND;
-        erase_rule(chip, entry);
-        return BCM_E_NONE;
+        return erase_object(chip, entries_of(chip), ObjectKind::kRule, entry);
     });
 }
 
 int bcm_field_entry_destroy_all(int unit) {
     return on_switch(__func__, unit, [](Switch &chip) {
-        while (!entries_of(chip).empty()) erase_rule(chip, entries_of(chip).begin()->first);
-        return BCM_E_NONE;
+        return erase_objects(chip, entries_of(chip), ObjectKind::kRule);
     });
 }
 
@@ -127,11 +107,8 @@ int bcm_field_entry_remove(int unit, bcm_field_entry_t entry) {
 int bcm_field_entry_multi_get(int unit, bcm_field_group_t group, int entry_size,
                               bcm_field_entry_t *entry_array, int *entry_count) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
-        std::vector<bcm_field_entry_t> ids;
-        for (const auto &[id, rule] : entries_of(chip))
-            if (rule.group == group) ids.push_back(id);
-        return give_array(ids, entry_size, entry_array, entry_count);
+        if (!groups_of(chip).contains(group)) return missing(group);
+        return give_array(entries_in(chip, group), entry_size, entry_array, entry_count);
     });
 }
 
@@ -183,25 +160,19 @@ int bcm_field_entry_stat_extended_get(int unit, bcm_field_entry_t entry, int *st
 }
 
 int bcm_field_entry_stat_detach(int unit, bcm_field_entry_t entry, int stat_id) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        FieldEntry *const rule = find_in(entries_of(chip), entry);
-        if (rule == nullptr || rule->stat != stat_id) return BCM_E_NOT_FOUND;
-        rule->stat.reset();
-        --stats_of(chip)[stat_id].users;
-        return BCM_E_NONE;
+    return change_rule(__func__, unit, entry, [&](Switch &, FieldEntry &rule) {
+        if (rule.stat != stat_id) return missing(stat_id);
+        rule.stat.reset();
+        return int{BCM_E_NONE};
     });
 }
 
 int bcm_field_entry_policer_attach(int unit, bcm_field_entry_t entry_id, int level,
                                    bcm_policer_t policer_id) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        FieldEntry *const rule = find_in(entries_of(chip), entry_id);
-        Policer *const policer = find_in(chip.groups.policers, policer_id);
-        if (rule == nullptr || policer == nullptr) return BCM_E_NOT_FOUND;
+    return change_rule(__func__, unit, entry_id, [&](Switch &chip, FieldEntry &rule) {
+        if (!chip.groups.policers.contains(policer_id)) return missing(policer_id);
         if (level < 0) return BCM_E_PARAM;
-        if (!rule->policers.emplace(level, policer_id).second) return BCM_E_EXISTS;
-        ++policer->users;
-        return BCM_E_NONE;
+        return rule.policers.emplace(level, policer_id).second ? BCM_E_NONE : BCM_E_EXISTS;
     });
 }
 
@@ -214,23 +185,14 @@ int bcm_field_entry_policer_get(int unit, bcm_field_entry_t entry_id, int level,
 }
 
 int bcm_field_entry_policer_detach(int unit, bcm_field_entry_t entry_id, int level) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        FieldEntry *const rule = find_in(entries_of(chip), entry_id);
-        const bcm_policer_t *const policer =
-            rule == nullptr ? nullptr : find_in(rule->policers, level);
-        if (policer == nullptr) return BCM_E_NOT_FOUND;
-        --chip.groups.policers[*policer].users;
-        rule->policers.erase(level);
-        return BCM_E_NONE;
+    return change_rule(__func__, unit, entry_id, [&](Switch &, FieldEntry &rule) {
+        return rule.policers.erase(level) == 0 ? missing(level) : BCM_E_NONE;
     });
 }
 
 int bcm_field_entry_policer_detach_all(int unit, bcm_field_entry_t entry_id) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        FieldEntry *const rule = find_in(entries_of(chip), entry_id);
-        if (rule == nullptr) return BCM_E_NOT_FOUND;
-        for (const auto &[level, policer] : rule->policers) --chip.groups.policers[policer].users;
-        rule->policers.clear();
+    return change_rule(__func__, unit, entry_id, [](Switch &, FieldEntry &rule) {
+        rule.policers.clear();
         return BCM_E_NONE;
     });
 }

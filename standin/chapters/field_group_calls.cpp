@@ -19,7 +19,7 @@ struct Wanted {
 
 int create(Switch &chip, bool given, bcm_field_group_t *group, const Wanted &wanted) {
     if (wanted.priority < 0 && wanted.priority != BCM_FIELD_GROUP_PRIO_ANY) return BCM_E_PARAM;
-    if (!is_subset(wanted.ports, kAllPorts)) return BCM_E_PORT;
+    if (!is_subset(wanted.ports, kAllPorts)) return refused_ports(wanted.ports);
     int status = BCM_E_NONE;
     FieldGroup *const made = new_entry(groups_of(chip), kNumbers, given, group, status);
     if (made == nullptr) return status;
@@ -40,38 +40,24 @@ int create_on_port(const char *function, int unit, bool given, bcm_field_group_t
                    bcm_port_t port, Wanted wanted) {
     return on_switch(function, unit, [&](Switch &chip) {
         const int number = local_port(port);
-        if (number < 0) return BCM_E_PORT;
+        if (number < 0) return refused_port("port", port);
         wanted.ports = port_range(number, number);
         return create(chip, given, group, wanted);
     });
 }
 
-std::vector<bcm_field_entry_t> entries_in(Switch &chip, bcm_field_group_t group) {
-    std::vector<bcm_field_entry_t> found;
-    for (const auto &[id, entry] : entries_of(chip))
-        if (entry.group == group) found.push_back(id);
-    return found;
-}
-
-bool has_stats(Switch &chip, bcm_field_group_t group) {
-    for (const auto &[id, stat] : stats_of(chip))
-        if (stat.group == group) return true;
-    return false;
-}
-
 int clear_engine(const char *function, int unit) {
-    return on_switch(function, unit, [](Switch &chip) {
-        while (!entries_of(chip).empty()) erase_rule(chip, entries_of(chip).begin()->first);
-        chip.field = Field{};
-        forget_generic(chip, "bcm_field_");
-        return BCM_E_NONE;
+    return start_chapter(function, unit, "bcm_field_", [](Switch &chip) {
+        erase_objects(chip, entries_of(chip), ObjectKind::kRule);
+        erase_objects(chip, stats_of(chip), ObjectKind::kCounter);
+        return erase_objects(chip, groups_of(chip), ObjectKind::kGroup);
     });
 }
 
 // Installs all entries of the group, or takes all out of the hardware.
 int mark_installed(const char *function, int unit, bcm_field_group_t group, bool installed) {
     return on_switch(function, unit, [&](Switch &chip) {
-        if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
+        if (!groups_of(chip).contains(group)) return missing(group);
         for (const bcm_field_entry_t id : entries_in(chip, group))
             entries_of(chip)[id].installed = installed;
         return BCM_E_NONE;
@@ -170,17 +156,15 @@ int bcm_field_group_config_create(int unit, bcm_field_group_config_t *group_conf
 // A group with entries or counters stays.
 int bcm_field_group_destroy(int unit, bcm_field_group_t group) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
-        if (!entries_in(chip, group).empty() || has_stats(chip, group)) return BCM_E_BUSY;
-        groups_of(chip).erase(group);
-        return BCM_E_NONE;
+        return erase_object(chip, groups_of(chip), ObjectKind::kGroup, group);
     });
 }
 
 int bcm_field_group_flush(int unit, bcm_field_group_t group) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
-        for (const bcm_field_entry_t id : entries_in(chip, group)) erase_rule(chip, id);
+        if (!groups_of(chip).contains(group)) return missing(group);
+        for (const bcm_field_entry_t id : entries_in(chip, group))
+            erase_object(chip, entries_of(chip), ObjectKind::kRule, id);
         return BCM_E_NONE;
     });
 }
@@ -204,8 +188,9 @@ int bcm_field_group_traverse(int unit, bcm_field_group_traverse_cb callback, voi
 int bcm_field_group_set(int unit, bcm_field_group_t group, bcm_field_qset_t qset) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         FieldGroup *const one = find_in(groups_of(chip), group);
-        if (one == nullptr) return BCM_E_NOT_FOUND;
-        if (!entries_in(chip, group).empty()) return BCM_E_BUSY;
+        if (one == nullptr) return missing(group);
+        if (const auto held = entries_in(chip, group); !held.empty())
+            return refused(BCM_E_BUSY, "it has " + std::to_string(held.size()) + " rules");
         one->qualifiers = qset;
         return BCM_E_NONE;
     });
@@ -266,7 +251,7 @@ int bcm_field_group_presel_get(int unit, bcm_field_group_t group, bcm_field_pres
 
 int bcm_field_group_ports_add(int unit, bcm_field_group_t group, bcm_pbmp_t pbmp) {
     return on_group(__func__, unit, group, [&](FieldGroup &one) {
-        if (!is_subset(pbmp, kAllPorts)) return BCM_E_PORT;
+        if (!is_subset(pbmp, kAllPorts)) return refused_ports(pbmp);
         add_ports(one.ports, pbmp);
         return BCM_E_NONE;
     });
@@ -274,7 +259,7 @@ int bcm_field_group_ports_add(int unit, bcm_field_group_t group, bcm_pbmp_t pbmp
 
 int bcm_field_group_ports_remove(int unit, bcm_field_group_t group, bcm_pbmp_t pbmp) {
     return on_group(__func__, unit, group, [&](FieldGroup &one) {
-        if (!is_subset(pbmp, kAllPorts)) return BCM_E_PORT;
+        if (!is_subset(pbmp, kAllPorts)) return refused_ports(pbmp);
         remove_ports(one.ports, pbmp);
         return BCM_E_NONE;
     });

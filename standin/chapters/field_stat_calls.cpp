@@ -13,17 +13,18 @@ constexpr Numbering<int> kNumbers{"field_stat", kFieldStats, 1, 0x7fffffff};
 int create(const char *function, int unit, bcm_field_group_t group, int count,
            const bcm_field_stat_t *kinds, bool given, int *id) {
     return on_switch(function, unit, [&](Switch &chip) {
-        if (!groups_of(chip).contains(group)) return BCM_E_NOT_FOUND;
+        if (!groups_of(chip).contains(group)) return missing(group);
         if (count < 1 || kinds == nullptr) return BCM_E_PARAM;
         for (int i = 0; i < count; ++i)
             if (!within<int>(kinds[i], 0, bcmFieldStatCount - 1)) return BCM_E_PARAM;
         int status = BCM_E_NONE;
         FieldStat *const made = new_entry(stats_of(chip), kNumbers, given, id, status);
         if (made == nullptr) return status;
-        made->group = group;
-        made->kinds.assign(kinds, kinds + count);
-        for (int i = 0; i < count; ++i) made->values[kinds[i]] = 0;
-        return BCM_E_NONE;
+        FieldStat counter;
+        counter.group = group;
+        counter.kinds.assign(kinds, kinds + count);
+        for (int i = 0; i < count; ++i) counter.values[kinds[i]] = 0;
+        return assign(chip, object(ObjectKind::kCounter, *id), *made, std::move(counter));
     });
 }
 
@@ -83,7 +84,9 @@ int bcm_field_stat_create_id(int unit, bcm_field_group_t group, int nstat,
 }
 
 int bcm_field_stat_destroy(int unit, int stat_id) {
-    return erase_unused(__func__, unit, stats_of, stat_id);
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        return erase_object(chip, stats_of(chip), ObjectKind::kCounter, stat_id);
+    });
 }
 
 int bcm_field_stat_size(int unit, int stat_id, int *stat_size) {

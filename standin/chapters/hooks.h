@@ -10,7 +10,10 @@ void standin_reset(void);
 
 // A packet with this source address arrives on `port` (a local number, or a global one of a
 // trunk). The address is learned as a dynamic entry, or moves there, or is heard again.
-// BCM_E_DISABLED: the table is frozen, the port does not learn, or a static entry stands.
+// The packet carries the tag of the VLAN; on a member of a trunk it has come from the trunk.
+// BCM_E_DISABLED: the table is frozen, a static entry stands, or the port does not learn, is
+// disabled, discards, filters the VLAN or is blocked in its spanning tree. BCM_E_NOT_FOUND: there
+// is no such VLAN or trunk.
 // BCM_E_FULL: the table, or BCM_E_RESOURCE: a learn limit, is reached.
 int standin_l2_learn(int unit, bcm_mac_t mac, bcm_vlan_t vid, int port);
 
@@ -23,6 +26,11 @@ int standin_port_peer_set(int unit, int port, int present);
 // `packets` of `bytes` in all pass `port`: inwards for `outwards` 0, else outwards.
 int standin_port_traffic(int unit, int port, int outwards, unsigned packets,
                          unsigned long long bytes);
+
+// Why the last call that was refused on this thread has its status, in one sentence: "call(unit):
+// STATUS: field, what was found, what is allowed or who holds it". Never null; valid until the next
+// call of this function on the thread.
+const char *standin_last_refusal(void);
 
 // Counters of a field processor statistic grow by this.
 int standin_field_stat_hit(int unit, int stat_id, unsigned packets, unsigned long long bytes);

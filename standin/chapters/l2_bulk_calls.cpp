@@ -1,5 +1,7 @@
 // The calls of the MAC chapter that mean many entries at once. The deletes take dynamic entries
 // only, unless the static bit (0x20) is set in their flags.
+#include <functional>
+
 #include "sdk/bcm/l2.h"
 #include "standin/chapters/l2_select.h"
 
@@ -7,14 +9,46 @@ using namespace standin;
 
 namespace {
 
+// What of an entry a call names; it has to be there.
+using Wanted = std::function<int(Switch &)>;
+
 template <class Pick>
-int delete_picked(const char *function, int unit, std::uint32_t flags, Pick &&pick) {
-    return on_l2(function, unit, [&](L2Chapter &l2) {
-        erase_rows(l2, kL2Deleted, [&](const L2Row &row) {
+int delete_picked(const char *function, int unit, std::uint32_t flags, Pick &&pick,
+                  const Wanted &check = {}) {
+    return on_watched_switch(function, unit, [&](Switch &chip) {
+        if (check)
+            if (const int status = check(chip); status != BCM_E_NONE) return status;
+        erase_rows(chip, kL2Deleted, [&](const L2Row &row) {
             return (!row.is_static() || (flags & kL2Static) != 0) && pick(row.entry);
         });
-        return BCM_E_NONE;
+        return int{BCM_E_NONE};
     });
+}
+
+Wanted vlan_is_there(bcm_vlan_t vid) {
+    return [vid](Switch &chip) {
+        return check_names(chip, {{Use::kMacVlan, object(ObjectKind::kVlan, vid)}});
+    };
+}
+
+// A destination: a port of a module, or a gport.
+Wanted port_is_there(bcm_module_t module, bcm_port_t port) {
+    return [module, port](Switch &chip) {
+        bcm_l2_addr_t entry{};
+        entry.modid = module;
+        entry.port = port;
+        if (const int status = settle_destination(entry); status != BCM_E_NONE) return status;
+        Names names = names_of(entry);
+        names.erase(names.begin());  // its VLAN
+        return check_names(chip, names);
+    };
+}
+
+Wanted both(Wanted one, Wanted other) {
+    return [one = std::move(one), other = std::move(other)](Switch &chip) {
+        const int status = one(chip);
+        return status != BCM_E_NONE ? status : other(chip);
+    };
 }
 
 bool has_mac(const bcm_l2_addr_t &entry, const bcm_mac_t mac) {
@@ -41,14 +75,22 @@ void point_at(bcm_l2_addr_t &entry, const bcm_l2_addr_t &target) {
     entry.tgid = target.tgid;
 }
 
-template <class Change>
-int replace_matches(L2Chapter &l2, const L2Match &match, Change &&change) {
+int replace_matches(Switch &chip, L2Match match, bcm_l2_addr_t target) {
+    if (int status = settle_destination(match.pattern); status != BCM_E_NONE) return status;
+    if (int status = settle_destination(target); status != BCM_E_NONE) return status;
+    Names destinations = names_of(target);
+    destinations.erase(destinations.begin());  // the VLAN is each row's own
+    if (int status = check_names(chip, destinations); status != BCM_E_NONE) return status;
     L2Table::Cursor cursor;
-    while (L2Row *const row = l2.table.next(cursor)) {
+    while (L2Row *const row = chip.l2.table.next(cursor)) {
         if (!match(row->entry)) continue;
-        l2.note(row->entry, kL2Deleted);
-        change(row->entry);
-        l2.note(row->entry, kL2Added);
+        bcm_l2_addr_t moved = row->entry;
+        point_at(moved, target);
+        chip.l2.note(row->entry, kL2Deleted);
+        chip.references.unlink(mac_object(moved), names_of(row->entry));
+        chip.references.link(mac_object(moved), names_of(moved));
+        chip.l2.table.put(moved, kL2Capacity);
+        chip.l2.note(moved, kL2Added);
     }
     return BCM_E_NONE;
 }
@@ -77,38 +119,49 @@ int bcm_l2_addr_delete_by_mac(int unit, bcm_mac_t mac, uint32 flags) {
 
 int bcm_l2_addr_delete_by_mac_port(int unit, bcm_mac_t mac, bcm_module_t mod, bcm_port_t port,
                                    uint32 flags) {
-    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
-        return has_mac(entry, mac) && points_at(entry, mod, port);
-    });
+    return delete_picked(
+        __func__, unit, flags,
+        [&](const bcm_l2_addr_t &entry) {
+            return has_mac(entry, mac) && points_at(entry, mod, port);
+        },
+        port_is_there(mod, port));
 }
 
 int bcm_l2_addr_delete_by_vlan(int unit, bcm_vlan_t vid, uint32 flags) {
-    return delete_picked(__func__, unit, flags,
-                         [&](const bcm_l2_addr_t &entry) { return entry.vid == vid; });
+    return delete_picked(
+        __func__, unit, flags, [&](const bcm_l2_addr_t &entry) { return entry.vid == vid; },
+        vlan_is_there(vid));
 }
 
 int bcm_l2_addr_delete_by_port(int unit, bcm_module_t mod, bcm_port_t port, uint32 flags) {
-    return delete_picked(__func__, unit, flags,
-                         [&](const bcm_l2_addr_t &entry) { return points_at(entry, mod, port); });
+    return delete_picked(
+        __func__, unit, flags,
+        [&](const bcm_l2_addr_t &entry) { return points_at(entry, mod, port); },
+        port_is_there(mod, port));
 }
 
 int bcm_l2_addr_delete_by_vlan_port(int unit, bcm_vlan_t vid, bcm_module_t mod, bcm_port_t port,
                                     uint32 flags) {
-    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
-        return entry.vid == vid && points_at(entry, mod, port);
-    });
+    return delete_picked(
+        __func__, unit, flags,
+        [&](const bcm_l2_addr_t &entry) { return entry.vid == vid && points_at(entry, mod, port); },
+        both(vlan_is_there(vid), port_is_there(mod, port)));
 }
 
 int bcm_l2_addr_delete_by_trunk(int unit, bcm_trunk_t tid, uint32 flags) {
-    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
-        return points_at(entry, 0, kTrunkGport.of(tid));
-    });
+    return delete_picked(
+        __func__, unit, flags,
+        [&](const bcm_l2_addr_t &entry) { return points_at(entry, 0, kTrunkGport.of(tid)); },
+        port_is_there(0, kTrunkGport.of(tid)));
 }
 
 int bcm_l2_addr_delete_by_vlan_trunk(int unit, bcm_vlan_t vid, bcm_trunk_t tid, uint32 flags) {
-    return delete_picked(__func__, unit, flags, [&](const bcm_l2_addr_t &entry) {
-        return entry.vid == vid && points_at(entry, 0, kTrunkGport.of(tid));
-    });
+    return delete_picked(
+        __func__, unit, flags,
+        [&](const bcm_l2_addr_t &entry) {
+            return entry.vid == vid && points_at(entry, 0, kTrunkGport.of(tid));
+        },
+        both(vlan_is_there(vid), port_is_there(0, kTrunkGport.of(tid))));
 }
 
 // Each VLAN with the gport at the same place of the other array.
@@ -132,13 +185,11 @@ int bcm_l2_conflict_get(int unit, bcm_l2_addr_t *addr, bcm_l2_addr_t *, int cf_m
 
 int bcm_l2_replace(int unit, uint32 flags, bcm_l2_addr_t *match_addr, bcm_module_t new_module,
                    bcm_port_t new_port, bcm_trunk_t new_trunk) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
-        bcm_l2_addr_t target = destination(new_module, new_port, new_trunk);
-        if (match_addr == nullptr) return BCM_E_PARAM;
-        L2Match match{flags, *match_addr, full_l2_mask()};
-        if (int status = settle_destination(target); status != BCM_E_NONE) return status;
-        if (int status = settle_destination(match.pattern); status != BCM_E_NONE) return status;
-        return replace_matches(l2, match, [&](bcm_l2_addr_t &entry) { point_at(entry, target); });
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+        return match_addr == nullptr
+                   ? BCM_E_PARAM
+                   : replace_matches(chip, {flags, *match_addr, full_l2_mask()},
+                                     destination(new_module, new_port, new_trunk));
     });
 }
 
@@ -156,18 +207,15 @@ int bcm_l2_match_masked_traverse(int unit, uint32 flags, bcm_l2_addr_t *match_ad
 int bcm_l2_replace_match(int unit, uint32 flags, bcm_l2_addr_t *match_addr,
                          bcm_l2_addr_t *mask_addr, bcm_l2_addr_t *replace_addr,
                          bcm_l2_addr_t *replace_mask_addr) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
         if (match_addr == nullptr || replace_addr == nullptr) return BCM_E_PARAM;
         // Only the destination can be replaced: address and VLAN are the key of a row.
         if (replace_mask_addr != nullptr &&
             (l2_key(replace_mask_addr->mac, replace_mask_addr->vid) != 0)) {
             return BCM_E_UNAVAIL;
         }
-        bcm_l2_addr_t target = *replace_addr;
-        L2Match match{flags, *match_addr, mask_addr != nullptr ? *mask_addr : full_l2_mask()};
-        if (int status = settle_destination(target); status != BCM_E_NONE) return status;
-        if (int status = settle_destination(match.pattern); status != BCM_E_NONE) return status;
-        return replace_matches(l2, match, [&](bcm_l2_addr_t &entry) { point_at(entry, target); });
+        const L2Match match{flags, *match_addr, mask_addr != nullptr ? *mask_addr : full_l2_mask()};
+        return replace_matches(chip, match, *replace_addr);
     });
 }
 

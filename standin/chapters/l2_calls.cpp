@@ -12,27 +12,44 @@ using namespace standin;
 
 namespace {
 
-int put_entry(L2Chapter &l2, bcm_l2_addr_t entry, int event) {
-    if (!is_vlan(entry.vid)) return BCM_E_PARAM;
+int put_entry(Switch &chip, bcm_l2_addr_t entry, int event) {
+    L2Chapter &l2 = chip.l2;
+    if (!is_vlan(entry.vid))
+        return refused(BCM_E_PARAM,
+                       "field vid is " + std::to_string(entry.vid) + ", allowed is 1 to 4094");
     if (const int status = settle_destination(entry); status != BCM_E_NONE) return status;
-    L2Row *const row = l2.table.put(entry, table_capacity("l2", kL2Capacity));
-    if (row == nullptr) return BCM_E_FULL;
+    const Names names = names_of(entry);
+    if (const int status = check_names(chip, names); status != BCM_E_NONE) return status;
+    const Object self = mac_object(entry);
+    L2Row *row = l2.table.find_key(self.number);
+    const Names before = row == nullptr ? Names{} : names_of(row->entry);
+    const std::size_t capacity = table_capacity("l2", kL2Capacity);
+    row = l2.table.put(entry, capacity);
+    if (row == nullptr)
+        return refused(BCM_E_FULL, std::to_string(l2.table.size()) + " addresses are there");
+    chip.references.unlink(self, before);
+    chip.references.link(self, names);
     row->heard = l2.clock;
     l2.note(entry, event);
     return BCM_E_NONE;
 }
 
-int delete_entry(L2Chapter &l2, const bcm_mac_t mac, bcm_vlan_t vid) {
-    L2Row *const row = l2.table.find(mac, vid);
-    if (row == nullptr) return BCM_E_NOT_FOUND;
-    l2.note(row->entry, kL2Deleted);
-    l2.table.erase(*row);
+int delete_entry(Switch &chip, const bcm_mac_t mac, bcm_vlan_t vid) {
+    L2Row *const row = chip.l2.table.find(mac, vid);
+    if (row == nullptr) return missing(vid);
+    erase_row(chip, *row, kL2Deleted);
     return BCM_E_NONE;
 }
 
-int clear_all(L2Chapter &l2) {
-    erase_rows(l2, kL2Deleted, [](const L2Row &) { return true; });
+int clear_all(Switch &chip) {
+    erase_rows(chip, kL2Deleted, [](const L2Row &) { return true; });
     return BCM_E_NONE;
+}
+
+void clear_limits(Switch &chip) {
+    for (const auto &[scope, limit] : chip.l2.limits)
+        chip.references.unlink(limit_object(scope), names_of(scope));
+    chip.l2.limits.clear();
 }
 
 // What a learn limit counts; a scope without a bit, or with two, is none.
@@ -79,6 +96,36 @@ bool limit_reached(const L2Chapter &l2, const bcm_l2_addr_t &entry) {
     });
 }
 
+// Why a packet does not come in through the port that it arrived on; null if it does.
+const char *why_not_from(Switch &chip, const bcm_l2_addr_t &entry) {
+    const int number = (entry.flags & (kL2Trunk | kL2BlackHole)) != 0 ? -1 : local_port(entry.port);
+    if (number < 0 || entry.modid != 0) return nullptr;
+    const Port &port = *chip.ports.find(number);
+    const Vlan &vlan = *chip.vlans.find(entry.vid);
+    const int stp = chip.vlans.find_stg(vlan.stg)->state[static_cast<std::size_t>(number)];
+    if (port.enable == 0) return "the port is disabled";
+    if (port.discard == BCM_PORT_DISCARD_ALL || port.discard == BCM_PORT_DISCARD_TAG ||
+        port.discard == BCM_PORT_DISCARD_INGRESS)
+        return "the port discards tagged packets";
+    if (port.ifilter != 0 && !has_port(vlan.members, number))
+        return "the port filters, and is no member of the VLAN";
+    if (stp != BCM_STG_STP_LEARN && stp != BCM_STG_STP_FORWARD)
+        return "the port neither learns nor forwards in the spanning tree";
+    return port.learn == 0 ? "the port does not learn" : nullptr;
+}
+
+// What arrives on a member has come from its trunk.
+void join_trunk(const Switch &chip, bcm_l2_addr_t &entry) {
+    if ((entry.flags & (kL2Trunk | kL2BlackHole)) != 0 || entry.modid != 0) return;
+    const int number = local_port(entry.port);
+    const auto *const trunk =
+        find_in(chip.groups.trunk_of, number < 0 ? entry.port : kLocalGport.of(number));
+    if (trunk == nullptr) return;
+    entry.flags |= kL2Trunk;
+    entry.tgid = *trunk;
+    entry.port = 0;
+}
+
 int learn(Switch &chip, const bcm_mac_t mac, bcm_vlan_t vid, int port) {
     L2Chapter &l2 = chip.l2;
     bcm_l2_addr_t entry{};
@@ -86,18 +133,20 @@ int learn(Switch &chip, const bcm_mac_t mac, bcm_vlan_t vid, int port) {
     entry.vid = vid;
     entry.port = port;
     if (const int status = settle_destination(entry); status != BCM_E_NONE) return status;
-    const Port *const source = chip.ports.find(entry.port);
-    if ((entry.flags & kL2Trunk) == 0 && source != nullptr && source->learn == 0)
-        return BCM_E_DISABLED;
-    if (l2.freezes > 0) return BCM_E_DISABLED;
+    if (const int status = check_names(chip, names_of(entry)); status != BCM_E_NONE) return status;
+    if (const char *const why = why_not_from(chip, entry); why != nullptr)
+        return refused(BCM_E_DISABLED, why);
+    join_trunk(chip, entry);
+    if (l2.freezes > 0) return refused(BCM_E_DISABLED, "the table is frozen");
     L2Row *const row = l2.table.find(mac, vid);
-    if (row != nullptr && row->is_static()) return BCM_E_DISABLED;
+    if (row != nullptr && row->is_static())
+        return refused(BCM_E_DISABLED, "a static entry is there");
     if (row != nullptr && std::memcmp(&row->entry, &entry, sizeof entry) == 0) {
         row->heard = l2.clock;
         return BCM_E_NONE;
     }
     if (row == nullptr && limit_reached(l2, entry)) return BCM_E_RESOURCE;
-    return put_entry(l2, entry, kL2Learned);
+    return put_entry(chip, entry, kL2Learned);
 }
 
 template <class One>
@@ -122,8 +171,8 @@ void bcm_l2_addr_t_init(bcm_l2_addr_t *l2addr, bcm_mac_t mac_addr, bcm_vlan_t vi
 int bcm_l2_init(int unit) {
     return on_watched_switch(__func__, unit, [](Switch &chip) {
         L2Chapter &l2 = chip.l2;
-        clear_all(l2);
-        l2.limits.clear();
+        clear_all(chip);
+        clear_limits(chip);
         l2.limits_enabled = true;
         l2.freezes = 0;
         l2.age_seconds = 0;
@@ -132,39 +181,39 @@ int bcm_l2_init(int unit) {
     });
 }
 
-int bcm_l2_clear(int unit) { return on_l2(__func__, unit, clear_all); }
+int bcm_l2_clear(int unit) { return on_watched_switch(__func__, unit, clear_all); }
 
 int bcm_l2_detach(int unit) {
-    return on_l2(__func__, unit, [](L2Chapter &l2) {
-        l2.watchers.clear();
-        return clear_all(l2);
+    return on_watched_switch(__func__, unit, [](Switch &chip) {
+        chip.l2.watchers.clear();
+        return clear_all(chip);
     });
 }
 
 int bcm_l2_addr_add(int unit, bcm_l2_addr_t *l2addr) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
-        return l2addr == nullptr ? BCM_E_PARAM : put_entry(l2, *l2addr, kL2Added);
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+        return l2addr == nullptr ? BCM_E_PARAM : put_entry(chip, *l2addr, kL2Added);
     });
 }
 
 int bcm_l2_addr_multi_add(int unit, bcm_l2_addr_t *addr, int count) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
         return for_each_given(addr, count, [&](const bcm_l2_addr_t &entry) {
-            return put_entry(l2, entry, kL2Added);
+            return put_entry(chip, entry, kL2Added);
         });
     });
 }
 
 int bcm_l2_addr_delete(int unit, bcm_mac_t mac, bcm_vlan_t vid) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
-        return mac == nullptr ? BCM_E_PARAM : delete_entry(l2, mac, vid);
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+        return mac == nullptr ? BCM_E_PARAM : delete_entry(chip, mac, vid);
     });
 }
 
 int bcm_l2_addr_multi_delete(int unit, bcm_l2_addr_t *addr, int count) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
         return for_each_given(addr, count, [&](const bcm_l2_addr_t &entry) {
-            return delete_entry(l2, entry.mac, entry.vid);
+            return delete_entry(chip, entry.mac, entry.vid);
         });
     });
 }
@@ -228,13 +277,18 @@ int bcm_l2_addr_unregister(int unit, bcm_l2_addr_callback_t callback, void *user
 }
 
 int bcm_l2_learn_limit_set(int unit, bcm_l2_learn_limit_t *limit) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         L2Scope scope;
         if (limit == nullptr || limit->limit < -1 || !scope_of(*limit, scope)) return BCM_E_PARAM;
-        if (limit->limit < 0)
-            l2.limits.erase(scope);
-        else
-            l2.limits[scope] = limit->limit;
+        const Names names = names_of(scope);
+        if (const int status = check_names(chip, names); status != BCM_E_NONE) return status;
+        if (limit->limit < 0) {
+            chip.l2.limits.erase(scope);
+            chip.references.unlink(limit_object(scope), names);
+        } else {
+            chip.l2.limits[scope] = limit->limit;
+            chip.references.link(limit_object(scope), names);
+        }
         return BCM_E_NONE;
     });
 }
@@ -270,12 +324,13 @@ int standin_l2_learn(int unit, bcm_mac_t mac, bcm_vlan_t vid, int port) {
 }
 
 int standin_l2_age(int unit, int seconds) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+        L2Chapter &l2 = chip.l2;
         if (seconds < 0) return BCM_E_PARAM;
         l2.clock += static_cast<std::uint64_t>(seconds);
         if (l2.age_seconds == 0 || l2.freezes > 0) return BCM_E_NONE;
         const auto limit = static_cast<std::uint64_t>(l2.age_seconds);
-        erase_rows(l2, kL2AgedOut, [&](const L2Row &row) {
+        erase_rows(chip, kL2AgedOut, [&](const L2Row &row) {
             return !row.is_static() && l2.clock - row.heard >= limit;
         });
         return BCM_E_NONE;

@@ -63,7 +63,7 @@ int settle_destination(bcm_l2_addr_t &entry) {
         // What ports another module has is not known here.
         if (entry.modid != 0) return within(entry.port, 0, kLocalGport.mask) ? 0 : BCM_E_PORT;
         const int port = local_port(entry.port);
-        if (port < 0) return BCM_E_PORT;
+        if (port < 0) return refused_port("port", entry.port);
         entry.port = port;
         return BCM_E_NONE;
     }
@@ -97,6 +97,7 @@ int walk_l2(const char *function, int unit, const L2Match &match,
             int status = BCM_E_NONE;
             Switch *const chip = ready_switch(unit, status);
             if (chip == nullptr) return status;
+            if (is_stopped(*chip, function)) return BCM_E_INIT;
             L2Row *row = chip->l2.table.next(cursor);
             while (row != nullptr && !match(row->entry)) row = chip->l2.table.next(cursor);
             if (row == nullptr) return BCM_E_NONE;

@@ -35,18 +35,19 @@ bool points_at(const bcm_l2_addr_t &entry, int modid, int port);
 // number, or the trunk and its flag. BCM_E_PARAM, BCM_E_PORT: it names no destination.
 int settle_destination(bcm_l2_addr_t &entry);
 
-// Removes the rows that `pick` names and notes an event for each. How many there were.
+// Takes a row out of the table and notes an event.
+inline void erase_row(Switch &chip, L2Row &row, int event) {
+    chip.references.unlink(mac_object(row.entry), names_of(row.entry));
+    chip.l2.note(row.entry, event);
+    chip.l2.table.erase(row);
+}
+
+// The same with the rows that `pick` names.
 template <class Pick>
-int erase_rows(L2Chapter &l2, int event, Pick &&pick) {
-    int erased = 0;
+void erase_rows(Switch &chip, int event, Pick &&pick) {
     L2Table::Cursor cursor;
-    while (L2Row *const row = l2.table.next(cursor)) {
-        if (!pick(*row)) continue;
-        l2.note(row->entry, event);
-        l2.table.erase(*row);
-        ++erased;
-    }
-    return erased;
+    while (L2Row *const row = chip.l2.table.next(cursor))
+        if (pick(*row)) erase_row(chip, *row, event);
 }
 
 // Calls the watchers for what has happened. REQUIRES: the lock is not held.

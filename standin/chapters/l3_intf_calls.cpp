@@ -1,5 +1,4 @@
 // The calls of the routing chapter on interfaces and egress objects.
-#include <algorithm>
 #include <cstring>
 
 #include "sdk/bcm/l3.h"
@@ -16,8 +15,22 @@ constexpr Numbering<bcm_if_t> kEgresses{"l3_egress", kL3Egresses, kFirstEgress,
 
 auto &egresses_of(Switch &chip) { return chip.l3.egresses; }
 
+// Nothing of another chapter holds what is in this one, so each table goes before what it names.
+int clear_tables(Switch &chip) {
+    L3 &l3 = chip.l3;
+    for (const auto &[key, host] : l3.hosts)
+        chip.references.unlink(host_object(key), names_of(host));
+    for (const auto &[key, route] : l3.routes)
+        chip.references.unlink(route_object(key), names_of(route));
+    erase_objects(chip, l3.multipaths, ObjectKind::kMultipath);
+    erase_objects(chip, l3.egresses, ObjectKind::kEgress);
+    erase_objects(chip, l3.interfaces, ObjectKind::kInterface);
+    l3 = L3{};
+    return BCM_E_NONE;
+}
+
 int clear_l3(const char *function, int unit) {
-    return start_chapter(function, unit, "bcm_l3_", &Switch::l3);
+    return start_chapter(function, unit, "bcm_l3_", clear_tables);
 }
 
 bool same_mac(const bcm_mac_t one, const bcm_mac_t other) {
@@ -42,21 +55,16 @@ bool same_egress(const bcm_l3_egress_t &one, const bcm_l3_egress_t &other) {
            one.trunk == other.trunk && one.mpls_label == other.mpls_label;
 }
 
-int put_egress(L3 &l3, std::uint32_t flags, const bcm_l3_egress_t &egress, bcm_if_t *if_id) {
-    if (egress.intf != 0 && !l3.interfaces.contains(egress.intf)) return BCM_E_NOT_FOUND;
+int put_egress(Switch &chip, std::uint32_t flags, const bcm_l3_egress_t &egress, bcm_if_t *if_id) {
+    auto &egresses = egresses_of(chip);
+    int status = check_names(chip, names_of(egress));
+    if (status != BCM_E_NONE) return status;
     if (if_id == nullptr) return BCM_E_PARAM;
-    bcm_l3_egress_t *made = nullptr;
-    if ((flags & kReplace) != 0 && (flags & kWithId) != 0) made = find_in(l3.egresses, *if_id);
-    if (made != nullptr) {
-        l3.release(made->intf);
-    } else {
-        int status = BCM_E_NONE;
-        made = new_entry(l3.egresses, kEgresses, (flags & kWithId) != 0, if_id, status);
-        if (made == nullptr) return status;
-    }
-    *made = egress;
-    if (egress.intf != 0) l3.hold(egress.intf);
-    return BCM_E_NONE;
+    const bool given = (flags & kWithId) != 0;
+    bcm_l3_egress_t *made = given && (flags & kReplace) != 0 ? find_in(egresses, *if_id) : nullptr;
+    if (made == nullptr) made = new_entry(egresses, kEgresses, given, if_id, status);
+    return made == nullptr ? status
+                           : assign(chip, object(ObjectKind::kEgress, *if_id), *made, egress);
 }
 
 }  // namespace
@@ -88,18 +96,20 @@ int bcm_l3_info(int unit, bcm_l3_info_t *info) {
 int bcm_l3_intf_create(int unit, bcm_l3_intf_t *intf) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (intf == nullptr || !is_vlan(intf->l3a_vid)) return BCM_E_PARAM;
+        int status = check_names(chip, names_of(*intf));
+        if (status != BCM_E_NONE) return status;
         auto &interfaces = chip.l3.interfaces;
         const bool given = (intf->l3a_flags & kWithId) != 0;
         if (given && (intf->l3a_flags & kReplace) != 0) {
-            if (auto *const one = find_in(interfaces, intf->l3a_intf_id)) return give(one, *intf);
+            if (auto *const one = find_in(interfaces, intf->l3a_intf_id))
+                return assign(chip, object(ObjectKind::kInterface, intf->l3a_intf_id), *one, *intf);
         }
         for (const auto &[id, one] : interfaces)
             if (one.l3a_vid == intf->l3a_vid && same_mac(one.l3a_mac_addr, intf->l3a_mac_addr))
                 return int{BCM_E_EXISTS};
-        int status = BCM_E_NONE;
         auto *const made = new_entry(interfaces, kInterfaces, given, &intf->l3a_intf_id, status);
-        if (made != nullptr) *made = *intf;
-        return status;
+        if (made == nullptr) return status;
+        return assign(chip, object(ObjectKind::kInterface, intf->l3a_intf_id), *made, *intf);
     });
 }
 
@@ -123,27 +133,19 @@ int bcm_l3_intf_find_vlan(int unit, bcm_l3_intf_t *intf) {
 int bcm_l3_intf_delete(int unit, bcm_l3_intf_t *intf) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (intf == nullptr) return BCM_E_PARAM;
-        if (!chip.l3.interfaces.contains(intf->l3a_intf_id)) return BCM_E_NOT_FOUND;
-        if (chip.l3.in_use(intf->l3a_intf_id)) return BCM_E_BUSY;
-        chip.l3.interfaces.erase(intf->l3a_intf_id);
-        return BCM_E_NONE;
+        return erase_object(chip, chip.l3.interfaces, ObjectKind::kInterface, intf->l3a_intf_id);
     });
 }
 
 int bcm_l3_intf_delete_all(int unit) {
     return on_switch(__func__, unit, [](Switch &chip) {
-        L3 &l3 = chip.l3;
-        const bool busy = std::ranges::any_of(
-            l3.interfaces, [&](const auto &one) { return l3.in_use(one.first); });
-        if (busy) return BCM_E_BUSY;
-        l3.interfaces.clear();
-        return BCM_E_NONE;
+        return erase_objects(chip, chip.l3.interfaces, ObjectKind::kInterface);
     });
 }
 
 int bcm_l3_egress_create(int unit, uint32 flags, bcm_l3_egress_t *egr, bcm_if_t *if_id) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        return egr == nullptr ? BCM_E_PARAM : put_egress(chip.l3, flags, *egr, if_id);
+        return egr == nullptr ? BCM_E_PARAM : put_egress(chip, flags, *egr, if_id);
     });
 }
 
@@ -163,12 +165,7 @@ int bcm_l3_egress_find(int unit, bcm_l3_egress_t *egr, bcm_if_t *if_id) {
 
 int bcm_l3_egress_destroy(int unit, bcm_if_t if_id) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        const bcm_l3_egress_t *const egress = find_in(chip.l3.egresses, if_id);
-        if (egress == nullptr) return BCM_E_NOT_FOUND;
-        if (chip.l3.in_use(if_id)) return BCM_E_BUSY;
-        chip.l3.release(egress->intf);
-        chip.l3.egresses.erase(if_id);
-        return BCM_E_NONE;
+        return erase_object(chip, egresses_of(chip), ObjectKind::kEgress, if_id);
     });
 }
 

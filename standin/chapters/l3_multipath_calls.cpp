@@ -20,52 +20,46 @@ constexpr Numbering<bcm_if_t> kMultipaths{"l3_multipath", kL3Multipaths, kFirstM
 std::map<bcm_if_t, Paths> &multipaths_of(Switch &chip) { return chip.l3.multipaths; }
 
 // A group may hold the same object more than once, for weight.
-int add_path(L3 &l3, Paths &paths, bcm_if_t intf) {
-    if (!l3.egresses.contains(intf)) return BCM_E_NOT_FOUND;
-    if (paths.size() >= static_cast<std::size_t>(l3.max_ecmp)) return BCM_E_FULL;
-    paths.push_back(intf);
-    l3.hold(intf);
-    return BCM_E_NONE;
+int check_size(const L3 &l3, std::size_t size) {
+    if (size <= static_cast<std::size_t>(l3.max_ecmp)) return BCM_E_NONE;
+    return refused(BCM_E_FULL, "a group has at most " + std::to_string(l3.max_ecmp) + " members");
 }
 
-void drop_paths(L3 &l3, const Paths &paths) {
-    for (const bcm_if_t intf : paths) l3.release(intf);
-}
-
-int create_multipath(L3 &l3, bool given, int count, const bcm_if_t *interfaces, bcm_if_t *id) {
+int create_multipath(Switch &chip, bool given, int count, const bcm_if_t *interfaces,
+                     bcm_if_t *id) {
     if (count < 1 || interfaces == nullptr) return BCM_E_PARAM;
-    Paths paths;
-    int status = BCM_E_NONE;
-    for (int i = 0; i < count && status == BCM_E_NONE; ++i)
-        status = add_path(l3, paths, interfaces[i]);
-    Paths *made = nullptr;
-    if (status == BCM_E_NONE) made = new_entry(l3.multipaths, kMultipaths, given, id, status);
-    if (made == nullptr) {
-        drop_paths(l3, paths);
-        return status;
-    }
-    *made = std::move(paths);
-    return BCM_E_NONE;
+    const Paths paths(interfaces, interfaces + count);
+    int status = check_names(chip, names_of(paths));
+    if (status == BCM_E_NONE) status = check_size(chip.l3, paths.size());
+    if (status != BCM_E_NONE) return status;
+    Paths *const made = new_entry(multipaths_of(chip), kMultipaths, given, id, status);
+    return made == nullptr ? status
+                           : assign(chip, object(ObjectKind::kMultipath, *id), *made, paths);
 }
 
-int destroy_multipath(L3 &l3, bcm_if_t id) {
-    const Paths *const paths = find_in(l3.multipaths, id);
-    if (paths == nullptr) return BCM_E_NOT_FOUND;
-    if (l3.in_use(id)) return BCM_E_BUSY;
-    drop_paths(l3, *paths);
-    l3.multipaths.erase(id);
-    return BCM_E_NONE;
+int destroy_multipath(Switch &chip, bcm_if_t id) {
+    return erase_object(chip, multipaths_of(chip), ObjectKind::kMultipath, id);
 }
 
-int change_multipath(L3 &l3, bcm_if_t id, bcm_if_t intf, bool add) {
-    Paths *const paths = find_in(l3.multipaths, id);
-    if (paths == nullptr) return BCM_E_NOT_FOUND;
-    if (add) return add_path(l3, *paths, intf);
-    const auto found = std::ranges::find(*paths, intf);
-    if (found == paths->end()) return BCM_E_NOT_FOUND;
-    l3.release(intf);
-    paths->erase(found);
-    return BCM_E_NONE;
+// Changes the members of a group by `edit(copy)`, which answers a status.
+template <class Edit>
+int change_paths(Switch &chip, bcm_if_t id, Edit &&edit) {
+    Paths *const paths = find_in(multipaths_of(chip), id);
+    return paths == nullptr ? missing(id)
+                            : change(chip, object(ObjectKind::kMultipath, id), *paths, edit);
+}
+
+int change_multipath(Switch &chip, bcm_if_t id, bcm_if_t intf, bool add) {
+    return change_paths(chip, id, [&](Paths &paths) {
+        if (add) {
+            paths.push_back(intf);
+            return check_size(chip.l3, paths.size());
+        }
+        const auto found = std::ranges::find(paths, intf);
+        if (found == paths.end()) return missing(intf);
+        paths.erase(found);
+        return int{BCM_E_NONE};
+    });
 }
 
 int find_multipath(const L3 &l3, int count, const bcm_if_t *interfaces, bcm_if_t *id) {
@@ -104,7 +98,7 @@ int bcm_l3_egress_multipath_create(int unit, uint32 flags, int intf_count, bcm_i
                                    bcm_if_t *mpintf) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         const bool given = (flags & kWithId) != 0;
-        return create_multipath(chip.l3, given, intf_count, intf_array, mpintf);
+        return create_multipath(chip, given, intf_count, intf_array, mpintf);
     });
 }
 
@@ -117,17 +111,16 @@ int bcm_l3_egress_multipath_get(int unit, bcm_if_t mpintf, int intf_max, bcm_if_
 
 int bcm_l3_egress_multipath_add(int unit, bcm_if_t mpintf, bcm_if_t if_id) {
     return on_switch(__func__, unit,
-                     [&](Switch &chip) { return change_multipath(chip.l3, mpintf, if_id, true); });
+                     [&](Switch &chip) { return change_multipath(chip, mpintf, if_id, true); });
 }
 
 int bcm_l3_egress_multipath_delete(int unit, bcm_if_t mpintf, bcm_if_t if_id) {
     return on_switch(__func__, unit,
-                     [&](Switch &chip) { return change_multipath(chip.l3, mpintf, if_id, false); });
+                     [&](Switch &chip) { return change_multipath(chip, mpintf, if_id, false); });
 }
 
 int bcm_l3_egress_multipath_destroy(int unit, bcm_if_t mpintf) {
-    return on_switch(__func__, unit,
-                     [&](Switch &chip) { return destroy_multipath(chip.l3, mpintf); });
+    return on_switch(__func__, unit, [&](Switch &chip) { return destroy_multipath(chip, mpintf); });
 }
 
 int bcm_l3_egress_multipath_traverse(int unit, bcm_l3_egress_multipath_traverse_cb trav_fn,
@@ -149,7 +142,7 @@ int bcm_l3_egress_ecmp_create(int unit, bcm_l3_egress_ecmp_t *ecmp, int intf_cou
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (ecmp == nullptr) return BCM_E_PARAM;
         const bool given = (ecmp->flags & kWithId) != 0;
-        return create_multipath(chip.l3, given, intf_count, intf_array, &ecmp->ecmp_intf);
+        return create_multipath(chip, given, intf_count, intf_array, &ecmp->ecmp_intf);
     });
 }
 
@@ -162,21 +155,20 @@ int bcm_l3_egress_ecmp_get(int unit, bcm_l3_egress_ecmp_t *ecmp, int intf_max, b
 
 int bcm_l3_egress_ecmp_add(int unit, bcm_l3_egress_ecmp_t *ecmp, bcm_if_t if_id) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        return ecmp == nullptr ? BCM_E_PARAM
-                               : change_multipath(chip.l3, ecmp->ecmp_intf, if_id, true);
+        return ecmp == nullptr ? BCM_E_PARAM : change_multipath(chip, ecmp->ecmp_intf, if_id, true);
     });
 }
 
 int bcm_l3_egress_ecmp_delete(int unit, bcm_l3_egress_ecmp_t *ecmp, bcm_if_t if_id) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         return ecmp == nullptr ? BCM_E_PARAM
-                               : change_multipath(chip.l3, ecmp->ecmp_intf, if_id, false);
+                               : change_multipath(chip, ecmp->ecmp_intf, if_id, false);
     });
 }
 
 int bcm_l3_egress_ecmp_destroy(int unit, bcm_l3_egress_ecmp_t *ecmp) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        return ecmp == nullptr ? BCM_E_PARAM : destroy_multipath(chip.l3, ecmp->ecmp_intf);
+        return ecmp == nullptr ? BCM_E_PARAM : destroy_multipath(chip, ecmp->ecmp_intf);
     });
 }
 
@@ -201,7 +193,7 @@ int bcm_l3_ecmp_create(int unit, uint32 flags, bcm_l3_egress_ecmp_t *ecmp_info, 
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (ecmp_info == nullptr) return BCM_E_PARAM;
         const Paths paths = paths_of(member_count, member_array);
-        return create_multipath(chip.l3, (flags & kWithId) != 0, static_cast<int>(paths.size()),
+        return create_multipath(chip, (flags & kWithId) != 0, static_cast<int>(paths.size()),
                                 paths.data(), &ecmp_info->ecmp_intf);
     });
 }
@@ -226,7 +218,7 @@ int bcm_l3_ecmp_find(int unit, int member_count, bcm_l3_ecmp_member_t *member_ar
 
 int bcm_l3_ecmp_destroy(int unit, bcm_if_t ecmp_group_id) {
     return on_switch(__func__, unit,
-                     [&](Switch &chip) { return destroy_multipath(chip.l3, ecmp_group_id); });
+                     [&](Switch &chip) { return destroy_multipath(chip, ecmp_group_id); });
 }
 
 int bcm_l3_ecmp_traverse(int unit, bcm_l3_ecmp_traverse_cb trav_fn, void *user_data) {
@@ -242,7 +234,7 @@ int bcm_l3_ecmp_member_add(int unit, bcm_if_t ecmp_group_id, bcm_l3_ecmp_member_
     return on_switch(__func__, unit, [&](Switch &chip) {
         return ecmp_member == nullptr
                    ? BCM_E_PARAM
-                   : change_multipath(chip.l3, ecmp_group_id, ecmp_member->egress_if, true);
+                   : change_multipath(chip, ecmp_group_id, ecmp_member->egress_if, true);
     });
 }
 
@@ -250,17 +242,16 @@ int bcm_l3_ecmp_member_delete(int unit, bcm_if_t ecmp_group_id, bcm_l3_ecmp_memb
     return on_switch(__func__, unit, [&](Switch &chip) {
         return ecmp_member == nullptr
                    ? BCM_E_PARAM
-                   : change_multipath(chip.l3, ecmp_group_id, ecmp_member->egress_if, false);
+                   : change_multipath(chip, ecmp_group_id, ecmp_member->egress_if, false);
     });
 }
 
 int bcm_l3_ecmp_member_delete_all(int unit, bcm_if_t ecmp_group_id) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        Paths *const paths = find_in(chip.l3.multipaths, ecmp_group_id);
-        if (paths == nullptr) return BCM_E_NOT_FOUND;
-        drop_paths(chip.l3, *paths);
-        paths->clear();
-        return BCM_E_NONE;
+        return change_paths(chip, ecmp_group_id, [](Paths &paths) {
+            paths.clear();
+            return int{BCM_E_NONE};
+        });
     });
 }
 

@@ -13,6 +13,7 @@ struct Hosts {
     static constexpr const char *kName = "l3_host";
     static constexpr std::size_t kCapacity = kL3Hosts;
 
+    static Object self(const HostKey &key) { return host_object(key); }
     static std::map<HostKey, Entry> &table(Switch &chip) { return chip.l3.hosts; }
     static bool key(const Entry &host, HostKey &made) {
         const bool ip6 = (host.l3a_flags & kL3Ip6) != 0;
@@ -26,6 +27,7 @@ struct Routes {
     static constexpr const char *kName = "l3_route";
     static constexpr std::size_t kCapacity = kL3Routes;
 
+    static Object self(const RouteKey &key) { return route_object(key); }
     static std::map<RouteKey, Entry> &table(Switch &chip) { return chip.l3.routes; }
     // False for a mask with holes.
     static bool key(const Entry &route, RouteKey &made) {
@@ -45,42 +47,46 @@ int on_key(const char *function, int unit, const typename Kind::Entry *info, Bod
     return on_switch(function, unit, [&](Switch &chip) {
         typename std::remove_reference_t<decltype(Kind::table(chip))>::key_type key;
         if (info == nullptr || !Kind::key(*info, key)) return int{BCM_E_PARAM};
-        return body(chip.l3, Kind::table(chip), key);
+        return body(chip, Kind::table(chip), key);
     });
 }
 
 // An entry that is there already has to be replaced expressly.
 template <class Kind>
 int add(const char *function, int unit, const typename Kind::Entry *info) {
-    return on_key<Kind>(function, unit, info, [&](L3 &l3, auto &table, const auto &key) {
-        if (!l3.can_point_at(info->l3a_intf)) return BCM_E_NOT_FOUND;
-        auto *const there = find_in(table, key);
-        if (there != nullptr && (info->l3a_flags & kReplace) == 0) return BCM_E_EXISTS;
+    return on_key<Kind>(function, unit, info, [&](Switch &chip, auto &table, const auto &key) {
+        const int status = check_names(chip, names_of(*info));
+        if (status != BCM_E_NONE) return status;
+        const auto *const there = find_in(table, key);
+        if (there != nullptr && (info->l3a_flags & kReplace) == 0)
+            return refused(BCM_E_EXISTS, text_of(Kind::self(key)) + " is there");
         if (there == nullptr && table.size() >= table_capacity(Kind::kName, Kind::kCapacity))
-            return BCM_E_FULL;
-        if (there != nullptr) l3.release(there->l3a_intf);
-        if (info->l3a_intf != 0) l3.hold(info->l3a_intf);
-        auto &entry = table[key];
-        entry = *info;
-        entry.l3a_flags &= ~kReplace;
-        return BCM_E_NONE;
+            return refused(BCM_E_FULL, std::to_string(table.size()) + " are there");
+        auto made = *info;
+        made.l3a_flags &= ~kReplace;
+        return assign(chip, Kind::self(key), table[key], made);
     });
 }
 
 template <class Kind>
+int gone(const auto &key) {
+    return refused(BCM_E_NOT_FOUND, "there is no " + text_of(Kind::self(key)));
+}
+
+template <class Kind>
 int get(const char *function, int unit, typename Kind::Entry *info) {
-    return on_key<Kind>(function, unit, info, [&](L3 &, auto &table, const auto &key) {
+    return on_key<Kind>(function, unit, info, [&](Switch &, auto &table, const auto &key) {
         const auto *const there = find_in(table, key);
-        return there == nullptr ? BCM_E_NOT_FOUND : give(info, *there);
+        return there == nullptr ? gone<Kind>(key) : give(info, *there);
     });
 }
 
 template <class Kind>
 int remove(const char *function, int unit, const typename Kind::Entry *info) {
-    return on_key<Kind>(function, unit, info, [&](L3 &l3, auto &table, const auto &key) {
+    return on_key<Kind>(function, unit, info, [&](Switch &chip, auto &table, const auto &key) {
         const auto *const there = find_in(table, key);
-        if (there == nullptr) return BCM_E_NOT_FOUND;
-        l3.release(there->l3a_intf);
+        if (there == nullptr) return gone<Kind>(key);
+        chip.references.unlink(Kind::self(key), names_of(*there));
         table.erase(key);
         return BCM_E_NONE;
     });
@@ -91,7 +97,7 @@ int remove_picked(const char *function, int unit, Pick &&pick) {
     return on_switch(function, unit, [&](Switch &chip) {
         std::erase_if(Kind::table(chip), [&](const auto &one) {
             if (!pick(one.first, one.second)) return false;
-            chip.l3.release(one.second.l3a_intf);
+            chip.references.unlink(Kind::self(one.first), names_of(one.second));
             return true;
         });
         return BCM_E_NONE;
@@ -169,11 +175,11 @@ int bcm_l3_route_delete_by_interface(int unit, bcm_l3_route_t *info) {
 
 // The route with the longest prefix that covers the host.
 int bcm_l3_route_find(int unit, bcm_l3_host_t *host, bcm_l3_route_t *route) {
-    return on_key<Hosts>(__func__, unit, host, [&](L3 &l3, auto &, const HostKey &key) {
+    return on_key<Hosts>(__func__, unit, host, [&](Switch &chip, auto &, const HostKey &key) {
         if (route == nullptr) return BCM_E_PARAM;
         for (int length = key.address.bits(); length >= 0; --length) {
             const RouteKey net{key.vrf, masked(key.address, length), length};
-            if (const auto *const found = find_in(l3.routes, net)) return give(route, *found);
+            if (const auto *const found = find_in(chip.l3.routes, net)) return give(route, *found);
         }
         return int{BCM_E_NOT_FOUND};
     });

@@ -19,27 +19,40 @@ std::map<bcm_gport_t, bcm_mirror_destination_t> &destinations_of(Switch &chip) {
     return mirrors_of(chip).destinations;
 }
 
-bool in_use(const Mirrors &mirrors, bcm_gport_t id) {
-    return std::ranges::any_of(mirrors.of_port, [&](const auto &one) {
-        return std::ranges::find(one.second, id) != one.second.end();
+// Changes the destinations of a port under some flags by `edit(list)`, which answers a status.
+template <class Edit>
+int change_list(const char *function, int unit, bcm_port_t port, std::uint32_t flags, Edit &&edit) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        const int number = local_port(port);
+        if (number < 0) return refused_port("port", port);
+        auto &lists = mirrors_of(chip).of_port;
+        MirroredTo &list = lists[{number, flags}];
+        const int status = change(chip, mirrored_object(number, flags), list,
+                                  [&](MirroredTo &made) { return edit(made.destinations); });
+        if (list.destinations.empty()) lists.erase({number, flags});
+        return status;
     });
 }
 
-// The destinations of a port under some flags, made at need.
-template <class Body>
-int on_port_list(const char *function, int unit, bcm_port_t port, std::uint32_t flags,
-                 Body &&body) {
-    return on_switch(function, unit, [&](Switch &chip) {
-        const int number = local_port(port);
-        if (number < 0) return BCM_E_PORT;
-        return body(mirrors_of(chip), mirrors_of(chip).of_port[{number, flags}]);
-    });
+int clear_mirrors(Switch &chip) {
+    Mirrors &mirrors = mirrors_of(chip);
+    References &references = chip.references;
+    for (const auto &[key, list] : mirrors.of_port)
+        references.unlink(mirrored_object(key.first, key.second), names_of(list));
+    const int status = erase_objects(chip, mirrors.destinations, ObjectKind::kMirror);
+    if (status == BCM_E_NONE) {
+        mirrors = Mirrors{};
+        return status;
+    }
+    for (const auto &[key, list] : mirrors.of_port)
+        references.link(mirrored_object(key.first, key.second), names_of(list));
+    return status;
 }
 
 int mark(const char *function, int unit, bcm_port_t port, int enable, bcm_pbmp_t Mirrors::*side) {
     return on_switch(function, unit, [&](Switch &chip) {
         const int number = local_port(port);
-        if (number < 0) return BCM_E_PORT;
+        if (number < 0) return refused_port("port", port);
         if (!within(enable, 0, 1)) return BCM_E_PARAM;
         bcm_pbmp_t &set = mirrors_of(chip).*side;
         enable != 0 ? add_port(set, number) : remove_port(set, number);
@@ -51,7 +64,8 @@ int marked(const char *function, int unit, bcm_port_t port, int *enable,
            bcm_pbmp_t Mirrors::*side) {
     return on_switch(function, unit, [&](Switch &chip) {
         const int number = local_port(port);
-        return number < 0 ? BCM_E_PORT : give(enable, has_port(mirrors_of(chip).*side, number));
+        return number < 0 ? refused_port("port", port)
+                          : give(enable, has_port(mirrors_of(chip).*side, number));
     });
 }
 
@@ -59,7 +73,9 @@ int marked(const char *function, int unit, bcm_port_t port, int *enable,
 
 extern "C" {
 
-int bcm_mirror_init(int unit) { return start_chapter(__func__, unit, "bcm_mirror_", mirrors_of); }
+int bcm_mirror_init(int unit) {
+    return start_chapter(__func__, unit, "bcm_mirror_", clear_mirrors);
+}
 
 int bcm_mirror_mode_set(int unit, int mode) {
     return on_switch(__func__, unit, [&](Switch &chip) {
@@ -78,7 +94,7 @@ int bcm_mirror_mode_get(int unit, int *mode) {
 int bcm_mirror_to_set(int unit, bcm_port_t port) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         const int number = local_port(port);
-        if (number < 0 && port != -1) return BCM_E_PORT;
+        if (number < 0 && port != -1) return refused_port("port", port);
         mirrors_of(chip).to = number;
         return BCM_E_NONE;
     });
@@ -108,12 +124,13 @@ int bcm_mirror_egress_get(int unit, bcm_port_t port, int *enable) {
 int bcm_mirror_destination_create(int unit, bcm_mirror_destination_t *mirror_dest) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (mirror_dest == nullptr) return BCM_E_PARAM;
-        int status = BCM_E_NONE;
+        int status = check_names(chip, names_of(*mirror_dest));
+        if (status != BCM_E_NONE) return status;
+        bcm_gport_t &id = mirror_dest->mirror_dest_id;
         const bool given = (mirror_dest->flags & kWithId) != 0;
-        auto *const made =
-            new_entry(destinations_of(chip), kNumbers, given, &mirror_dest->mirror_dest_id, status);
-        if (made != nullptr) *made = *mirror_dest;
-        return status;
+        auto *const made = new_entry(destinations_of(chip), kNumbers, given, &id, status);
+        return made == nullptr ? status
+                               : assign(chip, object(ObjectKind::kMirror, id), *made, *mirror_dest);
     });
 }
 
@@ -125,8 +142,7 @@ int bcm_mirror_destination_get(int unit, bcm_gport_t mirror_dest_id,
 
 int bcm_mirror_destination_destroy(int unit, bcm_gport_t mirror_dest_id) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        if (in_use(mirrors_of(chip), mirror_dest_id)) return BCM_E_BUSY;
-        return destinations_of(chip).erase(mirror_dest_id) == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+        return erase_object(chip, destinations_of(chip), ObjectKind::kMirror, mirror_dest_id);
     });
 }
 
@@ -139,36 +155,33 @@ int bcm_mirror_destination_traverse(int unit, bcm_mirror_destination_traverse_cb
 }
 
 int bcm_mirror_port_dest_add(int unit, bcm_port_t port, uint32 flags, bcm_gport_t mirror_dest_id) {
-    return on_port_list(__func__, unit, port, flags,
-                        [&](Mirrors &mirrors, std::vector<bcm_gport_t> &list) {
-                            if (!mirrors.destinations.contains(mirror_dest_id))
-                                return BCM_E_NOT_FOUND;
-                            if (std::ranges::find(list, mirror_dest_id) != list.end())
-                                return BCM_E_EXISTS;
-                            list.push_back(mirror_dest_id);
-                            return BCM_E_NONE;
-                        });
+    return change_list(__func__, unit, port, flags, [&](std::vector<bcm_gport_t> &list) {
+        if (std::ranges::find(list, mirror_dest_id) != list.end()) return BCM_E_EXISTS;
+        list.push_back(mirror_dest_id);
+        return BCM_E_NONE;
+    });
 }
 
 int bcm_mirror_port_dest_get(int unit, bcm_port_t port, uint32 flags, int mirror_dest_size,
                              bcm_gport_t *mirror_dest, int *mirror_dest_count) {
-    return on_port_list(
-        __func__, unit, port, flags, [&](Mirrors &, const std::vector<bcm_gport_t> &list) {
-            return give_array(list, mirror_dest_size, mirror_dest, mirror_dest_count);
-        });
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        const int number = local_port(port);
+        if (number < 0) return refused_port("port", port);
+        const MirroredTo *const list = find_in(mirrors_of(chip).of_port, {number, flags});
+        return give_array(list == nullptr ? std::vector<bcm_gport_t>{} : list->destinations,
+                          mirror_dest_size, mirror_dest, mirror_dest_count);
+    });
 }
 
 int bcm_mirror_port_dest_delete(int unit, bcm_port_t port, uint32 flags,
                                 bcm_gport_t mirror_dest_id) {
-    return on_port_list(__func__, unit, port, flags,
-                        [&](Mirrors &, std::vector<bcm_gport_t> &list) {
-                            const auto gone = std::erase(list, mirror_dest_id);
-                            return gone == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
-                        });
+    return change_list(__func__, unit, port, flags, [&](std::vector<bcm_gport_t> &list) {
+        return std::erase(list, mirror_dest_id) == 0 ? missing(mirror_dest_id) : BCM_E_NONE;
+    });
 }
 
 int bcm_mirror_port_dest_delete_all(int unit, bcm_port_t port, uint32 flags) {
-    return on_port_list(__func__, unit, port, flags, [](Mirrors &, std::vector<bcm_gport_t> &list) {
+    return change_list(__func__, unit, port, flags, [](std::vector<bcm_gport_t> &list) {
         list.clear();
         return BCM_E_NONE;
     });

@@ -20,11 +20,22 @@ template <class Body>
 int on_members(const char *function, int unit, bcm_multicast_t group, Members MulticastGroup::*side,
                Body &&body) {
     return on_entry(function, unit, groups_of, group,
-                    [&](MulticastGroup &one) { return body(one.*side); });
+                    [&](const MulticastGroup &one) { return body(one.*side); });
+}
+
+// Changes the members of one side by `edit(list)`, which answers a status; refused whole.
+template <class Edit>
+int change_members(const char *function, int unit, bcm_multicast_t group,
+                   Members MulticastGroup::*side, Edit &&edit) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        MulticastGroup *const one = find_in(groups_of(chip), group);
+        if (one == nullptr) return missing(group);
+        return change(chip, object(ObjectKind::kMulticast, group), *one,
+                      [&](MulticastGroup &made) { return edit(made.*side); });
+    });
 }
 
 int add_member(Members &members, bcm_gport_t port, bcm_if_t encap_id) {
-    if (gport_type(port) <= kLocalGport.type && local_port(port) < 0) return BCM_E_PORT;
     const MulticastGroup::Member member{port, encap_id};
     if (std::ranges::find(members, member) != members.end()) return BCM_E_EXISTS;
     members.push_back(member);
@@ -36,7 +47,6 @@ int delete_member(Members &members, bcm_gport_t port, bcm_if_t encap_id) {
                                                                             : BCM_E_NONE;
 }
 
-// All or nothing.
 int set_members(Members &members, int count, const bcm_gport_t *ports, const bcm_if_t *encaps) {
     if (count < 0 || (count > 0 && (ports == nullptr || encaps == nullptr))) return BCM_E_PARAM;
     Members made;
@@ -61,7 +71,8 @@ int get_members(const Members &members, int max, bcm_gport_t *ports, bcm_if_t *e
 
 using ChangeOne = int(Members &, bcm_gport_t, bcm_if_t);
 
-int change(Members &members, int count, const bcm_multicast_replication_t *list, ChangeOne *one) {
+int change_each(Members &members, int count, const bcm_multicast_replication_t *list,
+                ChangeOne *one) {
     if (count < 0 || (count > 0 && list == nullptr)) return BCM_E_PARAM;
     for (int i = 0; i < count; ++i) {
         const int status = one(members, list[i].port, list[i].encap1);
@@ -72,12 +83,14 @@ int change(Members &members, int count, const bcm_multicast_replication_t *list,
 
 int on_replications(const char *function, int unit, bcm_multicast_t group, int count,
                     const bcm_multicast_replication_t *list, ChangeOne *one) {
-    return on_members(function, unit, group, &MulticastGroup::egress,
-                      [&](Members &all) { return change(all, count, list, one); });
+    return change_members(function, unit, group, &MulticastGroup::egress,
+                          [&](Members &all) { return change_each(all, count, list, one); });
 }
 
 int clear_groups(const char *function, int unit) {
-    return start_chapter(function, unit, "bcm_multicast_", groups_of);
+    return start_chapter(function, unit, "bcm_multicast_", [](Switch &chip) {
+        return erase_objects(chip, groups_of(chip), ObjectKind::kMulticast);
+    });
 }
 
 }  // namespace
@@ -99,7 +112,7 @@ int bcm_multicast_create(int unit, uint32 flags, bcm_multicast_t *group) {
 
 int bcm_multicast_destroy(int unit, bcm_multicast_t group) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        return groups_of(chip).erase(group) == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+        return erase_object(chip, groups_of(chip), ObjectKind::kMulticast, group);
     });
 }
 
@@ -128,22 +141,22 @@ int bcm_multicast_group_traverse(int unit, bcm_multicast_group_traverse_cb_t tra
 // The calls of one side: `egress` and `ingress` have the same ones.
 #define MEMBER_CALLS(side, add, remove, remove_all, setter, getter)                               \
     int add(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t encap_id) {               \
-        return on_members(__func__, unit, group, &MulticastGroup::side,                           \
-                          [&](Members &all) { return add_member(all, port, encap_id); });         \
+        return change_members(__func__, unit, group, &MulticastGroup::side,                       \
+                              [&](Members &all) { return add_member(all, port, encap_id); });     \
     }                                                                                             \
     int remove(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t encap_id) {            \
-        return on_members(__func__, unit, group, &MulticastGroup::side,                           \
-                          [&](Members &all) { return delete_member(all, port, encap_id); });      \
+        return change_members(__func__, unit, group, &MulticastGroup::side,                       \
+                              [&](Members &all) { return delete_member(all, port, encap_id); });  \
     }                                                                                             \
     int remove_all(int unit, bcm_multicast_t group) {                                             \
-        return on_members(__func__, unit, group, &MulticastGroup::side, [](Members &all) {        \
+        return change_members(__func__, unit, group, &MulticastGroup::side, [](Members &all) {    \
             all.clear();                                                                          \
             return BCM_E_NONE;                                                                    \
         });                                                                                       \
     }                                                                                             \
     int setter(int unit, bcm_multicast_t group, int port_count, bcm_gport_t *port_array,          \
                bcm_if_t *encap_id_array) {                                                        \
-        return on_members(__func__, unit, group, &MulticastGroup::side, [&](Members &all) {       \
+        return change_members(__func__, unit, group, &MulticastGroup::side, [&](Members &all) {   \
             return set_members(all, port_count, port_array, encap_id_array);                      \
         });                                                                                       \
     }                                                                                             \
@@ -173,9 +186,9 @@ int bcm_multicast_delete(int unit, bcm_multicast_t group, uint32, int rep_count,
 
 int bcm_multicast_set(int unit, bcm_multicast_t group, uint32, int rep_count,
                       bcm_multicast_replication_t *rep_array) {
-    return on_members(__func__, unit, group, &MulticastGroup::egress, [&](Members &all) {
+    return change_members(__func__, unit, group, &MulticastGroup::egress, [&](Members &all) {
         Members made;
-        const int status = change(made, rep_count, rep_array, add_member);
+        const int status = change_each(made, rep_count, rep_array, add_member);
         if (status == BCM_E_NONE) all.swap(made);
         return status;
     });
@@ -194,7 +207,8 @@ int bcm_multicast_get(int unit, bcm_multicast_t group, uint32, int rep_max,
 int bcm_multicast_l2_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_vlan_t vid,
                                bcm_if_t *encap_id) {
     return on_entry(__func__, unit, groups_of, group, [&](MulticastGroup &) {
-        if (gport_type(port) <= kLocalGport.type && local_port(port) < 0) return BCM_E_PORT;
+        if (gport_type(port) <= kLocalGport.type && local_port(port) < 0)
+            return refused_port("port", port);
         return is_vlan(vid) ? give(encap_id, vid) : BCM_E_PARAM;
     });
 }
@@ -202,7 +216,8 @@ int bcm_multicast_l2_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port
 int bcm_multicast_l3_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t intf,
                                bcm_if_t *encap_id) {
     return on_entry(__func__, unit, groups_of, group, [&](MulticastGroup &) {
-        if (gport_type(port) <= kLocalGport.type && local_port(port) < 0) return BCM_E_PORT;
+        if (gport_type(port) <= kLocalGport.type && local_port(port) < 0)
+            return refused_port("port", port);
         return intf > 0 ? give(encap_id, intf) : BCM_E_PARAM;
     });
 }

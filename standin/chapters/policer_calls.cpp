@@ -11,12 +11,8 @@ constexpr Numbering<bcm_policer_t> kNumbers{"policer", kPolicers, 1, static_cast
 std::map<bcm_policer_t, Policer> &policers_of(Switch &chip) { return chip.groups.policers; }
 
 int clear_policers(const char *function, int unit) {
-    return on_switch(function, unit, [](Switch &chip) {
-        for (const auto &[id, policer] : policers_of(chip))
-            if (policer.users > 0) return BCM_E_BUSY;
-        policers_of(chip).clear();
-        forget_generic(chip, "bcm_policer_");
-        return BCM_E_NONE;
+    return start_chapter(function, unit, "bcm_policer_", [](Switch &chip) {
+        return erase_objects(chip, policers_of(chip), ObjectKind::kPolicer);
     });
 }
 
@@ -50,7 +46,9 @@ int bcm_policer_get(int unit, bcm_policer_t policer_id, bcm_policer_config_t *po
 }
 
 int bcm_policer_destroy(int unit, bcm_policer_t policer_id) {
-    return erase_unused(__func__, unit, policers_of, policer_id);
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        return erase_object(chip, policers_of(chip), ObjectKind::kPolicer, policer_id);
+    });
 }
 
 int bcm_policer_traverse(int unit, bcm_policer_traverse_cb cb, void *user_data) {

@@ -10,7 +10,7 @@ template <class Body>
 int on_port(const char *function, int unit, int number, Body &&body) {
     return on_switch(function, unit, [&](Switch &chip) {
         Port *const port = chip.ports.find(number);
-        return port == nullptr ? BCM_E_PORT : body(*port);
+        return port == nullptr ? refused_port("port", number) : body(*port);
     });
 }
 

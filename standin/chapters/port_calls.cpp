@@ -93,7 +93,13 @@ int bcm_port_link_failed_clear(int unit, bcm_port_t port) {
 }
 
 int bcm_port_untagged_vlan_set(int unit, bcm_port_t port, bcm_vlan_t vid) {
-    return set_port_field(__func__, unit, port, &Port::untagged_vlan, vid, kFirstVlan, kLastVlan);
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        Port *const one = chip.ports.find(port);
+        if (one == nullptr) return refused_port("port", port);
+        if (!is_vlan(vid)) return BCM_E_PARAM;
+        return change(chip, object(ObjectKind::kPort, local_port(port)), *one,
+                      [&](Port &made) { return give(&made.untagged_vlan, vid); });
+    });
 }
 
 int bcm_port_untagged_vlan_get(int unit, bcm_port_t port, bcm_vlan_t *vid_ptr) {
@@ -180,7 +186,7 @@ int bcm_port_ability_advert_get(int unit, bcm_port_t port, bcm_port_ability_t *a
 int bcm_port_stp_set(int unit, bcm_port_t port, int stp_state) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         const int number = local_port(port);
-        if (number < 0) return BCM_E_PORT;
+        if (number < 0) return refused_port("port", port);
         if (!within(stp_state, 0, BCM_STG_STP_COUNT - 1)) return BCM_E_PARAM;
         for (auto &[id, stg] : chip.vlans.stgs)
             stg.state[static_cast<std::size_t>(number)] = stp_state;
@@ -191,7 +197,7 @@ int bcm_port_stp_set(int unit, bcm_port_t port, int stp_state) {
 int bcm_port_stp_get(int unit, bcm_port_t port, int *stp_state) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         const int number = local_port(port);
-        if (number < 0) return BCM_E_PORT;
+        if (number < 0) return refused_port("port", port);
         const Stg &stg = chip.vlans.stgs.at(chip.vlans.default_stg);
         return give(stp_state, stg.state[static_cast<std::size_t>(number)]);
     });

@@ -19,7 +19,7 @@ bool good_settings(const bcm_port_info_t &info) {
 }
 
 template <class T>
-void assign(T &to, const auto &from) {
+void copy(T &to, const auto &from) {
     to = static_cast<T>(from);
 }
 
@@ -44,13 +44,19 @@ void each_setting(auto &info, auto &port, auto each) {
     each(info.frame_max, port.frame_max);
 }
 
+int clear_ports(Switch &chip) {
+    unlink_ports(chip);
+    chip.ports = Ports{};
+    link_ports(chip);
+    return BCM_E_NONE;
+}
+
 }  // namespace
 
 extern "C" {
 
-int bcm_port_init(int unit) { return start_chapter(__func__, unit, "bcm_port_", &Switch::ports); }
-
-int bcm_port_clear(int unit) { return start_chapter(__func__, unit, "bcm_port_", &Switch::ports); }
+int bcm_port_init(int unit) { return start_chapter(__func__, unit, "bcm_port_", clear_ports); }
+int bcm_port_clear(int unit) { return start_chapter(__func__, unit, "bcm_port_", clear_ports); }
 
 int bcm_port_config_get(int unit, bcm_port_config_t *config) {
     return on_switch(__func__, unit, [&](Switch &) {
@@ -71,7 +77,7 @@ int bcm_port_get(int unit, bcm_port_t port, uint32 *flags,
                  bcm_port_interface_info_t *interface_info, bcm_port_mapping_info_t *mapping_info) {
     return on_switch(__func__, unit, [&](Switch &) {
         const int number = local_port(port);
-        if (number < 0) return BCM_E_PORT;
+        if (number < 0) return refused_port("port", port);
         if (flags == nullptr || interface_info == nullptr || mapping_info == nullptr)
             return BCM_E_PARAM;
         *flags = 0;
@@ -90,14 +96,14 @@ int bcm_port_get(int unit, bcm_port_t port, uint32 *flags,
 int bcm_port_gport_get(int unit, bcm_port_t port, bcm_gport_t *gport) {
     return on_switch(__func__, unit, [&](Switch &) {
         const int number = local_port(port);
-        return number < 0 ? BCM_E_PORT : give(gport, kLocalGport.of(number));
+        return number < 0 ? refused_port("port", port) : give(gport, kLocalGport.of(number));
     });
 }
 
 int bcm_port_local_get(int unit, bcm_gport_t gport, bcm_port_t *local_port_out) {
     return on_switch(__func__, unit, [&](Switch &) {
         const int number = local_port(gport);
-        return number < 0 ? BCM_E_PORT : give(local_port_out, number);
+        return number < 0 ? refused_port("gport", gport) : give(local_port_out, number);
     });
 }
 
@@ -114,11 +120,11 @@ char *bcm_port_name(int unit, int port) {
 int bcm_port_info_get(int unit, bcm_port_t port, bcm_port_info_t *info) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         const Port *const one = chip.ports.find(port);
-        if (one == nullptr) return BCM_E_PORT;
+        if (one == nullptr) return refused_port("port", port);
         if (info == nullptr) return BCM_E_PARAM;
         const Stg &stg = chip.vlans.stgs.at(chip.vlans.default_stg);
         *info = bcm_port_info_t{};
-        each_setting(*info, *one, [](auto &told, const auto &kept) { assign(told, kept); });
+        each_setting(*info, *one, [](auto &told, const auto &kept) { copy(told, kept); });
         info->linkstatus = one->link();
         info->speed_max = one->speed_max;
         info->stp_state = stg.state[static_cast<std::size_t>(local_port(port))];
@@ -129,12 +135,16 @@ int bcm_port_info_get(int unit, bcm_port_t port, bcm_port_info_t *info) {
 
 // What of the structure can be set; all or nothing. The masks of actions are not looked at.
 int bcm_port_info_set(int unit, bcm_port_t port, bcm_port_info_t *info) {
-    return on_port(__func__, unit, port, [&](Port &one) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        Port *const one = chip.ports.find(port);
+        if (one == nullptr) return refused_port("port", port);
         if (info == nullptr || !good_settings(*info)) return BCM_E_PARAM;
-        if (!can_run_at(one, info->speed)) return BCM_E_CONFIG;
-        each_setting(*info, one, [](const auto &told, auto &kept) { assign(kept, told); });
-        std::copy_n(info->pause_mac, one.pause_address.size(), one.pause_address.begin());
-        return BCM_E_NONE;
+        if (!can_run_at(*one, info->speed)) return BCM_E_CONFIG;
+        return change(chip, object(ObjectKind::kPort, local_port(port)), *one, [&](Port &made) {
+            each_setting(*info, made, [](const auto &told, auto &kept) { copy(kept, told); });
+            std::copy_n(info->pause_mac, made.pause_address.size(), made.pause_address.begin());
+            return BCM_E_NONE;
+        });
     });
 }
 

@@ -1,32 +1,54 @@
 // The calls of the spanning tree group chapter.
 #include "sdk/bcm/stg.h"
 #include "standin/model/loans.h"
-#include "standin/model/model.h"
-#include "standin/model/switch.h"
+#include "standin/model/tables.h"
 
 using namespace standin;
 
 namespace {
 
-int create(Vlans &vlans, bcm_stg_t stg) {
-    if (!within(stg, kFirstStg, kLastStg)) return BCM_E_PARAM;
-    if (vlans.find_stg(stg) != nullptr) return BCM_E_EXISTS;
-    if (vlans.stgs.size() >= table_capacity("stg", kStgCapacity)) return BCM_E_FULL;
-    vlans.stgs[stg];
-    return BCM_E_NONE;
+constexpr Numbering<bcm_stg_t> kNumbers{"stg", kStgCapacity, kFirstStg, kLastStg};
+
+int create(const char *function, int unit, bool given, bcm_stg_t *stg) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        int status = BCM_E_NONE;
+        new_entry(chip.vlans.stgs, kNumbers, given, stg, status);
+        return status;
+    });
 }
 
-// VLANs that lose their group go to the default group.
-void leave(Vlans &vlans, bcm_stg_t stg) {
-    for (auto &[vid, vlan] : vlans.vlans)
-        if (vlan.stg == stg) vlan.stg = vlans.default_stg;
+// All groups but the default one; VLANs that lose their group go there.
+int clear_groups(Switch &chip) {
+    for (auto at = chip.vlans.stgs.begin(); at != chip.vlans.stgs.end();) {
+        const bcm_stg_t stg = at++->first;
+        if (stg == chip.vlans.default_stg) continue;
+        chip.references.dissolve(chip, object(ObjectKind::kStg, stg));
+        chip.vlans.stgs.erase(stg);
+    }
+    return BCM_E_NONE;
 }
 
 template <class Body>
 int on_stg(const char *function, int unit, bcm_stg_t stg, Body &&body) {
     return on_switch(function, unit, [&](Switch &chip) {
-        return chip.vlans.find_stg(stg) == nullptr ? BCM_E_NOT_FOUND : body(chip.vlans);
+        return chip.vlans.find_stg(stg) == nullptr ? missing(stg) : body(chip);
     });
+}
+
+// The VLANs of a group, ascending.
+std::vector<bcm_vlan_t> vlans_in(const Switch &chip, bcm_stg_t stg) {
+    std::vector<bcm_vlan_t> vids;
+    chip.references.each_user(
+        object(ObjectKind::kStg, stg), Use::kVlanStg,
+        [&](const Object &vlan) { vids.push_back(static_cast<bcm_vlan_t>(vlan.number)); });
+    return vids;
+}
+
+int move_vlan(Switch &chip, bcm_vlan_t vid, bcm_stg_t stg) {
+    Vlan *const vlan = chip.vlans.find(vid);
+    if (vlan == nullptr) return missing(vid);
+    return change(chip, object(ObjectKind::kVlan, vid), *vlan,
+                  [&](Vlan &one) { return give(&one.stg, stg); });
 }
 
 }  // namespace
@@ -36,44 +58,25 @@ extern "C" {
 int bcm_stg_init(int unit) { return bcm_stg_clear(unit); }
 
 // All groups but the default one.
-int bcm_stg_clear(int unit) {
-    return on_switch(__func__, unit, [](Switch &chip) {
-        Vlans &all = chip.vlans;
-        std::erase_if(all.stgs, [&](const auto &one) { return one.first != all.default_stg; });
-        for (auto &[vid, vlan] : all.vlans) vlan.stg = all.default_stg;
-        return BCM_E_NONE;
-    });
-}
+int bcm_stg_clear(int unit) { return on_switch(__func__, unit, clear_groups); }
 
-int bcm_stg_create(int unit, bcm_stg_t *stg_ptr) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        if (stg_ptr == nullptr) return BCM_E_PARAM;
-        const bcm_stg_t stg = chip.vlans.free_stg();
-        if (stg < 0) return BCM_E_FULL;
-        const int status = create(chip.vlans, stg);
-        if (status == BCM_E_NONE) *stg_ptr = stg;
-        return status;
-    });
-}
+int bcm_stg_create(int unit, bcm_stg_t *stg_ptr) { return create(__func__, unit, false, stg_ptr); }
 
-int bcm_stg_create_id(int unit, bcm_stg_t stg) {
-    return on_switch(__func__, unit, [&](Switch &chip) { return create(chip.vlans, stg); });
-}
+int bcm_stg_create_id(int unit, bcm_stg_t stg) { return create(__func__, unit, true, &stg); }
 
 int bcm_stg_destroy(int unit, bcm_stg_t stg) {
-    return on_stg(__func__, unit, stg, [&](Vlans &all) {
-        if (stg == all.default_stg) return BCM_E_BADID;
-        leave(all, stg);
-        all.stgs.erase(stg);
+    return on_stg(__func__, unit, stg, [&](Switch &chip) {
+        if (stg == chip.vlans.default_stg)
+            return refused(BCM_E_BADID, "group " + std::to_string(stg) + " is the default");
+        chip.references.dissolve(chip, object(ObjectKind::kStg, stg));
+        chip.vlans.stgs.erase(stg);
         return BCM_E_NONE;
     });
 }
 
 int bcm_stg_default_set(int unit, bcm_stg_t stg) {
-    return on_stg(__func__, unit, stg, [&](Vlans &all) {
-        all.default_stg = stg;
-        return BCM_E_NONE;
-    });
+    return on_stg(__func__, unit, stg,
+                  [&](Switch &chip) { return give(&chip.vlans.default_stg, stg); });
 }
 
 int bcm_stg_default_get(int unit, bcm_stg_t *stg_ptr) {
@@ -99,37 +102,28 @@ int bcm_stg_list_destroy(int unit, bcm_stg_t *list, int count) {
 }
 
 int bcm_stg_vlan_add(int unit, bcm_stg_t stg, bcm_vlan_t vid) {
-    return on_stg(__func__, unit, stg, [&](Vlans &all) {
-        Vlan *const vlan = all.find(vid);
-        if (vlan == nullptr) return BCM_E_NOT_FOUND;
-        vlan->stg = stg;
-        return BCM_E_NONE;
-    });
+    return on_stg(__func__, unit, stg, [&](Switch &chip) { return move_vlan(chip, vid, stg); });
 }
 
 int bcm_stg_vlan_remove(int unit, bcm_stg_t stg, bcm_vlan_t vid) {
-    return on_stg(__func__, unit, stg, [&](Vlans &all) {
-        Vlan *const vlan = all.find(vid);
-        if (vlan == nullptr || vlan->stg != stg) return BCM_E_NOT_FOUND;
-        vlan->stg = all.default_stg;
-        return BCM_E_NONE;
+    return on_stg(__func__, unit, stg, [&](Switch &chip) {
+        const Vlan *const vlan = chip.vlans.find(vid);
+        if (vlan == nullptr || vlan->stg != stg) return missing(vid);
+        return move_vlan(chip, vid, chip.vlans.default_stg);
     });
 }
 
 int bcm_stg_vlan_remove_all(int unit, bcm_stg_t stg) {
-    return on_stg(__func__, unit, stg, [&](Vlans &all) {
-        leave(all, stg);
+    return on_stg(__func__, unit, stg, [&](Switch &chip) {
+        for (const bcm_vlan_t vid : vlans_in(chip, stg))
+            move_vlan(chip, vid, chip.vlans.default_stg);
         return BCM_E_NONE;
     });
 }
 
 int bcm_stg_vlan_list(int unit, bcm_stg_t stg, bcm_vlan_t **list, int *count) {
-    return on_stg(__func__, unit, stg, [&](Vlans &all) {
-        std::vector<bcm_vlan_t> vids;
-        for (const auto &[vid, vlan] : all.vlans)
-            if (vlan.stg == stg) vids.push_back(vid);
-        return give_list(vids, list, count);
-    });
+    return on_stg(__func__, unit, stg,
+                  [&](Switch &chip) { return give_list(vlans_in(chip, stg), list, count); });
 }
 
 int bcm_stg_vlan_list_destroy(int unit, bcm_vlan_t *list, int count) {

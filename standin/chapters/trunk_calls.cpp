@@ -3,6 +3,7 @@
 
 #include "native/symbols.h"
 #include "sdk/bcm/trunk.h"
+#include "standin/chapters/l2_select.h"
 #include "standin/model/loans.h"
 #include "standin/model/tables.h"
 
@@ -30,15 +31,31 @@ bool is_member(Trunk &trunk, bcm_gport_t gport) {
 }
 
 bool in_another(Switch &chip, bcm_trunk_t tid, bcm_gport_t gport) {
-    return std::ranges::any_of(trunks_of(chip), [&](auto &one) {
-        return one.first != tid && is_member(one.second, gport);
-    });
+    const bcm_trunk_t *const other = find_in(chip.groups.trunk_of, gport);
+    return other != nullptr && *other != tid;
+}
+
+// Which trunk a port is in follows the lists of members.
+void forget_members(Switch &chip, const Trunk &trunk) {
+    for (const bcm_trunk_member_t &member : trunk.members) chip.groups.trunk_of.erase(member.gport);
+}
+
+// Changes the members of a trunk by `edit(copy)`; refused whole.
+template <class Edit>
+int change_members(Switch &chip, bcm_trunk_t tid, Trunk &trunk, Edit &&edit) {
+    Trunk made = trunk;
+    if (const int status = edit(made); status != BCM_E_NONE) return status;
+    forget_members(chip, trunk);
+    for (const bcm_trunk_member_t &member : made.members) chip.groups.trunk_of[member.gport] = tid;
+    return assign(chip, object(ObjectKind::kTrunk, tid), trunk, std::move(made));
 }
 
 int add_member(Switch &chip, bcm_trunk_t tid, Trunk &trunk, bcm_trunk_member_t member) {
-    member.gport = member_gport(member.gport);
-    if (member.gport == 0) return BCM_E_PORT;
-    if (is_member(trunk, member.gport) || in_another(chip, tid, member.gport)) return BCM_E_EXISTS;
+    const bcm_gport_t given = member.gport;
+    member.gport = member_gport(given);
+    if (member.gport == 0) return refused_port("gport", given);
+    if (is_member(trunk, member.gport) || in_another(chip, tid, member.gport))
+        return refused(BCM_E_EXISTS, "port " + std::to_string(given) + " is in a trunk");
     if (trunk.members.size() >= kTrunkMembers) return BCM_E_FULL;
     trunk.members.push_back(member);
     return BCM_E_NONE;
@@ -46,10 +63,15 @@ int add_member(Switch &chip, bcm_trunk_t tid, Trunk &trunk, bcm_trunk_member_t m
 
 int delete_member(Trunk &trunk, bcm_gport_t gport) {
     const auto found = find_member(trunk, member_gport(gport));
-    if (found == trunk.members.end()) return BCM_E_NOT_FOUND;
+    if (found == trunk.members.end()) return missing(gport);
     trunk.member_ids.erase(found->gport);
     trunk.members.erase(found);
     return BCM_E_NONE;
+}
+
+int drop_member(Switch &chip, bcm_trunk_t tid, Trunk &trunk, bcm_gport_t gport) {
+    return change_members(chip, tid, trunk,
+                          [&](Trunk &made) { return delete_member(made, gport); });
 }
 
 void clear_members(Trunk &trunk) {
@@ -57,29 +79,51 @@ void clear_members(Trunk &trunk) {
     trunk.member_ids.clear();
 }
 
+int drop_members(Switch &chip, bcm_trunk_t tid, Trunk &trunk) {
+    return change_members(chip, tid, trunk, [](Trunk &made) {
+        clear_members(made);
+        return int{BCM_E_NONE};
+    });
+}
+
+int destroy_trunk(Switch &chip, bcm_trunk_t tid) {
+    Trunk *const trunk = find_in(trunks_of(chip), tid);
+    if (trunk == nullptr) return missing(tid);
+    const Trunk gone = *trunk;
+    const int status = erase_object(chip, trunks_of(chip), ObjectKind::kTrunk, tid);
+    if (status == BCM_E_NONE) forget_members(chip, gone);
+    return status;
+}
+
 int clear_trunks(const char *function, int unit) {
-    return start_chapter(function, unit, "bcm_trunk_", trunks_of);
+    return on_watched_switch(function, unit, [](Switch &chip) {
+        const int status = erase_objects(chip, trunks_of(chip), ObjectKind::kTrunk);
+        if (status != BCM_E_NONE) return status;
+        chip.groups.trunk_of.clear();
+        forget_generic(chip, "bcm_trunk_");
+        return status;
+    });
 }
 
 template <class Body>
 int on_trunk(const char *function, int unit, bcm_trunk_t tid, Body &&body) {
     return on_switch(function, unit, [&](Switch &chip) {
         Trunk *const trunk = find_in(trunks_of(chip), tid);
-        return trunk == nullptr ? BCM_E_NOT_FOUND : body(chip, *trunk);
+        return trunk == nullptr ? missing(tid) : body(chip, *trunk);
     });
 }
 
 // All or nothing: the members given replace those that are there.
 int set_members(Switch &chip, bcm_trunk_t tid, Trunk &trunk, const bcm_trunk_member_t *members,
                 int count) {
-    Trunk made = trunk;
-    clear_members(made);
-    for (int i = 0; i < count; ++i) {
-        const int status = add_member(chip, tid, made, members[i]);
-        if (status != BCM_E_NONE) return status;
-    }
-    trunk = std::move(made);
-    return BCM_E_NONE;
+    return change_members(chip, tid, trunk, [&](Trunk &made) {
+        clear_members(made);
+        for (int i = 0; i < count; ++i) {
+            const int status = add_member(chip, tid, made, members[i]);
+            if (status != BCM_E_NONE) return status;
+        }
+        return int{BCM_E_NONE};
+    });
 }
 
 }  // namespace
@@ -111,10 +155,10 @@ int bcm_trunk_create(int unit, uint32 flags, bcm_trunk_t *tid) {
     });
 }
 
+// MAC addresses and memberships of the trunk go along.
 int bcm_trunk_destroy(int unit, bcm_trunk_t tid) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        return trunks_of(chip).erase(tid) == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
-    });
+    return on_watched_switch(__func__, unit,
+                             [&](Switch &chip) { return destroy_trunk(chip, tid); });
 }
 
 int bcm_trunk_set(int unit, bcm_trunk_t tid, bcm_trunk_info_t *trunk_info, int member_count,
@@ -155,50 +199,49 @@ int bcm_trunk_find(int unit, bcm_module_t modid, bcm_port_t port, bcm_trunk_t *t
     return on_switch(__func__, unit, [&](Switch &chip) {
         if (tid == nullptr) return BCM_E_PARAM;
         const bcm_gport_t gport = member_gport(port);
-        if (gport == 0) return BCM_E_PORT;
-        for (auto &[id, trunk] : trunks_of(chip))
-            if (modid == 0 && is_member(trunk, gport)) return give(tid, id);
-        return int{BCM_E_NOT_FOUND};
+        if (gport == 0) return refused_port("port", port);
+        const bcm_trunk_t *const found = find_in(chip.groups.trunk_of, gport);
+        return found == nullptr || modid != 0 ? missing(port) : give(tid, *found);
     });
 }
 
 int bcm_trunk_member_add(int unit, bcm_trunk_t tid, bcm_trunk_member_t *member) {
     return on_trunk(__func__, unit, tid, [&](Switch &chip, Trunk &trunk) {
-        return member == nullptr ? BCM_E_PARAM : add_member(chip, tid, trunk, *member);
+        if (member == nullptr) return BCM_E_PARAM;
+        return change_members(chip, tid, trunk,
+                              [&](Trunk &made) { return add_member(chip, tid, made, *member); });
     });
 }
 
 int bcm_trunk_member_delete(int unit, bcm_trunk_t tid, bcm_trunk_member_t *member) {
-    return on_trunk(__func__, unit, tid, [&](Switch &, Trunk &trunk) {
-        return member == nullptr ? BCM_E_PARAM : delete_member(trunk, member->gport);
+    return on_trunk(__func__, unit, tid, [&](Switch &chip, Trunk &trunk) {
+        return member == nullptr ? BCM_E_PARAM : drop_member(chip, tid, trunk, member->gport);
     });
 }
 
 int bcm_trunk_member_delete_all(int unit, bcm_trunk_t tid) {
-    return on_trunk(__func__, unit, tid, [](Switch &, Trunk &trunk) {
-        clear_members(trunk);
-        return BCM_E_NONE;
-    });
+    return on_trunk(__func__, unit, tid,
+                    [&](Switch &chip, Trunk &trunk) { return drop_members(chip, tid, trunk); });
 }
 
 int bcm_trunk_gport_add(int unit, bcm_trunk_t tid, bcm_gport_t gport) {
     return on_trunk(__func__, unit, tid, [&](Switch &chip, Trunk &trunk) {
         bcm_trunk_member_t member{};
         member.gport = gport;
-        return add_member(chip, tid, trunk, member);
+        return change_members(chip, tid, trunk,
+                              [&](Trunk &made) { return add_member(chip, tid, made, member); });
     });
 }
 
 int bcm_trunk_gport_delete(int unit, bcm_trunk_t tid, bcm_gport_t gport) {
-    return on_trunk(__func__, unit, tid,
-                    [&](Switch &, Trunk &trunk) { return delete_member(trunk, gport); });
+    return on_trunk(__func__, unit, tid, [&](Switch &chip, Trunk &trunk) {
+        return drop_member(chip, tid, trunk, gport);
+    });
 }
 
 int bcm_trunk_gport_delete_all(int unit, bcm_trunk_t tid) {
-    return on_trunk(__func__, unit, tid, [](Switch &, Trunk &trunk) {
-        clear_members(trunk);
-        return BCM_E_NONE;
-    });
+    return on_trunk(__func__, unit, tid,
+                    [&](Switch &chip, Trunk &trunk) { return drop_members(chip, tid, trunk); });
 }
 
 int bcm_trunk_gport_get_all(int unit, bcm_trunk_t tid, int gport_max, bcm_gport_t *gport_array,
@@ -212,7 +255,7 @@ int bcm_trunk_gport_get_all(int unit, bcm_trunk_t tid, int gport_max, bcm_gport_
 
 int bcm_trunk_egress_set(int unit, bcm_trunk_t tid, bcm_pbmp_t pbmp) {
     return on_trunk(__func__, unit, tid, [&](Switch &, Trunk &trunk) {
-        if (!is_subset(pbmp, kAllPorts)) return BCM_E_PORT;
+        if (!is_subset(pbmp, kAllPorts)) return refused_ports(pbmp);
         trunk.egress = pbmp;
         return BCM_E_NONE;
     });
@@ -251,9 +294,10 @@ int soc_ppd_lag_member_add(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member,
             return BCM_E_PARAM;
         bcm_trunk_member_t added{};
         added.gport = kSystemGport.of(static_cast<int>(member->sys_port));
-        const int answer = add_member(chip, tid, trunk, added);
-        if (answer == BCM_E_NONE) trunk.member_ids[added.gport] = member->member_id;
-        return answer;
+        return change_members(chip, tid, trunk, [&](Trunk &made) {
+            made.member_ids[added.gport] = member->member_id;
+            return add_member(chip, tid, made, added);
+        });
     });
     if (success != nullptr) *success = status == BCM_E_NONE;
     return status;
@@ -261,12 +305,12 @@ int soc_ppd_lag_member_add(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member,
 
 int soc_ppd_lag_member_remove(int unit, uint32 lag_ndx, SOC_PPC_LAG_MEMBER *member) {
     const auto tid = static_cast<bcm_trunk_t>(lag_ndx);
-    return on_trunk(__func__, unit, tid, [&](Switch &, Trunk &trunk) {
+    return on_trunk(__func__, unit, tid, [&](Switch &chip, Trunk &trunk) {
         if (member == nullptr || member->sys_port > kSystemGport.mask) return BCM_E_PARAM;
         const bcm_gport_t gport = kSystemGport.of(static_cast<int>(member->sys_port));
         const std::uint32_t *const id = find_in(trunk.member_ids, gport);
         if (id == nullptr || *id != member->member_id) return BCM_E_NOT_FOUND;
-        return delete_member(trunk, gport);
+        return drop_member(chip, tid, trunk, gport);
     });
 }
 

@@ -1,5 +1,6 @@
 // The calls of the VLAN chapter that are about VLANs and their members.
 #include "sdk/bcm/vlan.h"
+#include "standin/chapters/l2_select.h"
 #include "standin/model/loans.h"
 #include "standin/model/tables.h"
 
@@ -7,14 +8,45 @@ using namespace standin;
 
 namespace {
 
+constexpr Numbering<bcm_vlan_t> kNumbers{"vlan", kVlanCapacity, kFirstVlan, kLastVlan};
+
+int bad_vlan(bcm_vlan_t vid) {
+    return refused(BCM_E_PARAM, "field vid is " + std::to_string(vid) + ", allowed is 1 to 4094");
+}
+
 // on_switch with the VLAN found.
 template <class Body>
 int on_vlan(const char *function, int unit, bcm_vlan_t vid, Body &&body) {
     return on_switch(function, unit, [&](Switch &chip) {
-        if (!is_vlan(vid)) return BCM_E_PARAM;
+        if (!is_vlan(vid)) return bad_vlan(vid);
         Vlan *const vlan = chip.vlans.find(vid);
-        return vlan == nullptr ? BCM_E_NOT_FOUND : body(*vlan);
+        return vlan == nullptr ? missing(vid) : body(*vlan);
     });
+}
+
+// The same for a change of the VLAN by `edit(copy)`.
+template <class Edit>
+int change_vlan(const char *function, int unit, bcm_vlan_t vid, Edit &&edit) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        if (!is_vlan(vid)) return bad_vlan(vid);
+        Vlan *const vlan = chip.vlans.find(vid);
+        return vlan == nullptr ? missing(vid)
+                               : change(chip, object(ObjectKind::kVlan, vid), *vlan, edit);
+    });
+}
+
+// VLANs but the one that stays, and that as it was on the first day.
+int clear_vlans(Switch &chip) {
+    Vlans &all = chip.vlans;
+    const bcm_vlan_t old_default = std::exchange(all.default_vlan, kFirstVlan);
+    const int status = erase_objects(chip, all.vlans, ObjectKind::kVlan, kFirstVlan);
+    if (status != BCM_E_NONE) {
+        all.default_vlan = old_default;
+        return status;
+    }
+    Vlan first = Vlans::first_vlan();
+    first.stg = all.default_stg;
+    return assign(chip, object(ObjectKind::kVlan, kFirstVlan), all.vlans[kFirstVlan], first);
 }
 
 std::vector<bcm_vlan_data_t> vlan_list(const Vlans &vlans, const bcm_pbmp_t *with) {
@@ -42,41 +74,49 @@ std::vector<std::pair<bcm_gport_t, int>> members_of(const Vlan &vlan) {
 
 extern "C" {
 
-int bcm_vlan_init(int unit) { return start_chapter(__func__, unit, "bcm_vlan_", &Switch::vlans); }
+int bcm_vlan_init(int unit) {
+    return on_watched_switch(__func__, unit, [](Switch &chip) {
+        const int status = clear_vlans(chip);
+        if (status == BCM_E_NONE) forget_generic(chip, "bcm_vlan_");
+        return status;
+    });
+}
 
 int bcm_vlan_create(int unit, bcm_vlan_t vid) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         Vlans &all = chip.vlans;
-        if (!is_vlan(vid)) return BCM_E_PARAM;
-        if (all.find(vid) != nullptr) return BCM_E_EXISTS;
-        if (all.vlans.size() >= table_capacity("vlan", kVlanCapacity)) return BCM_E_FULL;
-        all.vlans[vid].stg = all.default_stg;
-        return BCM_E_NONE;
+        int status = BCM_E_NONE;
+        if (!is_vlan(vid)) return bad_vlan(vid);
+        Vlan made;
+        made.stg = all.default_stg;
+        Vlan *const slot = new_entry(all.vlans, kNumbers, true, &vid, status);
+        return slot == nullptr ? status : assign(chip, object(ObjectKind::kVlan, vid), *slot, made);
     });
 }
 
+// MAC addresses in it go along; ports whose own VLAN it was go to the default one.
 int bcm_vlan_destroy(int unit, bcm_vlan_t vid) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
+    return on_watched_switch(__func__, unit, [&](Switch &chip) {
         Vlans &all = chip.vlans;
-        if (!is_vlan(vid)) return BCM_E_PARAM;
-        if (vid == all.default_vlan) return BCM_E_BADID;
-        return all.vlans.erase(vid) == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+        if (!is_vlan(vid)) return bad_vlan(vid);
+        if (vid == all.default_vlan)
+            return refused(BCM_E_BADID, "VLAN " + std::to_string(vid) + " is the default");
+        return erase_object(chip, all.vlans, ObjectKind::kVlan, vid);
     });
 }
 
 // All but the default VLAN.
 int bcm_vlan_destroy_all(int unit) {
-    return on_switch(__func__, unit, [](Switch &chip) {
+    return on_watched_switch(__func__, unit, [](Switch &chip) {
         Vlans &all = chip.vlans;
-        std::erase_if(all.vlans, [&](const auto &one) { return one.first != all.default_vlan; });
-        return BCM_E_NONE;
+        return erase_objects(chip, all.vlans, ObjectKind::kVlan, all.default_vlan);
     });
 }
 
 int bcm_vlan_default_set(int unit, bcm_vlan_t vid) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        if (!is_vlan(vid)) return BCM_E_PARAM;
-        if (chip.vlans.find(vid) == nullptr) return BCM_E_NOT_FOUND;
+        if (!is_vlan(vid)) return bad_vlan(vid);
+        if (chip.vlans.find(vid) == nullptr) return missing(vid);
         chip.vlans.default_vlan = vid;
         return BCM_E_NONE;
     });
@@ -90,7 +130,7 @@ int bcm_vlan_default_get(int unit, bcm_vlan_t *vid_ptr) {
 // A port that is a member already becomes tagged or untagged as told.
 int bcm_vlan_port_add(int unit, bcm_vlan_t vid, bcm_pbmp_t pbmp, bcm_pbmp_t ubmp) {
     return on_vlan(__func__, unit, vid, [&](Vlan &vlan) {
-        if (!is_subset(pbmp, kAllPorts)) return BCM_E_PORT;
+        if (!is_subset(pbmp, kAllPorts)) return refused_ports(pbmp);
         if (!is_subset(ubmp, pbmp)) return BCM_E_PARAM;
         add_ports(vlan.members, pbmp);
         remove_ports(vlan.untagged, pbmp);
@@ -101,7 +141,7 @@ int bcm_vlan_port_add(int unit, bcm_vlan_t vid, bcm_pbmp_t pbmp, bcm_pbmp_t ubmp
 
 int bcm_vlan_port_remove(int unit, bcm_vlan_t vid, bcm_pbmp_t pbmp) {
     return on_vlan(__func__, unit, vid, [&](Vlan &vlan) {
-        if (!is_subset(pbmp, kAllPorts)) return BCM_E_PORT;
+        if (!is_subset(pbmp, kAllPorts)) return refused_ports(pbmp);
         if (!any_common(pbmp, vlan.members)) return BCM_E_NOT_FOUND;
         remove_ports(vlan.members, pbmp);
         remove_ports(vlan.untagged, pbmp);
@@ -135,7 +175,7 @@ int bcm_vlan_list_destroy(int unit, bcm_vlan_data_t *list, int count) {
 }
 
 int bcm_vlan_gport_add(int unit, bcm_vlan_t vlan, bcm_gport_t port, int flags) {
-    return on_vlan(__func__, unit, vlan, [&](Vlan &one) {
+    return change_vlan(__func__, unit, vlan, [&](Vlan &one) {
         const int number = local_port(port);
         if (number >= 0) {
             add_port(one.members, number);
@@ -143,14 +183,13 @@ int bcm_vlan_gport_add(int unit, bcm_vlan_t vlan, bcm_gport_t port, int flags) {
                                               : remove_port(one.untagged, number);
             return BCM_E_NONE;
         }
-        if (gport_type(port) <= kLocalGport.type) return BCM_E_PORT;
         one.gports[port] = flags;
         return BCM_E_NONE;
     });
 }
 
 int bcm_vlan_gport_delete(int unit, bcm_vlan_t vlan, bcm_gport_t port) {
-    return on_vlan(__func__, unit, vlan, [&](Vlan &one) {
+    return change_vlan(__func__, unit, vlan, [&](Vlan &one) {
         const int number = local_port(port);
         if (number < 0) return one.gports.erase(port) == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
         if (!has_port(one.members, number)) return BCM_E_NOT_FOUND;
@@ -161,7 +200,7 @@ int bcm_vlan_gport_delete(int unit, bcm_vlan_t vlan, bcm_gport_t port) {
 }
 
 int bcm_vlan_gport_delete_all(int unit, bcm_vlan_t vlan) {
-    return on_vlan(__func__, unit, vlan, [](Vlan &one) {
+    return change_vlan(__func__, unit, vlan, [](Vlan &one) {
         one.members = one.untagged = bcm_pbmp_t{};
         one.gports.clear();
         return BCM_E_NONE;
@@ -194,12 +233,7 @@ int bcm_vlan_gport_get_all(int unit, bcm_vlan_t vlan, int array_max, bcm_gport_t
 }
 
 int bcm_vlan_stg_set(int unit, bcm_vlan_t vid, bcm_stg_t stg) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        Vlan *const vlan = chip.vlans.find(vid);
-        if (vlan == nullptr || chip.vlans.find_stg(stg) == nullptr) return BCM_E_NOT_FOUND;
-        vlan->stg = stg;
-        return BCM_E_NONE;
-    });
+    return change_vlan(__func__, unit, vid, [&](Vlan &vlan) { return give(&vlan.stg, stg); });
 }
 
 int bcm_vlan_stg_get(int unit, bcm_vlan_t vid, bcm_stg_t *stg_ptr) {
@@ -210,7 +244,7 @@ int bcm_vlan_stg_get(int unit, bcm_vlan_t vid, bcm_stg_t *stg_ptr) {
 int bcm_vlan_stp_set(int unit, bcm_vlan_t vid, bcm_port_t port, int stp_state) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         Vlan *const vlan = chip.vlans.find(vid);
-        if (vlan == nullptr) return BCM_E_NOT_FOUND;
+        if (vlan == nullptr) return missing(vid);
         return set_stp(chip.vlans, vlan->stg, port, stp_state);
     });
 }
@@ -218,7 +252,7 @@ int bcm_vlan_stp_set(int unit, bcm_vlan_t vid, bcm_port_t port, int stp_state) {
 int bcm_vlan_stp_get(int unit, bcm_vlan_t vid, bcm_port_t port, int *stp_state) {
     return on_switch(__func__, unit, [&](Switch &chip) {
         Vlan *const vlan = chip.vlans.find(vid);
-        if (vlan == nullptr) return BCM_E_NOT_FOUND;
+        if (vlan == nullptr) return missing(vid);
         return get_stp(chip.vlans, vlan->stg, port, stp_state);
     });
 }

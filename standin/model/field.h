@@ -1,8 +1,6 @@
 // The rule engine of one switch: groups, entries with qualifiers and actions, counters.
 //
-// Invariants:
-//   1. Each entry and each counter belongs to a group that exists.
-//   2. `users` of a counter is the number of entries that it is attached to.
+// Each entry and each counter belongs to a group that exists.
 #pragma once
 #include <array>
 #include <cstddef>
@@ -55,7 +53,6 @@ struct FieldStat {
     bcm_field_group_t group = 0;
     std::vector<bcm_field_stat_t> kinds;
     std::map<bcm_field_stat_t, std::uint64_t> values;
-    int users = 0;
 };
 
 struct Field {

@@ -34,23 +34,28 @@ struct MulticastGroup {
     std::vector<Member> egress;
 };
 
+// The destinations to which a port is copied.
+struct MirroredTo {
+    std::vector<bcm_gport_t> destinations;
+};
+
 struct Mirrors {
     int mode = 0;
     bcm_port_t to = -1;
     std::map<bcm_gport_t, bcm_mirror_destination_t> destinations;
     // Destinations of a port, by port and flags.
-    std::map<std::pair<int, std::uint32_t>, std::vector<bcm_gport_t>> of_port;
+    std::map<std::pair<int, std::uint32_t>, MirroredTo> of_port;
     bcm_pbmp_t ingress{};
     bcm_pbmp_t egress{};
 };
 
 struct Policer {
     bcm_policer_config_t config{};
-    int users = 0;  // entries of the field processor that it is attached to
 };
 
 struct Groups {
     std::map<bcm_trunk_t, Trunk> trunks;
+    std::map<bcm_gport_t, bcm_trunk_t> trunk_of;  // by member
     std::map<bcm_multicast_t, MulticastGroup> multicast;
     Mirrors mirrors;
     std::map<bcm_policer_t, Policer> policers;

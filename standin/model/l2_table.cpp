@@ -47,8 +47,10 @@ void L2Index::erase(std::uint64_t key) {
     --size_;
 }
 
-L2Row *L2Table::find(const bcm_mac_t mac, bcm_vlan_t vid) {
-    const std::uint32_t place = index_.find(l2_key(mac, vid));
+L2Row *L2Table::find(const bcm_mac_t mac, bcm_vlan_t vid) { return find_key(l2_key(mac, vid)); }
+
+L2Row *L2Table::find_key(std::uint64_t key) {
+    const std::uint32_t place = index_.find(key);
     return place == L2Index::kNone ? nullptr : &rows_[place];
 }
 

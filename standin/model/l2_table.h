@@ -75,6 +75,7 @@ class L2Table {
 
     // Null if there is none. Valid until the next `put` or `erase`.
     L2Row *find(const bcm_mac_t mac, bcm_vlan_t vid);
+    L2Row *find_key(std::uint64_t key);
 
     // Adds the entry, or replaces the one of the same address and VLAN, which keeps its place in
     // a walk. Null: `capacity` rows are there already.

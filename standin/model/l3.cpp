@@ -1,20 +1,10 @@
-// Which interfaces can be pointed at and let go; addresses and masks of both versions.
+// Addresses and masks of both versions.
 #include "standin/model/l3.h"
 
 #include <algorithm>
 #include <bit>
 
 namespace standin {
-
-bool L3::can_point_at(bcm_if_t intf) const {
-    return intf == 0 || interfaces.contains(intf) || egresses.contains(intf) ||
-           multipaths.contains(intf);
-}
-
-void L3::release(bcm_if_t intf) {
-    const auto found = uses.find(intf);
-    if (found != uses.end() && --found->second == 0) uses.erase(found);
-}
 
 IpAddress ip4_address(bcm_ip_t address) {
     IpAddress made;

@@ -1,7 +1,4 @@
 // Interfaces, egress objects, multipath groups, hosts and routes of one switch.
-//
-// Every use of an interface or egress object by a number is counted in `uses`; what is in use
-// cannot go.
 #pragma once
 #include <array>
 #include <compare>
@@ -59,14 +56,7 @@ struct L3 {
     std::map<bcm_if_t, std::vector<bcm_if_t>> multipaths;
     std::map<HostKey, bcm_l3_host_t> hosts;
     std::map<RouteKey, bcm_l3_route_t> routes;
-    std::map<bcm_if_t, int> uses;
     int max_ecmp = kMultipathMembers;
-
-    // Whether a host or route can point at `intf`: 0 (nowhere) or one that is there.
-    bool can_point_at(bcm_if_t intf) const;
-    void hold(bcm_if_t intf) { ++uses[intf]; }
-    void release(bcm_if_t intf);
-    bool in_use(bcm_if_t intf) const { return uses.contains(intf); }
 };
 
 IpAddress ip4_address(bcm_ip_t address);

@@ -6,6 +6,7 @@
 
 #include "sdk/constants.h"
 #include "standin/base/faults.h"
+#include "standin/model/refusal.h"
 
 namespace standin {
 
@@ -27,14 +28,18 @@ template <class Body>
 int on_switch(const char *function, int unit, Body &&body) {
     if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;
     const std::lock_guard<std::mutex> guard(model_lock());
+    const CallRecord record(function, unit);
     int status = BCM_E_NONE;
     Switch *const chip = ready_switch(unit, status);
-    if (chip == nullptr) return status;
+    if (chip == nullptr) return record.close(status);
+    if (is_stopped(*chip, function)) return record.close(BCM_E_INIT);
     try {
-        return std::forward<Body>(body)(*chip);
+        status = std::forward<Body>(body)(*chip);
+        if (status >= 0) note_chapter(*chip, function);
     } catch (const std::bad_alloc &) {
-        return BCM_E_MEMORY;
+        status = BCM_E_MEMORY;
     }
+    return record.close(status);
 }
 
 // Writes `value` for the caller, who may have passed null.

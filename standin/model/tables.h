@@ -1,9 +1,9 @@
 // What the chapters of numbered objects have in common.
 #pragma once
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -23,13 +23,19 @@ auto *find_in(Map &map, const typename Map::key_type &key) {
     return found == map.end() ? nullptr : &found->second;
 }
 
+// BCM_E_NOT_FOUND for a number that nothing in its table has.
+template <class Key>
+int missing(const Key &key) {
+    return refused(BCM_E_NOT_FOUND, "there is no " + std::to_string(key));
+}
+
 // on_switch with an object found in `table`; BCM_E_NOT_FOUND if it is not there. `table` is a
 // function from Switch& to a map.
 template <class Table, class Key, class Body>
 int on_entry(const char *function, int unit, Table &&table, const Key &key, Body &&body) {
     return on_switch(function, unit, [&](Switch &chip) {
         auto *const entry = find_in(table(chip), key);
-        return entry == nullptr ? BCM_E_NOT_FOUND : body(*entry);
+        return entry == nullptr ? missing(key) : body(*entry);
     });
 }
 
@@ -61,18 +67,25 @@ struct Numbering {
 template <class Map>
 typename Map::mapped_type *new_entry(Map &map, const Numbering<typename Map::key_type> &numbering,
                                      bool given, typename Map::key_type *id, int &status) {
-    status = BCM_E_PARAM;
-    if (id == nullptr) return nullptr;
+    const auto none = [&](int why, std::string text) {
+        status = refused(why, numbering.name + (" " + std::move(text)));
+        return nullptr;
+    };
+    if (id == nullptr) return none(BCM_E_PARAM, "without a place for its number");
     if (given) {
-        if (!within(*id, numbering.first, numbering.last)) return nullptr;
-        status = BCM_E_EXISTS;
-        if (map.contains(*id)) return nullptr;
+        if (!within(*id, numbering.first, numbering.last))
+            return none(BCM_E_PARAM, std::to_string(*id) + " is outside " +
+                                         std::to_string(numbering.first) + " to " +
+                                         std::to_string(numbering.last));
+        if (map.contains(*id)) return none(BCM_E_EXISTS, std::to_string(*id) + " is there");
     }
-    status = BCM_E_FULL;
-    if (map.size() >= table_capacity(numbering.name, numbering.capacity)) return nullptr;
+    const std::size_t capacity = table_capacity(numbering.name, numbering.capacity);
+    if (map.size() >= capacity)
+        return none(BCM_E_FULL,
+                    "has " + std::to_string(map.size()) + " of " + std::to_string(capacity));
     if (!given) {
         const auto number = free_id(map, numbering.first, numbering.last);
-        if (!number) return nullptr;
+        if (!number) return none(BCM_E_FULL, "has no free number");
         *id = *number;
     }
     status = BCM_E_NONE;
@@ -93,6 +106,7 @@ int walk(const char *function, int unit, Table &&table, Visit &&visit) {
             int status = BCM_E_NONE;
             Switch *const chip = ready_switch(unit, status);
             if (chip == nullptr) return status;
+            if (is_stopped(*chip, function)) return BCM_E_INIT;
             Map &map = table(*chip);
             const auto next = last ? map.upper_bound(*last) : map.begin();
             if (next == map.end()) return BCM_E_NONE;
@@ -108,27 +122,40 @@ inline void forget_generic(Switch &chip, std::string_view prefix) {
     std::erase_if(chip.generic, [&](const auto &one) { return one.first.starts_with(prefix); });
 }
 
-// Starts a chapter anew: what `kept` finds in a switch, and what calls without a model keep.
-template <class Kept>
-int start_chapter(const char *function, int unit, std::string_view prefix, Kept kept) {
+// Starts a chapter anew: what `clear` takes out of a switch, and what calls without a model keep.
+template <class Clear>
+int start_chapter(const char *function, int unit, std::string_view prefix, Clear clear) {
     return on_switch(function, unit, [&](Switch &chip) {
-        auto &all = std::invoke(kept, chip);
-        all = std::remove_reference_t<decltype(all)>{};
-        forget_generic(chip, prefix);
-        return BCM_E_NONE;
+        const int status = clear(chip);
+        if (status == BCM_E_NONE) forget_generic(chip, prefix);
+        return status;
     });
 }
 
-// Takes `id` out of a table whose entries count their users; BCM_E_BUSY while there are any.
-template <class Table, class Id>
-int erase_unused(const char *function, int unit, Table table, Id id) {
-    return on_switch(function, unit, [&](Switch &chip) {
-        const auto *const one = find_in(table(chip), id);
-        if (one == nullptr) return BCM_E_NOT_FOUND;
-        if (one->users > 0) return BCM_E_BUSY;
-        table(chip).erase(id);
-        return BCM_E_NONE;
-    });
+// Takes an object out of its table; BCM_E_BUSY while it is held.
+template <class Map>
+int erase_object(Switch &chip, Map &map, ObjectKind kind, typename Map::key_type id) {
+    const auto *const one = find_in(map, id);
+    if (one == nullptr) return missing(id);
+    const int status = retire(chip, object(kind, id), *one);
+    if (status == BCM_E_NONE) map.erase(id);
+    return status;
+}
+
+// Takes all objects out of a table but `kept`; none while one of the others is held.
+template <class Map>
+int erase_objects(Switch &chip, Map &map, ObjectKind kind,
+                  std::optional<typename Map::key_type> kept = {}) {
+    for (const auto &[id, one] : map) {
+        if (kept == id) continue;
+        const int status = chip.references.check_unused(object(kind, id));
+        if (status != BCM_E_NONE) return status;
+    }
+    for (auto at = map.begin(); at != map.end();) {
+        const auto id = at++->first;
+        if (kept != id) erase_object(chip, map, kind, id);
+    }
+    return BCM_E_NONE;
 }
 
 // What a call answers whose callback is null, after the unit.

@@ -7,9 +7,14 @@ namespace standin {
 
 Vlans::Vlans() {
     stgs[kFirstStg].state.fill(BCM_STG_STP_FORWARD);
-    Vlan &first = vlans[kFirstVlan];
+    vlans[kFirstVlan] = first_vlan();
+}
+
+Vlan Vlans::first_vlan() {
+    Vlan first;
     first.members = kAllPorts;
     first.untagged = kAllPorts;
+    return first;
 }
 
 Vlan *Vlans::find(bcm_vlan_t vid) {
@@ -22,19 +27,16 @@ Stg *Vlans::find_stg(bcm_stg_t stg) {
     return found == stgs.end() ? nullptr : &found->second;
 }
 
-bcm_stg_t Vlans::free_stg() const {
-    for (bcm_stg_t stg = kFirstStg; stg <= kLastStg; ++stg)
-        if (!stgs.contains(stg)) return stg;
-    return -1;
-}
-
 namespace {
 
 // Where a group keeps the state of a port; null with a status.
 int *stp_cell(Vlans &vlans, bcm_stg_t stg, bcm_port_t port, int &status) {
     Stg *const group = vlans.find_stg(stg);
     const int number = local_port(port);
-    status = group == nullptr ? BCM_E_NOT_FOUND : number < 0 ? BCM_E_PORT : BCM_E_NONE;
+    status = number < 0         ? refused_port("port", port)
+             : group == nullptr ? refused(BCM_E_NOT_FOUND,
+                                          "there is no spanning tree group " + std::to_string(stg))
+                                : BCM_E_NONE;
     return status == BCM_E_NONE ? &group->state[static_cast<std::size_t>(number)] : nullptr;
 }
 

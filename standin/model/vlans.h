@@ -38,10 +38,10 @@ struct Stg {
 struct Vlans {
     Vlans();
 
+    static Vlan first_vlan();
+
     Vlan *find(bcm_vlan_t vid);
     Stg *find_stg(bcm_stg_t stg);
-    // An unused group number, or -1.
-    bcm_stg_t free_stg() const;
 
     std::map<bcm_vlan_t, Vlan> vlans;
     bcm_vlan_t default_vlan = kFirstVlan;

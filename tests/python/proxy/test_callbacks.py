@@ -19,6 +19,8 @@ class CallbackTest(unittest.TestCase):
 
     def setUp(self):
         self.unit = started_unit()
+        for vid in xrange(2, 5):
+            sdk.check(sdk.bcm_vlan_create(self.unit, vid))
         self.errors = sys.stderr = StringIO()
         self.addCleanup(setattr, sys, 'stderr', sys.__stderr__)
 

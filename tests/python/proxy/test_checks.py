@@ -203,6 +203,7 @@ class AidTest(unittest.TestCase):
 
     def test_callbacks_are_registered_for_a_block(self):
         unit = started_unit()
+        sdk.check(sdk.bcm_vlan_create(unit, 4))
         heard = []
         with sdk.registered(sdk.bcm_l2_addr_register,
                             sdk.bcm_l2_addr_unregister, unit,

@@ -6,11 +6,24 @@
 #include "chip_fixture.h"
 #include "sdk/bcm/l2.h"
 #include "sdk/bcm/port.h"
+#include "sdk/bcm/stg.h"
+#include "sdk/bcm/trunk.h"
+#include "sdk/bcm/vlan.h"
 #include "standin/chapters/l2_select.h"
 #include "standin/model/l2_chapter.h"
 
 namespace standin {
 namespace {
+
+// With the VLANs and trunks that the cases name.
+struct MacTable : Chip {
+    void SetUp() override {
+        Chip::SetUp();
+        for (const bcm_vlan_t vid : std::vector<bcm_vlan_t>{10, 20, 30}) ASSERT_EQ(bcm_vlan_create(0, vid), BCM_E_NONE);
+        for (bcm_trunk_t tid : {5, 7, 9})
+            ASSERT_EQ(bcm_trunk_create(0, BCM_TRUNK_FLAG_WITH_ID, &tid), BCM_E_NONE);
+    }
+};
 
 bcm_l2_addr_t entry(std::uint32_t mac, bcm_vlan_t vid, int port, std::uint32_t flags = 0) {
     bcm_l2_addr_t made;
@@ -40,7 +53,7 @@ std::vector<int> walked() {
     return macs;
 }
 
-TEST_F(Chip, EntriesReadBackInOneForm) {
+TEST_F(MacTable, EntriesReadBackInOneForm) {
     struct {
         int port;
         std::uint32_t flags;
@@ -76,7 +89,7 @@ TEST_F(Chip, EntriesReadBackInOneForm) {
     EXPECT_EQ(bcm_l2_addr_delete(0, nullptr, 10), BCM_E_PARAM);
 }
 
-TEST_F(Chip, WalkGoesInTheOrderOfInsertion) {
+TEST_F(MacTable, WalkGoesInTheOrderOfInsertion) {
     for (const std::uint32_t mac : {5u, 3u, 9u, 1u}) ASSERT_EQ(add(mac, 10, 1), BCM_E_NONE);
     ASSERT_EQ(add(3, 10, 2), BCM_E_NONE);  // moves, and keeps its place
     EXPECT_EQ(walked(), (std::vector<int>{5, 3, 9, 1}));
@@ -87,7 +100,7 @@ TEST_F(Chip, WalkGoesInTheOrderOfInsertion) {
     EXPECT_EQ(bcm_l2_traverse(1, nullptr, nullptr), BCM_E_UNIT);
 }
 
-TEST_F(Chip, WalkSurvivesWhatItsCallbackDoes) {
+TEST_F(MacTable, WalkSurvivesWhatItsCallbackDoes) {
     for (std::uint32_t mac = 0; mac < 1000; ++mac) ASSERT_EQ(add(mac, 10, 1), BCM_E_NONE);
     int seen = 0;
     const auto visit = [](int unit, bcm_l2_addr_t *info, void *count) {
@@ -108,7 +121,7 @@ TEST_F(Chip, WalkSurvivesWhatItsCallbackDoes) {
     EXPECT_EQ(bcm_l2_traverse(0, stop, nullptr), BCM_E_FAIL);
 }
 
-TEST_F(Chip, TableIsFullAtItsCapacity) {
+TEST_F(MacTable, TableIsFullAtItsCapacity) {
     for (std::uint32_t mac = 0; mac < kL2Capacity; ++mac) ASSERT_EQ(add(mac, 10, 1), BCM_E_NONE);
     EXPECT_EQ(add(kL2Capacity, 10, 1), BCM_E_FULL);
     EXPECT_EQ(add(7, 10, 2), BCM_E_NONE) << "one that is there can move";
@@ -118,7 +131,7 @@ TEST_F(Chip, TableIsFullAtItsCapacity) {
 }
 
 // Entries that come and go take each other's places; look-up and order follow a model.
-TEST_F(Chip, TableFollowsAModelAsEntriesComeAndGo) {
+TEST_F(MacTable, TableFollowsAModelAsEntriesComeAndGo) {
     std::vector<int> model;
     std::uint32_t random = 1;
     for (int step = 0; step < 6000; ++step) {
@@ -126,18 +139,18 @@ TEST_F(Chip, TableFollowsAModelAsEntriesComeAndGo) {
         const int mac = static_cast<int>(random >> 16 & 0x1FF);
         const auto found = std::find(model.begin(), model.end(), mac);
         if (found != model.end()) {
-            EXPECT_EQ(bcm_l2_addr_delete(0, Mac(static_cast<std::uint32_t>(mac)).data(), 5), 0);
+            EXPECT_EQ(bcm_l2_addr_delete(0, Mac(static_cast<std::uint32_t>(mac)).data(), 10), 0);
             model.erase(found);
         } else {
-            EXPECT_EQ(add(static_cast<std::uint32_t>(mac), 5, 1), 0);
+            EXPECT_EQ(add(static_cast<std::uint32_t>(mac), 10, 1), 0);
             model.push_back(mac);
         }
-        ASSERT_EQ(has(static_cast<std::uint32_t>(mac), 5), !model.empty() && model.back() == mac);
+        ASSERT_EQ(has(static_cast<std::uint32_t>(mac), 10), !model.empty() && model.back() == mac);
         ASSERT_TRUE(step % 100 != 0 || walked() == model);
     }
 }
 
-TEST_F(Chip, BulkDeletesTakeWhatTheyName) {
+TEST_F(MacTable, BulkDeletesTakeWhatTheyName) {
     struct Case {
         const char *name;
         std::function<int()> call;
@@ -184,7 +197,7 @@ TEST_F(Chip, BulkDeletesTakeWhatTheyName) {
     }
 }
 
-TEST_F(Chip, ReplaceMovesWhatMatches) {
+TEST_F(MacTable, ReplaceMovesWhatMatches) {
     add(1, 10, 1);
     add(2, 20, 1);
     add(3, 10, 1, kL2Static);
@@ -203,7 +216,7 @@ TEST_F(Chip, ReplaceMovesWhatMatches) {
     EXPECT_EQ(found.tgid, 5);
 }
 
-TEST_F(Chip, LearningObeysPortFreezeStaticAndLimit) {
+TEST_F(MacTable, LearningObeysPortFreezeStaticAndLimit) {
     EXPECT_EQ(standin_l2_learn(0, Mac(1).data(), 10, 3), BCM_E_NONE);
     EXPECT_EQ(add(2, 10, 3, kL2Static), BCM_E_NONE);
     EXPECT_EQ(standin_l2_learn(0, Mac(2).data(), 10, 4), BCM_E_DISABLED);
@@ -244,7 +257,46 @@ TEST_F(Chip, LearningObeysPortFreezeStaticAndLimit) {
     EXPECT_EQ(bcm_l2_learn_limit_set(0, &limit), BCM_E_PARAM);
 }
 
-TEST_F(Chip, AgeingTakesWhatWasNotHeard) {
+TEST_F(MacTable, LearningFollowsTheStateOfPortAndVlan) {
+    bcm_trunk_gport_add(0, 7, 9);
+    EXPECT_EQ(standin_l2_learn(0, Mac(1).data(), 10, 9), BCM_E_NONE);
+    bcm_l2_addr_t found{};
+    ASSERT_EQ(bcm_l2_addr_get(0, Mac(1).data(), 10, &found), BCM_E_NONE);
+    EXPECT_EQ(found.flags & kL2Trunk, kL2Trunk) << "what a member hears is the trunk's";
+    EXPECT_EQ(found.tgid, 7);
+    EXPECT_EQ(standin_l2_learn(0, Mac(2).data(), 11, 3), BCM_E_NOT_FOUND) << "no such VLAN";
+
+    struct {
+        const char *name;
+        std::function<int(int)> set;
+        int stops;
+        int allows;
+    } const causes[] = {
+        {"disabled", [](int on) { return bcm_port_enable_set(0, 3, on); }, 0, 1},
+        {"discards all", [](int mode) { return bcm_port_discard_set(0, 3, mode); },
+         BCM_PORT_DISCARD_ALL, BCM_PORT_DISCARD_UNTAG},
+        {"discards tagged", [](int mode) { return bcm_port_discard_set(0, 3, mode); },
+         BCM_PORT_DISCARD_TAG, BCM_PORT_DISCARD_NONE},
+        {"blocked", [](int state) { return bcm_port_stp_set(0, 3, state); }, BCM_STG_STP_BLOCK,
+         BCM_STG_STP_LEARN},
+        {"filters", [](int on) { return bcm_port_ifilter_set(0, 3, on); }, 1, 0},
+    };
+    std::uint32_t mac = 10;
+    for (const auto &cause : causes) {
+        SCOPED_TRACE(cause.name);
+        ++mac;
+        ASSERT_EQ(cause.set(cause.stops), BCM_E_NONE);
+        EXPECT_EQ(standin_l2_learn(0, Mac(mac).data(), 10, 3), BCM_E_DISABLED);
+        EXPECT_FALSE(has(mac, 10));
+        ASSERT_EQ(cause.set(cause.allows), BCM_E_NONE);
+        EXPECT_EQ(standin_l2_learn(0, Mac(mac).data(), 10, 3), BCM_E_NONE);
+    }
+    bcm_port_ifilter_set(0, 3, 1);
+    bcm_vlan_port_add(0, 10, ports({3}), {});
+    EXPECT_EQ(standin_l2_learn(0, Mac(99).data(), 10, 3), BCM_E_NONE) << "a member";
+}
+
+TEST_F(MacTable, AgeingTakesWhatWasNotHeard) {
     bcm_l2_age_timer_set(0, 300);
     standin_l2_learn(0, Mac(1).data(), 10, 1);
     standin_l2_learn(0, Mac(2).data(), 10, 1);
@@ -260,7 +312,7 @@ TEST_F(Chip, AgeingTakesWhatWasNotHeard) {
     EXPECT_TRUE(has(2, 10)) << "0 means never";
 }
 
-TEST_F(Chip, NativeThreadsMayCallAtOnce) {
+TEST_F(MacTable, NativeThreadsMayCallAtOnce) {
     std::vector<std::thread> threads;
     for (std::uint32_t part = 0; part < 4; ++part) {
         threads.emplace_back([part] {
@@ -285,7 +337,7 @@ void watch(int unit, bcm_l2_addr_t *info, int operation, void *user_data) {
     bcm_l2_addr_get(unit, info->mac, info->vid, &again);
 }
 
-TEST_F(Chip, WatchersHearEveryChange) {
+TEST_F(MacTable, WatchersHearEveryChange) {
     Seen seen;
     EXPECT_EQ(bcm_l2_addr_register(0, watch, &seen), BCM_E_NONE);
     EXPECT_EQ(bcm_l2_addr_register(0, watch, &seen), BCM_E_EXISTS);

@@ -5,6 +5,7 @@
 #include "chip_fixture.h"
 #include "sdk/bcm/ip.h"
 #include "sdk/bcm/l3.h"
+#include "sdk/bcm/vlan.h"
 #include "standin/model/l3.h"
 #include "standin/model/tables.h"
 
@@ -15,6 +16,7 @@ namespace {
 struct Routing : Chip {
     void SetUp() override {
         Chip::SetUp();
+        ASSERT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
         intf.l3a_vid = 10;
         ASSERT_EQ(bcm_l3_intf_create(0, &intf), BCM_E_NONE);
         bcm_l3_egress_t made{};

@@ -2,6 +2,7 @@
 #include "chip_fixture.h"
 #include "sdk/bcm/port.h"
 #include "sdk/bcm/stg.h"
+#include "sdk/bcm/trunk.h"
 #include "sdk/bcm/vlan.h"
 #include "standin/model/tables.h"
 
@@ -141,6 +142,9 @@ TEST_F(Chip, VlanListsAreLoans) {
 TEST_F(Chip, VlanGportsOfEachKind) {
     bcm_vlan_create(0, 10);
     EXPECT_EQ(bcm_vlan_gport_add(0, 10, kLocalGport.of(4), 1), BCM_E_NONE);
+    EXPECT_EQ(bcm_vlan_gport_add(0, 10, kTrunkGport.of(2), 0), BCM_E_NOT_FOUND);
+    bcm_trunk_t tid = 2;
+    ASSERT_EQ(bcm_trunk_create(0, BCM_TRUNK_FLAG_WITH_ID, &tid), BCM_E_NONE);
     EXPECT_EQ(bcm_vlan_gport_add(0, 10, kTrunkGport.of(2), 0), BCM_E_NONE);
     EXPECT_EQ(bcm_vlan_gport_add(0, 10, 70, 0), BCM_E_PORT);
     bcm_pbmp_t members{}, untagged{};

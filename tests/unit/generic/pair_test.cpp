@@ -59,6 +59,8 @@ TEST_F(Pair, InitOfAChapterForgetsThatChapterOnly) {
     ASSERT_EQ(bcm_fabric_control_set(0, bcm_fabric_control_t{3}, 60), BCM_E_NONE);
     ASSERT_EQ(bcm_cosq_detach(0), BCM_E_NONE);
     int arg = 1;
+    EXPECT_EQ(bcm_cosq_control_get(0, 1, 2, Control{3}, &arg), BCM_E_INIT);
+    ASSERT_EQ(bcm_cosq_init(0), BCM_E_NONE);
     EXPECT_EQ(bcm_cosq_control_get(0, 1, 2, Control{3}, &arg), BCM_E_NONE);
     EXPECT_EQ(arg, 0);
     EXPECT_EQ(bcm_fabric_control_get(0, bcm_fabric_control_t{3}, &arg), BCM_E_NONE);
