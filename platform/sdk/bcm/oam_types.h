@@ -373,7 +373,10 @@ typedef struct bcm_oam_pm_stats_s {
     uint32 DM_avg;
     uint32 dm_tx_count;
     uint8 profile_id;
-    uint32 bin_counters[7 + 1];
+    /* Messages and docstrings show the bound as it stands here. */
+    // clang-format off
+    uint32 bin_counters[7+1];
+    // clang-format on
     uint32 lm_rx_count;
     uint32 dm_rx_count;
     uint32 far_total_tx_pkt_count;
