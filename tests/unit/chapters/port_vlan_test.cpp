@@ -1,5 +1,6 @@
 // Ports, VLANs and spanning tree groups.
 #include "chip_fixture.h"
+#include "sdk/bcm/linkscan.h"
 #include "sdk/bcm/port.h"
 #include "sdk/bcm/stg.h"
 #include "sdk/bcm/trunk.h"
@@ -95,6 +96,22 @@ TEST_F(Chip, PortInfoIsTakenAsAWhole) {
     bcm_port_speed_get(0, 5, &speed);
     EXPECT_EQ(speed, 25'000);
     EXPECT_EQ(bcm_port_info_set(0, 5, nullptr), BCM_E_PARAM);
+}
+
+TEST_F(Chip, LinkscanHasOneModeInThreeForms) {
+    int mode = -1;
+    EXPECT_EQ(bcm_linkscan_mode_set_pbm(0, ports({3, 4}), BCM_LINKSCAN_MODE_HW), BCM_E_NONE);
+    EXPECT_EQ(bcm_port_linkscan_get(0, 4, &mode), BCM_E_NONE);
+    EXPECT_EQ(mode, BCM_LINKSCAN_MODE_HW);
+    EXPECT_EQ(bcm_port_linkscan_set(0, 4, BCM_LINKSCAN_MODE_SW), BCM_E_NONE);
+    EXPECT_EQ(bcm_linkscan_mode_get(0, 4, &mode), BCM_E_NONE);
+    EXPECT_EQ(mode, BCM_LINKSCAN_MODE_SW);
+    EXPECT_EQ(bcm_linkscan_mode_set(0, 4, BCM_LINKSCAN_MODE_NONE), BCM_E_NONE);
+    EXPECT_EQ(bcm_port_linkscan_get(0, 4, &mode), BCM_E_NONE);
+    EXPECT_EQ(mode, BCM_LINKSCAN_MODE_NONE);
+    EXPECT_EQ(bcm_linkscan_mode_set_pbm(0, ports({3, 70}), 1), BCM_E_PORT);
+    EXPECT_EQ(bcm_linkscan_mode_get(0, 3, &mode), BCM_E_NONE);
+    EXPECT_EQ(mode, BCM_LINKSCAN_MODE_HW) << "refused whole";
 }
 
 TEST_F(Chip, VlanLifeAndMembers) {
