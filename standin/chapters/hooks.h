@@ -17,11 +17,12 @@ void standin_reset(void);
 // BCM_E_FULL: the table, or BCM_E_RESOURCE: a learn limit, is reached.
 int standin_l2_learn(int unit, bcm_mac_t mac, bcm_vlan_t vid, int port);
 
-// `seconds` pass for the MAC table: dynamic entries that were not heard for the age time go.
-int standin_l2_age(int unit, int seconds);
+// `microseconds` pass for the unit: MAC addresses age, links are scanned, heartbeats beat. Whoever
+// is to hear of it does so before the call returns.
+int standin_time_pass(int unit, unsigned long long microseconds);
 
 // The far end of the link of `port` comes (1) or goes (0); it is there at the start.
-int standin_port_peer_set(int unit, int port, int present);
+int standin_link_set(int unit, int port, int present);
 
 // `packets` of `bytes` in all pass `port`: inwards for `outwards` 0, else outwards.
 int standin_port_traffic(int unit, int port, int outwards, unsigned packets,

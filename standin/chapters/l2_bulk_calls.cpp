@@ -15,7 +15,7 @@ using Wanted = std::function<int(Switch &)>;
 template <class Pick>
 int delete_picked(const char *function, int unit, std::uint32_t flags, Pick &&pick,
                   const Wanted &check = {}) {
-    return on_watched_switch(function, unit, [&](Switch &chip) {
+    return on_switch(function, unit, [&](Switch &chip) {
         if (check)
             if (const int status = check(chip); status != BCM_E_NONE) return status;
         erase_rows(chip, kL2Deleted, [&](const L2Row &row) {
@@ -86,11 +86,11 @@ int replace_matches(Switch &chip, L2Match match, bcm_l2_addr_t target) {
         if (!match(row->entry)) continue;
         bcm_l2_addr_t moved = row->entry;
         point_at(moved, target);
-        chip.l2.note(row->entry, kL2Deleted);
+        note_l2(chip.events, row->entry, kL2Deleted);
         chip.references.unlink(mac_object(moved), names_of(row->entry));
         chip.references.link(mac_object(moved), names_of(moved));
         chip.l2.table.put(moved, kL2Capacity);
-        chip.l2.note(moved, kL2Added);
+        note_l2(chip.events, moved, kL2Added);
     }
     return BCM_E_NONE;
 }
@@ -185,7 +185,7 @@ int bcm_l2_conflict_get(int unit, bcm_l2_addr_t *addr, bcm_l2_addr_t *, int cf_m
 
 int bcm_l2_replace(int unit, uint32 flags, bcm_l2_addr_t *match_addr, bcm_module_t new_module,
                    bcm_port_t new_port, bcm_trunk_t new_trunk) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         return match_addr == nullptr
                    ? BCM_E_PARAM
                    : replace_matches(chip, {flags, *match_addr, full_l2_mask()},
@@ -207,7 +207,7 @@ int bcm_l2_match_masked_traverse(int unit, uint32 flags, bcm_l2_addr_t *match_ad
 int bcm_l2_replace_match(int unit, uint32 flags, bcm_l2_addr_t *match_addr,
                          bcm_l2_addr_t *mask_addr, bcm_l2_addr_t *replace_addr,
                          bcm_l2_addr_t *replace_mask_addr) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         if (match_addr == nullptr || replace_addr == nullptr) return BCM_E_PARAM;
         // Only the destination can be replaced: address and VLAN are the key of a row.
         if (replace_mask_addr != nullptr &&

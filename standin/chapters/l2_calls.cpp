@@ -30,7 +30,7 @@ int put_entry(Switch &chip, bcm_l2_addr_t entry, int event) {
     chip.references.unlink(self, before);
     chip.references.link(self, names);
     row->heard = l2.clock;
-    l2.note(entry, event);
+    note_l2(chip.events, entry, event);
     return BCM_E_NONE;
 }
 
@@ -169,7 +169,7 @@ void bcm_l2_addr_t_init(bcm_l2_addr_t *l2addr, bcm_mac_t mac_addr, bcm_vlan_t vi
 }
 
 int bcm_l2_init(int unit) {
-    return on_watched_switch(__func__, unit, [](Switch &chip) {
+    return on_switch(__func__, unit, [](Switch &chip) {
         L2Chapter &l2 = chip.l2;
         clear_all(chip);
         clear_limits(chip);
@@ -181,23 +181,18 @@ int bcm_l2_init(int unit) {
     });
 }
 
-int bcm_l2_clear(int unit) { return on_watched_switch(__func__, unit, clear_all); }
+int bcm_l2_clear(int unit) { return on_switch(__func__, unit, clear_all); }
 
-int bcm_l2_detach(int unit) {
-    return on_watched_switch(__func__, unit, [](Switch &chip) {
-        chip.l2.watchers.clear();
-        return clear_all(chip);
-    });
-}
+int bcm_l2_detach(int unit) { return on_switch(__func__, unit, clear_all); }
 
 int bcm_l2_addr_add(int unit, bcm_l2_addr_t *l2addr) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         return l2addr == nullptr ? BCM_E_PARAM : put_entry(chip, *l2addr, kL2Added);
     });
 }
 
 int bcm_l2_addr_multi_add(int unit, bcm_l2_addr_t *addr, int count) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         return for_each_given(addr, count, [&](const bcm_l2_addr_t &entry) {
             return put_entry(chip, entry, kL2Added);
         });
@@ -205,13 +200,13 @@ int bcm_l2_addr_multi_add(int unit, bcm_l2_addr_t *addr, int count) {
 }
 
 int bcm_l2_addr_delete(int unit, bcm_mac_t mac, bcm_vlan_t vid) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         return mac == nullptr ? BCM_E_PARAM : delete_entry(chip, mac, vid);
     });
 }
 
 int bcm_l2_addr_multi_delete(int unit, bcm_l2_addr_t *addr, int count) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         return for_each_given(addr, count, [&](const bcm_l2_addr_t &entry) {
             return delete_entry(chip, entry.mac, entry.vid);
         });
@@ -260,19 +255,14 @@ int bcm_l2_age_timer_get(int unit, int *age_seconds) {
 }
 
 int bcm_l2_addr_register(int unit, bcm_l2_addr_callback_t callback, void *userdata) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
-        if (callback == nullptr) return BCM_E_PARAM;
-        const L2Watcher watcher{callback, userdata};
-        if (std::ranges::find(l2.watchers, watcher) != l2.watchers.end()) return BCM_E_EXISTS;
-        l2.watchers.push_back(watcher);
-        return BCM_E_NONE;
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        return chip.events.handlers.add(handler(Registration::kL2Address, callback, userdata));
     });
 }
 
 int bcm_l2_addr_unregister(int unit, bcm_l2_addr_callback_t callback, void *userdata) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
-        const auto count = std::erase(l2.watchers, L2Watcher{callback, userdata});
-        return count == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        return chip.events.handlers.remove(handler(Registration::kL2Address, callback, userdata));
     });
 }
 
@@ -318,22 +308,8 @@ int bcm_l2_learn_limit_disable(int unit) {
 }
 
 int standin_l2_learn(int unit, bcm_mac_t mac, bcm_vlan_t vid, int port) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         return mac == nullptr ? BCM_E_PARAM : learn(chip, mac, vid, port);
-    });
-}
-
-int standin_l2_age(int unit, int seconds) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
-        L2Chapter &l2 = chip.l2;
-        if (seconds < 0) return BCM_E_PARAM;
-        l2.clock += static_cast<std::uint64_t>(seconds);
-        if (l2.age_seconds == 0 || l2.freezes > 0) return BCM_E_NONE;
-        const auto limit = static_cast<std::uint64_t>(l2.age_seconds);
-        erase_rows(chip, kL2AgedOut, [&](const L2Row &row) {
-            return !row.is_static() && l2.clock - row.heard >= limit;
-        });
-        return BCM_E_NONE;
     });
 }
 

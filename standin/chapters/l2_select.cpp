@@ -70,22 +70,6 @@ int settle_destination(bcm_l2_addr_t &entry) {
     return within(entry.tgid, 0, kTrunkGport.mask) ? BCM_E_NONE : BCM_E_PARAM;
 }
 
-void tell_l2_watchers(int unit) {
-    std::vector<L2Chapter::Event> events;
-    std::vector<L2Watcher> watchers;
-    {
-        const std::lock_guard<std::mutex> guard(model_lock());
-        int status = BCM_E_NONE;
-        Switch *const chip = ready_switch(unit, status);
-        if (chip == nullptr) return;
-        events.swap(chip->l2.events);
-        watchers = chip->l2.watchers;
-    }
-    for (L2Chapter::Event &event : events)
-        for (const L2Watcher &watcher : watchers)
-            watcher.call(unit, &event.entry, event.operation, watcher.user_data);
-}
-
 int walk_l2(const char *function, int unit, const L2Match &match,
             const std::function<int(bcm_l2_addr_t &)> &visit) {
     if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;

@@ -38,7 +38,7 @@ int settle_destination(bcm_l2_addr_t &entry);
 // Takes a row out of the table and notes an event.
 inline void erase_row(Switch &chip, L2Row &row, int event) {
     chip.references.unlink(mac_object(row.entry), names_of(row.entry));
-    chip.l2.note(row.entry, event);
+    note_l2(chip.events, row.entry, event);
     chip.l2.table.erase(row);
 }
 
@@ -50,25 +50,9 @@ void erase_rows(Switch &chip, int event, Pick &&pick) {
         if (pick(*row)) erase_row(chip, *row, event);
 }
 
-// Calls the watchers for what has happened. REQUIRES: the lock is not held.
-void tell_l2_watchers(int unit);
-
-// on_switch for calls that change the MAC table: the watchers hear of it before the call returns.
-template <class Body>
-int on_watched_switch(const char *function, int unit, Body &&body) {
-    bool events = false;
-    const int status = on_switch(function, unit, [&](Switch &chip) {
-        const int answer = body(chip);
-        events = !chip.l2.events.empty();
-        return answer;
-    });
-    if (events) tell_l2_watchers(unit);
-    return status;
-}
-
 template <class Body>
 int on_l2(const char *function, int unit, Body &&body) {
-    return on_watched_switch(function, unit, [&](Switch &chip) { return body(chip.l2); });
+    return on_switch(function, unit, [&](Switch &chip) { return body(chip.l2); });
 }
 
 // Calls `visit` for a copy of each entry that `match` names, without the lock, so that it may

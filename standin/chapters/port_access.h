@@ -1,5 +1,6 @@
 // How the calls on one port are written: most read or write one field.
 #pragma once
+#include "standin/chapters/linkscan.h"
 #include "standin/model/model.h"
 #include "standin/model/switch.h"
 
@@ -10,7 +11,10 @@ template <class Body>
 int on_port(const char *function, int unit, int number, Body &&body) {
     return on_switch(function, unit, [&](Switch &chip) {
         Port *const port = chip.ports.find(number);
-        return port == nullptr ? refused_port("port", number) : body(*port);
+        if (port == nullptr) return refused_port("port", number);
+        const int status = body(*port);
+        note_link(chip, local_port(number));
+        return status;
     });
 }
 

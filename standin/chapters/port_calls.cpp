@@ -38,7 +38,6 @@ PORT_PAIR(bcm_port_l3_enable_set, bcm_port_l3_enable_get, l3_enable, 0, 1)
 PORT_PAIR(bcm_port_master_set, bcm_port_master_get, master, 0, kMost)
 PORT_PAIR(bcm_port_jam_set, bcm_port_jam_get, jam, 0, 1)
 PORT_PAIR(bcm_port_pfm_set, bcm_port_pfm_get, pfm, 0, 3)
-PORT_PAIR(bcm_port_linkscan_set, bcm_port_linkscan_get, linkscan, 0, BCM_LINKSCAN_MODE_COUNT - 1)
 PORT_PAIR(bcm_port_untagged_priority_set, bcm_port_untagged_priority_get, untagged_priority, -1, 7)
 #undef PORT_PAIR
 

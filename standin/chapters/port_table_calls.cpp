@@ -3,6 +3,7 @@
 
 #include "sdk/bcm/port.h"
 #include "standin/chapters/hooks.h"
+#include "standin/chapters/linkscan.h"
 #include "standin/chapters/port_access.h"
 #include "standin/model/tables.h"
 
@@ -15,7 +16,8 @@ bool good_settings(const bcm_port_info_t &info) {
            within(info.discard, 0, BCM_PORT_DISCARD_COUNT - 1) && info.vlanfilter <= 1 &&
            within(info.untagged_priority, -1, 7) && is_vlan(info.untagged_vlan) &&
            within(info.loopback, 0, BCM_PORT_LOOPBACK_COUNT - 1) && within(info.pause_tx, 0, 1) &&
-           within(info.pause_rx, 0, 1) && within(info.frame_max, kSmallestFrame, kLargestFrame);
+           within(info.pause_rx, 0, 1) && within(info.linkscan, 0, BCM_LINKSCAN_MODE_COUNT - 1) &&
+           within(info.frame_max, kSmallestFrame, kLargestFrame);
 }
 
 template <class T>
@@ -46,12 +48,31 @@ void each_setting(auto &info, auto &port, auto each) {
 
 int clear_ports(Switch &chip) {
     unlink_ports(chip);
-    chip.ports = Ports{};
+    Ports fresh;
+    for (int number = 0; number < kPorts; ++number)  // what the scanner has told stays told
+        fresh.find(number)->scanned_link = chip.ports.find(number)->scanned_link;
+    chip.ports = std::move(fresh);
     link_ports(chip);
     return BCM_E_NONE;
 }
 
 }  // namespace
+
+namespace standin {
+
+bcm_port_info_t port_info(Switch &chip, int number) {
+    const Port &port = *chip.ports.find(number);
+    const Stg &stg = chip.vlans.stgs.at(chip.vlans.default_stg);
+    bcm_port_info_t info{};
+    each_setting(info, port, [](auto &told, const auto &kept) { copy(told, kept); });
+    info.linkstatus = port.link();
+    info.speed_max = port.speed_max;
+    info.stp_state = stg.state[static_cast<std::size_t>(number)];
+    std::ranges::copy(port.pause_address, info.pause_mac);
+    return info;
+}
+
+}  // namespace standin
 
 extern "C" {
 
@@ -119,17 +140,9 @@ char *bcm_port_name(int unit, int port) {
 
 int bcm_port_info_get(int unit, bcm_port_t port, bcm_port_info_t *info) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        const Port *const one = chip.ports.find(port);
-        if (one == nullptr) return refused_port("port", port);
-        if (info == nullptr) return BCM_E_PARAM;
-        const Stg &stg = chip.vlans.stgs.at(chip.vlans.default_stg);
-        *info = bcm_port_info_t{};
-        each_setting(*info, *one, [](auto &told, const auto &kept) { copy(told, kept); });
-        info->linkstatus = one->link();
-        info->speed_max = one->speed_max;
-        info->stp_state = stg.state[static_cast<std::size_t>(local_port(port))];
-        std::ranges::copy(one->pause_address, info->pause_mac);
-        return BCM_E_NONE;
+        const int number = local_port(port);
+        if (number < 0) return refused_port("port", port);
+        return info == nullptr ? BCM_E_PARAM : give(info, port_info(chip, number));
     });
 }
 
@@ -140,15 +153,18 @@ int bcm_port_info_set(int unit, bcm_port_t port, bcm_port_info_t *info) {
         if (one == nullptr) return refused_port("port", port);
         if (info == nullptr || !good_settings(*info)) return BCM_E_PARAM;
         if (!can_run_at(*one, info->speed)) return BCM_E_CONFIG;
-        return change(chip, object(ObjectKind::kPort, local_port(port)), *one, [&](Port &made) {
+        const Object self = object(ObjectKind::kPort, local_port(port));
+        const int status = change(chip, self, *one, [&](Port &made) {
             each_setting(*info, made, [](const auto &told, auto &kept) { copy(kept, told); });
             std::copy_n(info->pause_mac, made.pause_address.size(), made.pause_address.begin());
             return BCM_E_NONE;
         });
+        if (status == BCM_E_NONE) scan_link(chip, local_port(port), ScanCause::kChange);
+        return status;
     });
 }
 
-int standin_port_peer_set(int unit, int port, int present) {
+int standin_link_set(int unit, int port, int present) {
     return on_port(__func__, unit, port, [&](Port &one) {
         const int before = one.link();
         one.peer = present != 0;

@@ -37,7 +37,7 @@ int on_ready(const char *function, int unit, Body &&body) {
 int reset_chip(Device &device, ChipStage stage) {
     if (!device.mapped) return BCM_E_INIT;
     if (device.in_use()) return BCM_E_BUSY;
-    device.chip = std::make_unique<Switch>();
+    device.renew_chip();
     device.stage = stage;
     return BCM_E_NONE;
 }
@@ -113,7 +113,7 @@ int system_shutdown(int unit, int cleanup) {
         if (!device.system_up) return BCM_E_INIT;
         if (device.application_up) return BCM_E_BUSY;
         device.system_up = false;
-        if (cleanup != 0) device.chip = std::make_unique<Switch>();
+        if (cleanup != 0) device.renew_chip();
         return BCM_E_NONE;
     });
 }
@@ -177,7 +177,7 @@ int bcm_init_check(int unit) {
 
 int bcm_clear(int unit) {
     return on_ready(__func__, unit, [](Device &device) {
-        device.chip = std::make_unique<Switch>();
+        device.renew_chip();
         return BCM_E_NONE;
     });
 }

@@ -96,7 +96,7 @@ int destroy_trunk(Switch &chip, bcm_trunk_t tid) {
 }
 
 int clear_trunks(const char *function, int unit) {
-    return on_watched_switch(function, unit, [](Switch &chip) {
+    return on_switch(function, unit, [](Switch &chip) {
         const int status = erase_objects(chip, trunks_of(chip), ObjectKind::kTrunk);
         if (status != BCM_E_NONE) return status;
         chip.groups.trunk_of.clear();
@@ -157,8 +157,7 @@ int bcm_trunk_create(int unit, uint32 flags, bcm_trunk_t *tid) {
 
 // MAC addresses and memberships of the trunk go along.
 int bcm_trunk_destroy(int unit, bcm_trunk_t tid) {
-    return on_watched_switch(__func__, unit,
-                             [&](Switch &chip) { return destroy_trunk(chip, tid); });
+    return on_switch(__func__, unit, [&](Switch &chip) { return destroy_trunk(chip, tid); });
 }
 
 int bcm_trunk_set(int unit, bcm_trunk_t tid, bcm_trunk_info_t *trunk_info, int member_count,

@@ -75,7 +75,7 @@ std::vector<std::pair<bcm_gport_t, int>> members_of(const Vlan &vlan) {
 extern "C" {
 
 int bcm_vlan_init(int unit) {
-    return on_watched_switch(__func__, unit, [](Switch &chip) {
+    return on_switch(__func__, unit, [](Switch &chip) {
         const int status = clear_vlans(chip);
         if (status == BCM_E_NONE) forget_generic(chip, "bcm_vlan_");
         return status;
@@ -96,7 +96,7 @@ int bcm_vlan_create(int unit, bcm_vlan_t vid) {
 
 // MAC addresses in it go along; ports whose own VLAN it was go to the default one.
 int bcm_vlan_destroy(int unit, bcm_vlan_t vid) {
-    return on_watched_switch(__func__, unit, [&](Switch &chip) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         Vlans &all = chip.vlans;
         if (!is_vlan(vid)) return bad_vlan(vid);
         if (vid == all.default_vlan)
@@ -107,7 +107,7 @@ int bcm_vlan_destroy(int unit, bcm_vlan_t vid) {
 
 // All but the default VLAN.
 int bcm_vlan_destroy_all(int unit) {
-    return on_watched_switch(__func__, unit, [](Switch &chip) {
+    return on_switch(__func__, unit, [](Switch &chip) {
         Vlans &all = chip.vlans;
         return erase_objects(chip, all.vlans, ObjectKind::kVlan, all.default_vlan);
     });

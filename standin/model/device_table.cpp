@@ -10,6 +10,8 @@ int DeviceTable::add(const PciAddress &address, ChipKind kind, bool fake, bool m
     if (size() == kMaxUnits) return BCM_E_FULL;
     const int unit = size();
     auto device = std::make_unique<Device>();
+    device->unit = unit;
+    device->chip->unit = unit;
     device->address = address;
     device->mapped_at = address;
     device->kind = kind;
@@ -42,6 +44,18 @@ int DeviceTable::rewire(int unit, const PciAddress &address, bool remap) {
         device->mapped_at = address;
     }
     return BCM_E_NONE;
+}
+
+void Device::renew_chip() {
+    chip = std::make_unique<Switch>();
+    chip->unit = unit;
+}
+
+bool interrupts_reach(int unit) {
+    const Device *const device = device_table().find(unit);
+    const Platform &all = platform();
+    return device != nullptr && all.interrupts_connected &&
+           !all.masked_buses.contains(device->address.bus);
 }
 
 DeviceTable &device_table() {

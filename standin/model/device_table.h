@@ -42,6 +42,7 @@ struct Device {
     ChipKind kind = ChipKind::kSwitch;
     bool fake = false;  // no hardware behind it; it maps and starts like any other
     bool mapped = false;
+    int unit = -1;
     PciAddress mapped_at;  // where the mapping points, which a rewire may leave behind
     ChipStage stage = ChipStage::kAttached;
     bool system_up = false;
@@ -51,10 +52,14 @@ struct Device {
     bool diag_queueing_up = false;
     std::unique_ptr<Switch> chip = std::make_unique<Switch>();
     ControlRecord control;
-    Slots layers;  // what stays when the chip is reset
+    Slots layers;          // what stays when the chip is reset
+    Events attach_events;  // of the unit itself, which do the same
 
     // A layer stands on the chip, which therefore may neither be reset nor go away.
     bool in_use() const { return system_up || application_up; }
+
+    // Gives the chip its state of the first day.
+    void renew_chip();
 };
 
 // What `<thing>Is` calls and the rest of the platform start leave behind.
@@ -91,8 +96,10 @@ class DeviceTable {
     std::vector<std::unique_ptr<Device>> devices_;
 };
 
-// REQUIRES: the model's lock is held.
+// REQUIRES, of all: the model's lock is held.
 DeviceTable &device_table();
 Platform &platform();
+// Whether an interrupt of the unit reaches us: those of its bus may be masked, or all cut.
+bool interrupts_reach(int unit);
 
 }  // namespace standin

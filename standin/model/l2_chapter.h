@@ -1,23 +1,16 @@
-// What the MAC chapter keeps besides the table: timers, limits, watchers.
+// What the MAC chapter keeps besides the table: timers and limits.
 #pragma once
 #include <cstdint>
 #include <map>
-#include <vector>
 
 #include "sdk/bcm/l2_types.h"
+#include "standin/model/events.h"
 #include "standin/model/l2_table.h"
 
 namespace standin {
 
 // What a watcher's `operation` says.
 enum L2Event : int { kL2Added = 1, kL2Deleted = 2, kL2Learned = 3, kL2AgedOut = 4 };
-
-struct L2Watcher {
-    bcm_l2_addr_callback_t call = nullptr;
-    void *user_data = nullptr;
-
-    bool operator==(const L2Watcher &) const = default;
-};
 
 // What a learn limit counts: `scope` is one bit of its flags, `number` the VLAN, port or trunk.
 constexpr std::uint32_t kLimitSystem = 0x1;
@@ -39,18 +32,15 @@ struct L2Chapter {
     int freezes = 0;
     bool limits_enabled = true;
     std::map<L2Scope, int> limits;
-    std::vector<L2Watcher> watchers;
-
-    // Events that wait until the lock is free, in their order; kept only if somebody watches.
-    struct Event {
-        bcm_l2_addr_t entry;
-        int operation;
-    };
-    std::vector<Event> events;
-
-    void note(const bcm_l2_addr_t &entry, int operation) {
-        if (!watchers.empty()) events.push_back({entry, operation});
-    }
 };
+
+// Tells the watchers of the table.
+inline void note_l2(Events &events, const bcm_l2_addr_t &entry, int operation) {
+    if (!events.handlers.any(Registration::kL2Address)) return;
+    events.raise(Registration::kL2Address, [entry, operation](int unit, const Handler &one) {
+        bcm_l2_addr_t told = entry;
+        one.as<bcm_l2_addr_callback_t>()(unit, &told, operation, one.user);
+    });
+}
 
 }  // namespace standin

@@ -1,4 +1,4 @@
-// The road of every modelled call: fault, lock, unit, body.
+// The road of every modelled call: fault, lock, unit, body, events.
 #pragma once
 #include <mutex>
 #include <new>
@@ -6,6 +6,7 @@
 
 #include "sdk/constants.h"
 #include "standin/base/faults.h"
+#include "standin/model/events.h"
 #include "standin/model/refusal.h"
 
 namespace standin {
@@ -27,7 +28,7 @@ int unit_status(int unit);
 template <class Body>
 int on_switch(const char *function, int unit, Body &&body) {
     if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;
-    const std::lock_guard<std::mutex> guard(model_lock());
+    std::unique_lock<std::mutex> guard(model_lock());
     const CallRecord record(function, unit);
     int status = BCM_E_NONE;
     Switch *const chip = ready_switch(unit, status);
@@ -39,7 +40,9 @@ int on_switch(const char *function, int unit, Body &&body) {
     } catch (const std::bad_alloc &) {
         status = BCM_E_MEMORY;
     }
-    return record.close(status);
+    status = record.close(status);
+    tell_events(unit, events_of(*chip), guard);
+    return status;
 }
 
 // Writes `value` for the caller, who may have passed null.

@@ -89,7 +89,7 @@ void fall(Switch &chip, const Object &user) {
     if (user.kind == ObjectKind::kMacRow) {
         L2Row *const row = chip.l2.table.find_key(user.number);
         chip.references.unlink(user, names_of(row->entry));
-        chip.l2.note(row->entry, kL2Deleted);
+        note_l2(chip.events, row->entry, kL2Deleted);
         chip.l2.table.erase(*row);
     } else {
         const L2Scope scope{user.length, static_cast<int>(user.number)};

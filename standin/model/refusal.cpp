@@ -88,8 +88,11 @@ bool is_stopped(const Switch &chip, const char *function) {
 
 void note_chapter(Switch &chip, const char *function) {
     for (const std::string_view last_word : {"detach", "cleanup"})
-        if (const std::string_view chapter = chapter_of(function, last_word); !chapter.empty())
+        if (const std::string_view chapter = chapter_of(function, last_word); !chapter.empty()) {
             chip.stopped.emplace(chapter);
+            for (const RegistrationRow &one : registrations())
+                if (one.chapter == chapter) chip.events.handlers.remove_all(one.row);
+        }
     if (chip.stopped.empty()) return;
     if (const std::string_view chapter = chapter_of(function, "init"); !chapter.empty())
         chip.stopped.erase(std::string(chapter));

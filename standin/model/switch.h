@@ -4,11 +4,13 @@
 #include <set>
 #include <string>
 
+#include "standin/model/events.h"
 #include "standin/model/field.h"
 #include "standin/model/generic_tables.h"
 #include "standin/model/groups.h"
 #include "standin/model/l2_chapter.h"
 #include "standin/model/l3.h"
+#include "standin/model/linkscan.h"
 #include "standin/model/ports.h"
 #include "standin/model/references.h"
 #include "standin/model/slots.h"
@@ -19,6 +21,7 @@ namespace standin {
 struct Switch {
     Switch() { link_first_day(*this); }
 
+    int unit = -1;
     Ports ports;
     Vlans vlans;
     L2Chapter l2;
@@ -27,6 +30,9 @@ struct Switch {
     L3 l3;
     GenericTables generic;  // of the calls that have no model of their own
     Slots layers;
+    Events events;
+    Linkscan linkscan;
+    std::uint64_t now = 0;  // microseconds that have passed
     References references;
     std::set<std::string> stopped;  // chapters after their `_detach`, as "bcm_l2_"
 };

@@ -301,14 +301,14 @@ TEST_F(MacTable, AgeingTakesWhatWasNotHeard) {
     standin_l2_learn(0, Mac(1).data(), 10, 1);
     standin_l2_learn(0, Mac(2).data(), 10, 1);
     add(3, 10, 1, kL2Static);
-    standin_l2_age(0, 200);
+    standin_time_pass(0, 200'000'000);
     standin_l2_learn(0, Mac(2).data(), 10, 1);  // heard again
-    standin_l2_age(0, 100);
+    standin_time_pass(0, 100'000'000);
     EXPECT_FALSE(has(1, 10));
     EXPECT_TRUE(has(2, 10));
     EXPECT_TRUE(has(3, 10));
     bcm_l2_age_timer_set(0, 0);
-    standin_l2_age(0, 100'000);
+    standin_time_pass(0, 100'000'000'000);
     EXPECT_TRUE(has(2, 10)) << "0 means never";
 }
 
@@ -346,7 +346,7 @@ TEST_F(MacTable, WatchersHearEveryChange) {
     standin_l2_learn(0, Mac(2).data(), 10, 1);
     bcm_l2_addr_delete(0, Mac(1).data(), 10);
     bcm_l2_age_timer_set(0, 10);
-    standin_l2_age(0, 10);
+    standin_time_pass(0, 10'000'000);
     EXPECT_EQ(bcm_l2_addr_unregister(0, watch, &seen), BCM_E_NONE);
     EXPECT_EQ(bcm_l2_addr_unregister(0, watch, &seen), BCM_E_NOT_FOUND);
     add(3, 10, 1);

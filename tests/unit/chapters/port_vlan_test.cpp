@@ -57,7 +57,7 @@ TEST_F(Chip, LinkFollowsEnableAndFarEnd) {
     EXPECT_EQ(link(), 0);
     EXPECT_EQ(standin_port_traffic(0, 3, 0, 1, 64), BCM_E_DISABLED);
     bcm_port_enable_set(0, 3, 1);
-    standin_port_peer_set(0, 3, 0);
+    standin_link_set(0, 3, 0);
     EXPECT_EQ(link(), 0);
     bcm_port_loopback_set(0, 3, BCM_PORT_LOOPBACK_MAC);
     EXPECT_EQ(link(), 1);

@@ -62,7 +62,7 @@ TEST_F(PhyTest, TheLinkFollowsPeerEnableDirectionsAndLoopback) {
     EXPECT_EQ(number(soc_phyctrl_link_get, 7), 0);
     EXPECT_EQ(number(soc_phyctrl_linkfault_get, 7), 1);
     ASSERT_EQ(soc_enable_txrx_set(0, 7, 1, 1), BCM_E_NONE);
-    standin_port_peer_set(0, 7, 0);
+    standin_link_set(0, 7, 0);
     EXPECT_EQ(number(soc_phyctrl_link_get, 7), 0);
     ASSERT_EQ(soc_phyctrl_loopback_set(0, 7, 1, 0), BCM_E_NONE);
     EXPECT_EQ(number(soc_phyctrl_link_change, 7), 1);
@@ -123,7 +123,7 @@ TEST_F(PhyTest, AdvertisingIsTheSameByModeAndByAbility) {
     EXPECT_EQ(mode, 1u << 11);
     ASSERT_EQ(soc_phyctrl_adv_remote_get(0, 7, &mode), BCM_E_NONE);
     EXPECT_EQ(mode, all);
-    standin_port_peer_set(0, 7, 0);
+    standin_link_set(0, 7, 0);
     ASSERT_EQ(soc_phyctrl_ability_remote_get(0, 7, &ability), BCM_E_NONE);
     EXPECT_EQ(ability.words[0], 0u);
     EXPECT_EQ(soc_phyctrl_ability_advert_set(0, 7, nullptr), BCM_E_PARAM);

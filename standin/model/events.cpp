@@ -1,0 +1,119 @@
+// Handlers by number, and the queue of the thread that tells them.
+#include "standin/model/events.h"
+
+#include <algorithm>
+#include <deque>
+#include <utility>
+
+#include "sdk/constants.h"
+#include "standin/model/device_table.h"
+#include "standin/model/model.h"
+
+namespace standin {
+namespace {
+
+std::uint64_t last_number = 0;
+
+struct Waiting {
+    int unit;
+    Task task;
+};
+
+// What the outermost call of a thread has still to tell; null while it tells nothing.
+thread_local std::deque<Waiting> *queue = nullptr;
+
+// The handlers of a unit that the row belongs to, or null.
+Handlers *handlers_of(int unit, Registration row) {
+    Device *const device = device_table().find(unit);
+    if (device == nullptr) return nullptr;
+    return row == Registration::kAttach ? &device->attach_events.handlers
+                                        : &device->chip->events.handlers;
+}
+
+std::optional<Handler> next_handler(int unit, Registration row, std::uint64_t after,
+                                    std::uint64_t last) {
+    const std::lock_guard<std::mutex> guard(model_lock());
+    const Handlers *const handlers = handlers_of(unit, row);
+    const Handler *const found = handlers == nullptr ? nullptr : handlers->next(row, after, last);
+    return found == nullptr ? std::nullopt : std::optional(*found);
+}
+
+bool same(const Handler &one, const Handler &other) {
+    return one.row == other.row && one.call == other.call && one.user == other.user &&
+           one.key == other.key;
+}
+
+}  // namespace
+
+int Handlers::add(Handler one) {
+    if (!registrations()[static_cast<std::size_t>(one.row)].callable) return BCM_E_UNAVAIL;
+    if (one.call == nullptr) return BCM_E_PARAM;
+    if (std::ranges::any_of(all_, [&](const Handler &other) { return same(one, other); }))
+        return BCM_E_EXISTS;
+    one.number = ++last_number;
+    all_.push_back(one);
+    return BCM_E_NONE;
+}
+
+int Handlers::remove(const Handler &one) {
+    const auto count = std::erase_if(all_, [&](const Handler &other) { return same(one, other); });
+    return count == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
+}
+
+std::size_t Handlers::remove_all(Registration row) {
+    return std::erase_if(all_, [&](const Handler &one) { return one.row == row; });
+}
+
+std::size_t Handlers::remove_all(Registration row, const HandlerKey &key) {
+    return std::erase_if(all_,
+                         [&](const Handler &one) { return one.row == row && one.key == key; });
+}
+
+const Handler *Handlers::find(Registration row, const HandlerKey &key) const {
+    const auto found = std::ranges::find_if(
+        all_, [&](const Handler &one) { return one.row == row && one.key == key; });
+    return found == all_.end() ? nullptr : &*found;
+}
+
+const Handler *Handlers::next(Registration row, std::uint64_t after, std::uint64_t last) const {
+    for (const Handler &one : all_)
+        if (one.row == row && one.number > after) return one.number <= last ? &one : nullptr;
+    return nullptr;
+}
+
+std::uint64_t last_handler() { return last_number; }
+
+void Events::raise(Task task) {
+    if (raised == nullptr) raised = std::make_unique<std::vector<Task>>();
+    raised->push_back(std::move(task));
+}
+
+void Events::raise(Registration row, Tell tell) {
+    if (!handlers.any(row)) return;
+    raise([row, last = last_handler(), tell = std::move(tell)](int unit) {
+        std::uint64_t at = 0;
+        while (const auto next = next_handler(unit, row, at, last)) {
+            at = next->number;
+            tell(unit, *next);
+        }
+    });
+}
+
+void tell_events(int unit, Events &events, std::unique_lock<std::mutex> &guard) {
+    if (events.raised == nullptr) return;
+    const auto raised = std::exchange(events.raised, nullptr);
+    guard.unlock();
+    std::deque<Waiting> mine;
+    std::deque<Waiting> &waiting = queue == nullptr ? mine : *queue;
+    for (Task &task : *raised) waiting.push_back({unit, std::move(task)});
+    if (queue != nullptr) return;
+    struct Telling {
+        explicit Telling(std::deque<Waiting> &all) { queue = &all; }
+        ~Telling() { queue = nullptr; }
+    } const telling(mine);
+    for (; !mine.empty(); mine.pop_front()) mine.front().task(mine.front().unit);
+}
+
+Events &events_of(Switch &chip) { return chip.events; }
+
+}  // namespace standin
