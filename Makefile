@@ -22,7 +22,8 @@ compile_debug := cmake --build build/debug --parallel $(JOBS) $(quiet)
 python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
 have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
 
-.PHONY: help demo test build product debug bench docs race fuzz portable install install-standin uninstall deb \
+.PHONY: help demo test build product debug bench docs race fuzz soak portable install \
+    install-standin uninstall deb \
     deb-test root-test format tidy setup configure mutants clean
 
 demo: product ## install what is missing, build, and run the quick start
@@ -58,6 +59,9 @@ fuzz: setup ## feed the parsers and the conversions hostile input
 	@setup/packages.sh fuzz
 	@setup/configure.sh fuzz
 	@cmake --build build/fuzz --parallel $(JOBS) --target fuzz
+
+soak: build debug ## random calls, failing allocations, interpreters, threads, memory: an hour; SEED=1
+	@tests/soak/run.sh "$(or $(SEED),1)"
 
 portable: build ## module and companion for older C and C++ libraries, in build/portable
 	@$(compile) --target portable

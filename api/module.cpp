@@ -2,7 +2,9 @@
 
 #include "api/install_table.h"
 #include "api/method_table.h"
+#include "runtime/exit_count.h"
 #include "runtime/module_entry.h"
+#include "runtime/native_notes.h"
 
 extern swig_module_table swig_module;
 
@@ -15,7 +17,13 @@ const swig_const_row swig_const_rows[] = {{SWIG_CONST_END, nullptr, 0, nullptr, 
 
 // The entry returns nothing: the interpreter judges the import by the exception that is set.
 extern "C" __attribute__((visibility("default"))) void init_OmbraSdkV2Helper() {
-    SWIG_Python_RunEntry({"_OmbraSdkV2Helper", swig_method_table, swig_const_rows, &swig_module,
-                          swig_constants, swig_variables, swig_install_steps,
-                          swig_install_step_count});
+    static const char name[] = "_OmbraSdkV2Helper";
+    if (SWIG_Python_RunEntry({name, swig_method_table, swig_const_rows, &swig_module,
+                              swig_constants, swig_variables, swig_install_steps,
+                              swig_install_step_count}) &&
+        !ombra::share_notes()) {
+        SWIG_Python_TakeModuleBack(name);
+        return;
+    }
+    ombra::count_at_exit(name, nullptr);
 }

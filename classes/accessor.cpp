@@ -4,7 +4,8 @@
 #include <cstring>
 #include <new>
 
-#include "classes/live_arrays.h"
+#include "convert/results.h"
+#include "runtime/native_notes.h"
 
 namespace ombra {
 namespace {
@@ -223,10 +224,7 @@ PyObject *new_struct(const CallRow &row, PyObject *args, std::size_t size) {
     void *memory = ::operator new(size, std::nothrow);
     if (memory == nullptr) return PyErr_NoMemory();
     std::memset(memory, 0, size);
-    PyObject *object =
-        SWIG_Python_NewPointerObj(memory, slot(row, kResultSlot), FLAG_OWN | FLAG_NOPROXY);
-    if (object == nullptr) ::operator delete(memory);
-    return object;
+    return own_bare(memory, slot(row, kResultSlot));
 }
 
 PyObject *delete_struct(const CallRow &row, PyObject *args) {
@@ -238,10 +236,9 @@ PyObject *delete_struct(const CallRow &row, PyObject *args) {
         refuse(row, kSelf, status);
         return nullptr;
     }
-    if (is_live_array(memory)) {
-        refuse_with(PyExc_ValueError, "a live array is deleted by its own row");
+    if (memory != nullptr && !forget_owned(memory, slot(row, kSelf)) && !may_free_unnoted(memory))
+        [[unlikely]]
         return nullptr;
-    }
     ::operator delete(memory);
     Py_RETURN_NONE;
 }

@@ -62,8 +62,9 @@ PyObject *set_constant_text(const FieldRow &row, PyObject *args);
 PyObject *new_struct(const CallRow &row, PyObject *args, std::size_t size);
 
 // delete_X: takes the ownership off the object and releases the struct, and nothing inside it.
-// None is a null pointer and returns None. A live array is refused with ValueError: it was made by
-// another allocator.
+// None is a null pointer and returns None. An address that is no live struct of the class, such as
+// that of an alias, an array or what was deleted before, is refused with ValueError
+// (native_notes.h).
 PyObject *delete_struct(const CallRow &row, PyObject *args);
 
 }  // namespace ombra

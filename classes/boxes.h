@@ -1,9 +1,9 @@
 // Boxes and counted arrays: native storage that Python makes, reads and writes.
 //
 // A box is one element behind a pointer object of the box's own type. An array is a plain pointer
-// to its first element, known by address and length (live_arrays.h) until its delete_ row: an index
-// outside raises IndexError. A pointer of the same type that is no live array is read and written
-// as it stands, without a bound.
+// to its first element, known by address and length (native_notes.h) until its delete_ row: an
+// index outside raises IndexError. A pointer of the same type that is no live array is read and
+// written as it stands, without a bound.
 #pragma once
 
 #include <Python.h>
@@ -11,8 +11,8 @@
 #include <new>
 
 #include "classes/accessor.h"
-#include "classes/live_arrays.h"
 #include "convert/frame_body.h"
+#include "runtime/native_notes.h"
 
 namespace ombra {
 
@@ -22,10 +22,7 @@ PyObject *new_box(const CallRow &row, PyObject *args) {
     return call_with<>(row, args, [&]() -> PyObject * {
         void *element = ::operator new(sizeof(typename Kind::Native), std::nothrow);
         if (element == nullptr) return PyErr_NoMemory();
-        PyObject *object =
-            SWIG_Python_NewPointerObj(element, slot(row, kResultSlot), FLAG_OWN | FLAG_NOPROXY);
-        if (object == nullptr) ::operator delete(element);
-        return object;
+        return own_bare(element, slot(row, kResultSlot));
     });
 }
 

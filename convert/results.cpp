@@ -4,6 +4,7 @@
 #include <cstring>
 #include <new>
 
+#include "runtime/native_notes.h"
 #include "runtime/pointer_conversion.h"
 
 namespace ombra {
@@ -18,16 +19,31 @@ PyObject *text_result(const char *text) {
     return SWIG_Python_NewPointerObj(const_cast<char *>(text), descriptor, 0);
 }
 
-PyObject *own_pointer(void *memory, swig_type_info *type) {
-    PyObject *bare = SWIG_Python_NewPointerObj(memory, type, FLAG_OWN | FLAG_NOPROXY);
-    if (bare == nullptr) {
-        ::operator delete(memory);
-        return nullptr;
-    }
+PyObject *in_proxy(PyObject *bare, const swig_type_info *type) {
     if (type == nullptr || type->client_data == nullptr) return bare;
     PyObject *proxy = SWIG_Python_NewProxyInstance(type->client_data, bare);
     Py_DECREF(bare);
     return proxy;
+}
+
+PyObject *noted_pointer(void *memory, swig_type_info *type) {
+    if (type != nullptr && !note_owned(memory, type)) return PyErr_NoMemory();
+    PyObject *bare = SwigPyObject_New(memory, type, FLAG_OWN);
+    if (bare == nullptr) [[unlikely]]
+        forget_owned(memory, type);
+    return bare;
+}
+
+PyObject *own_bare(void *memory, swig_type_info *type) {
+    PyObject *bare = noted_pointer(memory, type);
+    if (bare == nullptr) [[unlikely]]
+        ::operator delete(memory);
+    return bare;
+}
+
+PyObject *own_pointer(void *memory, swig_type_info *type) {
+    PyObject *bare = own_bare(memory, type);
+    return bare != nullptr ? in_proxy(bare, type) : nullptr;
 }
 
 PyObject *owned_copy(const void *value, std::size_t size, swig_type_info *type) {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "runtime/pointer_conversion.h"
+#include "convert/results.h"
 #include "toolkit/ptr.h"
 
 namespace ombra {
@@ -21,9 +21,10 @@ namespace ombra {
 template <class T>
 PyObject *counted_result(Lumo::Ptr<T> result, swig_type_info *type) {
     auto holder = std::make_unique<Lumo::Ptr<T>>(result);
-    PyObject *object = SWIG_Python_NewPointerObj(holder.get(), type, FLAG_OWN);
-    if (object) static_cast<void>(holder.release());
-    return object;
+    PyObject *bare = noted_pointer(holder.get(), type);
+    if (bare == nullptr) return nullptr;
+    static_cast<void>(holder.release());  // from here on it dies with the pointer object
+    return in_proxy(bare, type);
 }
 
 }  // namespace ombra

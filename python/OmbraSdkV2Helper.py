@@ -100,12 +100,20 @@ def traverse(function, *args):
     return result
 
 
+if not _companion.in_first_interpreter():
+    raise ImportError('the classes of OmbraSdkV2Helper are registered for the '
+                      'whole process, which the first interpreter alone '
+                      'outlives; use _OmbraSdkV2Helper and '
+                      '_OmbraSdkV2Companion in this one')
+
 _BUILT_IN = type(len)
 
 
 def _fill(namespace):
     """Puts the names of the module, the callbacks and the classes here."""
-    own = dict(namespace)
+    made_before = namespace.get('_made', ())  # by a load before a reload
+    own = dict((name, value) for name, value in namespace.iteritems()
+               if name not in made_before)
     rows = vars(_native)
     public = _companion.take_names(namespace, rows)
     made = {}
@@ -117,11 +125,14 @@ def _fill(namespace):
         made[name] = _proxy.struct_class(name, table, rows)
     for name, element in _tables.BOXES:
         made[name] = _proxy.box_class(name, made.get(element), rows)
+    _companion.add_deleters(made, [rows['delete_' + name] for name, _
+                                   in _tables.CLASSES + _tables.BOXES])
     for name, type_name, others in _tables.VALUES:
         value = _proxy.value_class(name, type_name)
         made.update((one, value) for one in (name,) + others)
     for name, type_name in _tables.HOLDERS:
         made[name] = _proxy.holder_class(name, type_name)
+    made_now = frozenset(rows).union(made).difference(own)
     made.update(own)
     for name, value in made.iteritems():  # one by one, as take_names() does
         namespace[name] = value
@@ -130,6 +141,13 @@ def _fill(namespace):
     public.extend(name for name in made if name not in rows
                   and name[0] != '_')
     namespace['__all__'] = public
+    namespace['_made'] = made_now
+    # Where one of the two modules was first imported by an interpreter that
+    # has ended, they know each other's types by name alone.
+    if type(Array('bcm_l2_addr_t', 1)[0]) is not namespace['bcm_l2_addr_t']:
+        raise ImportError('_OmbraSdkV2Helper and _OmbraSdkV2Companion were '
+                          'first imported by different interpreters and do '
+                          'not share their types')
 
 
 _fill(globals())

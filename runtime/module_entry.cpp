@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <new>
 #include <string_view>
 
 #include "runtime/collector_pause.h"
@@ -82,19 +83,72 @@ PyObject *init_module(const swig_module_definition &definition) {
                           PYTHON_API_VERSION);
 }
 
-}  // namespace
+// The name behind the packages.
+const char *last_part(const char *name) {
+    const char *const dot = std::strrchr(name, '.');
+    return dot != nullptr ? dot + 1 : name;
+}
 
-void SWIG_Python_RunEntry(const swig_module_definition &definition) {
+// The first exception of a thread needs memory of its own. Had here, while there is some, it cannot
+// be what a failed allocation is told by.
+void throw_once() {
+    static bool thrown = false;
+    if (thrown) return;
+    thrown = true;
+    try {
+        throw std::bad_alloc();
+    } catch (const std::bad_alloc &) {
+    }
+}
+
+// False with an exception, and the module then half made.
+bool fill_module(const swig_module_definition &definition) {
+    throw_once();
     SWIG_Python_PatchDocstrings(definition.methods, definition.const_rows, swig_type_seeds,
                                 swig_type_slots);
+    if (PyErr_Occurred() != nullptr) return false;
     PyObject *const module = init_module(definition);
-    if (module == nullptr) return;
+    if (module == nullptr) return false;
     PyObject *dictionary = PyModule_GetDict(module);
     SWIG_Python_JoinModuleList(*definition.table, swig_type_seeds, swig_cast_seeds);
+    if (PyErr_Occurred() != nullptr || SWIG_This() == nullptr) return false;
     SWIG_Python_InstallRows(dictionary, definition.const_rows);
     PyEval_InitThreads();
-    for (std::size_t index = 0; index < definition.step_count; ++index)
+    for (std::size_t index = 0; index < definition.step_count; ++index) {
+        if (PyErr_Occurred() != nullptr) return false;
         install(dictionary, definition, definition.steps[index]);
+    }
+    return PyErr_Occurred() == nullptr;
+}
+
+}  // namespace
+
+bool SWIG_Python_RunEntry(const swig_module_definition &definition) {
+    PyObject *const cvar = definition.step_count != 0 ? SWIG_Python_cvar() : nullptr;
+    if (cvar == nullptr && definition.step_count != 0) return false;
+    const swig_varlink_entry *const links =
+        cvar != nullptr ? reinterpret_cast<swig_varlink_object *>(cvar)->vars : nullptr;
+    if (fill_module(definition)) return true;
+    SWIG_Python_TakeModuleBack(definition.name);
+    if (cvar != nullptr) SWIG_Python_droplinks(cvar, links);
+    return false;
+}
+
+void SWIG_Python_TakeModuleBack(const char *name) {
+    PyObject *const modules = PyImport_GetModuleDict();
+    PyObject *key = nullptr;
+    Py_ssize_t position = 0;
+    while (PyDict_Next(modules, &position, &key, nullptr) != 0) {
+        if (!PyString_Check(key) || std::strcmp(last_part(PyString_AS_STRING(key)), name) != 0)
+            continue;
+        PyObject *type = nullptr;
+        PyObject *value = nullptr;
+        PyObject *traceback = nullptr;
+        PyErr_Fetch(&type, &value, &traceback);
+        PyDict_DelItem(modules, key);
+        PyErr_Restore(type, value, traceback);
+        return;
+    }
 }
 
 void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *rows,
@@ -109,8 +163,12 @@ void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *row
         const std::string_view before(method->ml_doc,
                                       static_cast<std::size_t>(marker - method->ml_doc));
         const swig_type_info *type = type_seeds[row->type - type_slots];
-        if (char *text = callback_docstring(before, row->pointer, type->name))
-            method->ml_doc = text;
+        char *text = callback_docstring(before, row->pointer, type->name);
+        if (text == nullptr) {
+            PyErr_NoMemory();
+            return;
+        }
+        method->ml_doc = text;
     }
 }
 

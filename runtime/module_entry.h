@@ -61,8 +61,14 @@ struct swig_module_definition {
 
 // The entry, in order: patch docstrings, register the methods, join the type table to the list of
 // the process, install the rows of the constant table, prepare the interpreter for threads, run
-// the install steps. On failure an exception is set, by which the interpreter judges the import.
-void SWIG_Python_RunEntry(const swig_module_definition &definition);
+// the install steps. On failure an exception is set, by which the interpreter judges the import,
+// false is returned, and the half-made module and its links are taken back: the next import makes
+// it anew.
+bool SWIG_Python_RunEntry(const swig_module_definition &definition);
+
+// Takes a module out of the interpreter's table, under its own name or in a package. Needs no
+// memory, and keeps the exception that is set.
+void SWIG_Python_TakeModuleBack(const char *name);
 
 // Gives methods that are native callbacks a docstring that carries their address: a text with
 // "swig_ptr: NAME" gets, from the marker on, "swig_ptr: _<pointer><type>" of the first constant

@@ -67,6 +67,11 @@ swig_module_table *SWIG_Python_GetModule() {
     return static_cast<swig_module_table *>(cache);
 }
 
+PyObject *SWIG_Python_GetModuleCapsule() {
+    const ombra::PyRef module(PyImport_ImportModule(kModuleName));
+    return module != nullptr ? PyObject_GetAttrString(module.get(), kAttributeName) : nullptr;
+}
+
 void SWIG_Python_SetModule(swig_module_table *table) {
     static PyMethodDef no_methods[] = {{nullptr, nullptr, 0, nullptr}};
     PyObject *module =

@@ -17,6 +17,9 @@ swig_module_table *SWIG_Python_GetModule();
 // "type_pointer_capsule". Can leave an exception if memory runs out.
 void SWIG_Python_SetModule(swig_module_table *table);
 
+// That capsule, new reference; null with an exception.
+PyObject *SWIG_Python_GetModuleCapsule();
+
 // The destructor of that capsule, at interpreter shutdown: drops the references of client data
 // held in `raw_new`, `raw_new_args` and `destroy` for the types of the table that own theirs, and
 // the string "this". The records stay.

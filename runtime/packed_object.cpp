@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "runtime/foreign_type.h"
 #include "runtime/hex_text.h"
 
 namespace {
@@ -80,13 +81,14 @@ PyTypeObject *SwigPyPacked_TypeOnce() {
 }  // namespace
 
 PyTypeObject *SwigPyPacked_type() {
-    static PyTypeObject *const type = SwigPyPacked_TypeOnce();
+    static PyTypeObject *type = nullptr;
+    if (type == nullptr) type = SwigPyPacked_TypeOnce();
     return type;
 }
 
 bool SwigPyPacked_Test(PyObject *object) {
     return Py_TYPE(object) == SwigPyPacked_type() ||
-           std::strcmp(Py_TYPE(object)->tp_name, "SwigPyPacked") == 0;
+           ombra::is_foreign_type(Py_TYPE(object), "SwigPyPacked", sizeof(SwigPyPacked));
 }
 
 PyObject *SwigPyPacked_New(const void *bytes, std::size_t size, swig_type_info *type) {

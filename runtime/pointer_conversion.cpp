@@ -14,25 +14,35 @@ namespace {
 
 PyObject *swig_this_name = nullptr;
 
-// `this` of an object without an instance dictionary, borrowed. Whoever answers keeps it alive; an
-// answer that nobody else holds would be gone at once, and so would one of an object that its own
-// answer has let go. Both count as none.
-PyObject *this_attribute(PyObject *object, PyObject *name) {
-    const PyRef kept = ombra::new_ref(object);
-    const PyRef found(PyObject_GetAttr(object, name));
-    if (found == nullptr) {
+// A reference to what a look-up lends, or null. Look-ups run foreign code, that of keys for
+// instance, which may let go of anything that is not held.
+PyRef held(PyObject *borrowed) { return borrowed != nullptr ? ombra::new_ref(borrowed) : nullptr; }
+
+// `this` of an object without an instance dictionary. Whoever answers keeps it alive: an answer
+// that nobody else holds counts as none.
+PyRef this_attribute(PyObject *object, PyObject *name) {
+    PyRef found(PyObject_GetAttr(object, name));
+    if (found == nullptr)
         PyErr_Clear();
-        return nullptr;
-    }
-    return Py_REFCNT(found.get()) > 1 && Py_REFCNT(object) > 1 ? found.get() : nullptr;
+    else if (Py_REFCNT(found.get()) == 1)
+        found.reset();
+    return found;
 }
 
-// The next object on the way to a pointer object, borrowed, or null.
-PyObject *step_inward(PyObject *object, PyObject *name) {
-    if (PyInstance_Check(object)) return _PyInstance_Lookup(object, name);
-    if (PyObject **dictionary = _PyObject_GetDictPtr(object))
-        return *dictionary != nullptr ? PyDict_GetItem(*dictionary, name) : nullptr;
-    if (PyWeakref_CheckProxy(object)) return PyWeakref_GET_OBJECT(object);  // None once it is dead
+// The next object on the way to a pointer object, or null.
+PyRef step_inward(PyObject *object, PyObject *name) {
+    if (PyInstance_Check(object)) {
+        const auto *instance = reinterpret_cast<PyInstanceObject *>(object);
+        const PyRef dictionary = held(instance->in_dict);
+        const PyRef members = held(instance->in_class->cl_dict);
+        return held(_PyInstance_Lookup(object, name));
+    }
+    if (PyObject **place = _PyObject_GetDictPtr(object)) {
+        const PyRef dictionary = held(*place);
+        return dictionary != nullptr ? held(PyDict_GetItem(dictionary.get(), name)) : nullptr;
+    }
+    if (PyWeakref_CheckProxy(object))
+        return held(PyWeakref_GET_OBJECT(object));  // None once it is dead
     return this_attribute(object, name);
 }
 
@@ -126,17 +136,19 @@ PyObject *SWIG_This() {
 void SWIG_Python_ReleaseThis() { Py_CLEAR(swig_this_name); }
 
 SwigPyObject *SWIG_Python_GetSwigThis(PyObject *object) {
+    if (object == nullptr || SwigPyObject_Test(object)) return as_pointer_object(object);
     ombra::RingGuard ring;
-    while (object != nullptr && !SwigPyObject_Test(object)) {
+    PyRef current = ombra::new_ref(object);
+    while (!SwigPyObject_Test(current.get())) {
         PyObject *name = SWIG_This();
-        if (name == nullptr) {
-            PyErr_Clear();
-            return nullptr;
-        }
-        if (ring.closes(object)) return nullptr;
-        object = step_inward(object, name);
+        if (name == nullptr) PyErr_Clear();
+        if (name == nullptr || ring.closes(current.get())) return nullptr;
+        current = step_inward(current.get(), name);
+        if (current == nullptr) return nullptr;
     }
-    return as_pointer_object(object);
+    // The caller borrows it from whoever keeps it: what lives by this reference alone counts as
+    // none.
+    return Py_REFCNT(current.get()) > 1 ? as_pointer_object(current.get()) : nullptr;
 }
 
 int ombra::convert_pointer(PyObject *object, void **out, swig_type_info *wanted, int flags) {

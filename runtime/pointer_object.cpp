@@ -2,6 +2,7 @@
 #include "runtime/pointer_object.h"
 
 #include <cstdio>
+#include <cstring>
 
 #include "runtime/client_data.h"
 #include "runtime/py_ref.h"
@@ -46,11 +47,11 @@ void destroy_native(const SwigPyClientData &data, SwigPyObject *self) {
 }
 
 // Drops a chain. Links that nobody else holds are taken apart one by one: a long chain would
-// otherwise nest one death in the other until the stack ends.
+// otherwise nest one death in the other until the stack ends, also one of two modules' objects.
 void release_chain(PyObject *next) {
     while (next != nullptr) {
         PyObject *after = nullptr;
-        if (Py_REFCNT(next) == 1 && Py_TYPE(next) == &SwigPyObject_type_object) {
+        if (Py_REFCNT(next) == 1 && SwigPyObject_Test(next)) {
             after = as_pointer_object(next)->next;
             as_pointer_object(next)->next = nullptr;
         }
@@ -82,10 +83,25 @@ PyObject *SwigPyObject_format(const char *format, PyObject *object) {
     return values != nullptr ? PyString_Format(pattern.get(), values.get()) : nullptr;
 }
 
-PyObject *repr_of_link(PyObject *object) {
-    return PyString_FromFormat("<Swig Object of type '%s' at %p>",
-                               ombra::display_name_or_unknown(as_pointer_object(object)->type),
-                               static_cast<void *>(object));
+// Calls `visit` for each link of a chain. True if the chain runs in a ring, where it ends.
+// REQUIRES: `visit` runs no Python code.
+template <typename Visit>
+bool walk_chain(PyObject *object, Visit visit) {
+    ombra::RingGuard ring;
+    for (; object != nullptr; object = as_pointer_object(object)->next) {
+        if (ring.closes(object)) return true;
+        visit(object);
+    }
+    return false;
+}
+
+// Writes as much of a link's text as fits, with its terminator; returns the length of the whole.
+std::size_t write_link(char *out, std::size_t room, PyObject *object) {
+    const int length =
+        std::snprintf(out, room, "<Swig Object of type '%s' at %p>",
+                      ombra::display_name_or_unknown(as_pointer_object(object)->type),
+                      static_cast<void *>(object));
+    return static_cast<std::size_t>(length);
 }
 
 // A method without arguments, as the interpreter calls it.
@@ -182,18 +198,22 @@ PyObject *SwigPyObject_oct(PyObject *object) { return SwigPyObject_format("%o", 
 
 PyObject *SwigPyObject_hex(PyObject *object) { return SwigPyObject_format("%x", object); }
 
+// The chain is measured first and then written in place, since a text that grows link by link is
+// copied as often.
 PyObject *SwigPyObject_repr(PyObject *object) {
-    ombra::RingGuard ring;
-    ring.closes(object);
-    PyObject *text = repr_of_link(object);
-    PyObject *link = as_pointer_object(object)->next;
-    for (; link != nullptr && text != nullptr; link = as_pointer_object(link)->next) {
-        if (ring.closes(link)) {
-            PyString_ConcatAndDel(&text, PyString_FromString("..."));
-            break;
-        }
-        PyString_ConcatAndDel(&text, repr_of_link(link));
-    }
+    static const char kRing[] = "...";
+    std::size_t length = 0;
+    const bool is_ring =
+        walk_chain(object, [&](PyObject *link) { length += write_link(nullptr, 0, link); });
+    if (is_ring) length += sizeof kRing - 1;
+    PyObject *text = PyString_FromStringAndSize(nullptr, static_cast<Py_ssize_t>(length));
+    if (text == nullptr) return nullptr;
+    char *out = PyString_AS_STRING(text);
+    const char *const end = out + length + 1;
+    walk_chain(object, [&](PyObject *link) {
+        out += write_link(out, static_cast<std::size_t>(end - out), link);
+    });
+    if (is_ring) std::memcpy(out, kRing, sizeof kRing);
     return text;
 }
 

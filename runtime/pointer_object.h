@@ -14,8 +14,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
+#include "runtime/foreign_type.h"
 #include "runtime/type_table.h"
 
 struct SwigPyObject {
@@ -33,11 +33,11 @@ struct SwigPyObject {
 // The type object, readied on first use; null with an error if that failed.
 PyTypeObject *SwigPyObject_type();
 
-// Whether an object is a pointer object of this or another module of the kind. The name decides
-// for the latter, so a foreign type called "SwigPyObject" has to have the layout above.
+// Whether an object is a pointer object of this or another module of the kind.
 inline bool SwigPyObject_Test(PyObject *object) {
     const PyTypeObject *const type = Py_TYPE(object);
-    return type == &SwigPyObject_type_object || std::strcmp(type->tp_name, "SwigPyObject") == 0;
+    return type == &SwigPyObject_type_object ||
+           ombra::is_foreign_type(type, "SwigPyObject", sizeof(SwigPyObject));
 }
 
 // A new object without a chain, `own` being 0 or 1. Null with MemoryError on failure, and the

@@ -68,21 +68,11 @@ bool has_spelling(const swig_type_info &type, std::string_view key) {
     }
 }
 
-swig_type_info *find_spelling(swig_module_table *head, const char *key) {
-    swig_module_table *table = head;
-    do {
-        for (std::uint64_t index = 0; index < table->size; ++index)
-            if (has_spelling(*table->types[index], key)) return table->types[index];
-        table = table->next;
-    } while (table != head);
-    return nullptr;
-}
-
 swig_type_info *find_in_process(const char *key) {
     swig_module_table *head = SWIG_Python_GetModule();
     if (head == nullptr) return nullptr;
     swig_type_info *type = SWIG_MangledTypeQueryModule(head, head, key);
-    return type != nullptr ? type : find_spelling(head, key);
+    return type != nullptr ? type : ombra::find_spelling(head, key);
 }
 
 }  // namespace
@@ -94,6 +84,16 @@ swig_type_info *SWIG_MangledTypeQueryModule(swig_module_table *start, swig_modul
         if (swig_type_info *type = find_in_table(*table, name)) return type;
         table = table->next;
     } while (table != end);
+    return nullptr;
+}
+
+swig_type_info *ombra::find_spelling(swig_module_table *head, const char *key) {
+    swig_module_table *table = head;
+    do {
+        for (std::uint64_t index = 0; index < table->size; ++index)
+            if (has_spelling(*table->types[index], key)) return table->types[index];
+        table = table->next;
+    } while (table != head);
     return nullptr;
 }
 

@@ -83,6 +83,10 @@ const char *SWIG_TypeDisplayName(const swig_type_info *type);
 
 namespace ombra {
 
+// The type with that declared spelling, blanks aside, in the ring of a table; null if there is
+// none.
+swig_type_info *find_spelling(swig_module_table *head, const char *key);
+
 // The same, "unknown" for null.
 inline const char *display_name_or_unknown(const swig_type_info *type) {
     const char *name = SWIG_TypeDisplayName(type);

@@ -69,13 +69,7 @@ int swig_varlink_print(PyObject *object, FILE *file, int) {
 }
 
 void swig_varlink_dealloc(PyObject *object) {
-    swig_varlink_entry *entry = as_link(object)->vars;
-    while (entry != nullptr) {
-        swig_varlink_entry *next = entry->next;
-        std::free(entry->name);
-        std::free(entry);
-        entry = next;
-    }
+    SWIG_Python_droplinks(object, nullptr);
     PyObject_FREE(object);
 }
 
@@ -123,6 +117,17 @@ bool SWIG_Python_addvarlink(PyObject *object, const char *name, swig_variable_ge
     *entry = {copy, get_attr, set_attr, as_link(object)->vars, read_only};
     as_link(object)->vars = entry;
     return true;
+}
+
+void SWIG_Python_droplinks(PyObject *object, const swig_varlink_entry *kept) {
+    swig_varlink_entry *entry = as_link(object)->vars;
+    while (entry != kept) {
+        swig_varlink_entry *next = entry->next;
+        std::free(entry->name);
+        std::free(entry);
+        entry = next;
+    }
+    as_link(object)->vars = entry;
 }
 
 PyObject *SWIG_Python_cvar() {

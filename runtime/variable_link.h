@@ -32,6 +32,10 @@ PyObject *SWIG_Python_newvarlink();
 bool SWIG_Python_addvarlink(PyObject *object, const char *name, swig_variable_getter get_attr,
                             swig_variable_setter set_attr, bool read_only = false);
 
+// Takes away the variables that were added since `kept` was the head of the list. REQUIRES:
+// `object` is a link object.
+void SWIG_Python_droplinks(PyObject *object, const swig_varlink_entry *kept);
+
 // The module's one link object, borrowed, made on first use and kept for the life of the process.
 // Null with an exception if it cannot be made.
 PyObject *SWIG_Python_cvar();

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "runtime/native_notes.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
 
@@ -51,6 +52,10 @@ PyObject *new_zeroes(const Element &element, std::size_t count) {
     PyObject *object = data != nullptr
                            ? new_array(element, static_cast<unsigned char *>(data), count)
                            : PyErr_NoMemory();
+    if (object != nullptr && !ombra::note_array(data, count)) {
+        Py_CLEAR(object);
+        PyErr_NoMemory();
+    }
     if (object == nullptr)
         std::free(data);
     else
@@ -58,13 +63,15 @@ PyObject *new_zeroes(const Element &element, std::size_t count) {
     return object;
 }
 
-// Bytes of a str stand for numbers where the elements are bytes.
+// The values as a tuple: a list could change while one of them is looked at. Bytes of a str stand
+// for numbers where the elements are bytes.
 PyObject *as_items(const Element &element, PyObject *values) {
     if (PyString_Check(values) && element.form == Form::number && element.size == 1) {
         const ombra::PyRef bytes(PyByteArray_FromObject(values));
-        return bytes != nullptr ? PySequence_List(bytes.get()) : nullptr;
+        return bytes != nullptr ? PySequence_Tuple(bytes.get()) : nullptr;
     }
-    return PySequence_Fast(values, "an array takes a sequence");
+    const ombra::PyRef items(PySequence_Fast(values, "an array takes a sequence"));
+    return items != nullptr ? PySequence_Tuple(items.get()) : nullptr;
 }
 
 int store_item(Array *self, Py_ssize_t index, PyObject *value);
@@ -91,6 +98,7 @@ void array_dealloc(PyObject *object) {
     if (self->weak_references != nullptr) PyObject_ClearWeakRefs(object);
     unsigned char *own_memory = self->is_view ? nullptr : self->data;
     if (self->pointer != nullptr) forget_view(object);  // whoever holds `this` finds a null pointer
+    if (own_memory != nullptr) ombra::forget_array(own_memory);
     std::free(own_memory);
     Py_CLEAR(self->pointer);
     Py_CLEAR(self->kept);
@@ -290,35 +298,39 @@ const char kDoc[] =
     "place, with len, index, slices and iteration. Passes wherever the SDK takes a `type *`:\n\n"
     "    Array('int', 16)    Array('bcm_mac_t', ['00:11:22:33:44:55'])    Array('uint8', 'bytes')";
 
+// Readies the type; null with an error, and the next call tries again.
+PyTypeObject *ready_type() {
+    number.nb_int = first_as_int;
+    sequence.sq_length = array_length;
+    sequence.sq_item = array_item;
+    sequence.sq_ass_item = array_set_item;
+    mapping.mp_length = array_length;
+    mapping.mp_subscript = array_subscript;
+    mapping.mp_ass_subscript = array_set_subscript;
+    Py_REFCNT(&type_object) = 1;
+    type_object.tp_name = "_OmbraSdkV2Companion.Array";
+    type_object.tp_basicsize = sizeof(Array);
+    type_object.tp_dealloc = array_dealloc;
+    type_object.tp_repr = array_repr;
+    type_object.tp_as_number = &number;
+    type_object.tp_as_sequence = &sequence;
+    type_object.tp_as_mapping = &mapping;
+    type_object.tp_hash = PyObject_HashNotImplemented;
+    type_object.tp_flags = Py_TPFLAGS_DEFAULT;
+    type_object.tp_doc = kDoc;
+    type_object.tp_richcompare = array_compare;
+    type_object.tp_weaklistoffset = offsetof(Array, weak_references);
+    type_object.tp_methods = methods;
+    type_object.tp_getset = attributes;
+    type_object.tp_new = array_new;
+    return PyType_Ready(&type_object) == 0 ? &type_object : nullptr;
+}
+
 }  // namespace
 
 PyTypeObject *array_type() {
-    static PyTypeObject *const ready = []() -> PyTypeObject * {
-        number.nb_int = first_as_int;
-        sequence.sq_length = array_length;
-        sequence.sq_item = array_item;
-        sequence.sq_ass_item = array_set_item;
-        mapping.mp_length = array_length;
-        mapping.mp_subscript = array_subscript;
-        mapping.mp_ass_subscript = array_set_subscript;
-        Py_REFCNT(&type_object) = 1;
-        type_object.tp_name = "_OmbraSdkV2Companion.Array";
-        type_object.tp_basicsize = sizeof(Array);
-        type_object.tp_dealloc = array_dealloc;
-        type_object.tp_repr = array_repr;
-        type_object.tp_as_number = &number;
-        type_object.tp_as_sequence = &sequence;
-        type_object.tp_as_mapping = &mapping;
-        type_object.tp_hash = PyObject_HashNotImplemented;
-        type_object.tp_flags = Py_TPFLAGS_DEFAULT;
-        type_object.tp_doc = kDoc;
-        type_object.tp_richcompare = array_compare;
-        type_object.tp_weaklistoffset = offsetof(Array, weak_references);
-        type_object.tp_methods = methods;
-        type_object.tp_getset = attributes;
-        type_object.tp_new = array_new;
-        return PyType_Ready(&type_object) == 0 ? &type_object : nullptr;
-    }();
+    static PyTypeObject *ready = nullptr;
+    if (ready == nullptr) ready = ready_type();
     return ready;
 }
 

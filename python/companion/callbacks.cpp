@@ -1,6 +1,9 @@
 // Finding the callable of a native call, running it, and cookies and bindings.
 #include "python/companion/callbacks.h"
 
+#include <pythread.h>
+
+#include <algorithm>
 #include <cstring>
 #include <new>
 #include <unordered_map>
@@ -10,6 +13,7 @@
 #include "convert/results.h"
 #include "generated/type_slots.h"
 #include "python/companion/array.h"
+#include "runtime/exit_count.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
 
@@ -22,18 +26,25 @@ namespace {
 //
 // A cookie is no address but a number that is used once, far from all memory: one that was
 // released, or is no cookie at all, finds nothing and touches nothing.
-using Cookies = std::unordered_map<std::uint64_t, ombra::PyRef>;
-using Bindings = std::unordered_map<const Callback *, ombra::PyRef>;
+struct Callable {
+    ombra::PyRef object;
+    const PyInterpreterState *home;  // whose it is
+};
 
-Cookies &cookies() {
-    static auto &table = *new Cookies;
-    return table;
+using Cookies = std::unordered_map<std::uint64_t, Callable>;
+using Bindings = std::unordered_map<const Callback *, Callable>;
+
+// In place, so that nothing can fail.
+template <typename Table>
+Table &lasting() {
+    alignas(Table) static unsigned char storage[sizeof(Table)];
+    static auto *const table = new (storage) Table;
+    return *table;
 }
 
-Bindings &bindings() {
-    static auto &table = *new Bindings;
-    return table;
-}
+Cookies &cookies() { return lasting<Cookies>(); }
+
+Bindings &bindings() { return lasting<Bindings>(); }
 
 std::uint64_t next_cookie() {
     static std::uint64_t last = 0x4F4D000000000000;  // above every address of a process
@@ -42,7 +53,7 @@ std::uint64_t next_cookie() {
 
 PyObject *find_cookie(const void *pointer) {
     const auto found = cookies().find(reinterpret_cast<std::uint64_t>(pointer));
-    return found != cookies().end() ? found->second.get() : nullptr;
+    return found != cookies().end() ? found->second.object.get() : nullptr;
 }
 
 // The callable of a call: new reference, or null. `cookie` receives the argument that named it.
@@ -57,7 +68,7 @@ ombra::PyRef find_callable(const Callback &callback, const Argument *arguments, 
         }
     }
     const auto bound = bindings().find(&callback);
-    return bound != bindings().end() ? ombra::new_ref(bound->second.get()) : nullptr;
+    return bound != bindings().end() ? ombra::new_ref(bound->second.object.get()) : nullptr;
 }
 
 PyObject *pointer_object(const Argument &argument) {
@@ -161,11 +172,41 @@ int call_python(const Callback &callback, const Argument *arguments, std::size_t
     return answer;
 }
 
+// Lets go of an interpreter's callables. Code of theirs may run as they die: the table is in order
+// by then.
+template <typename Table>
+void drop_callables(Table &table, const PyInterpreterState *home) {
+    const auto is_of_home = [&](const auto &entry) { return entry.second.home == home; };
+    for (auto found = table.begin(); found != table.end();) {
+        found = std::find_if(found, table.end(), is_of_home);
+        if (found == table.end()) return;
+        const auto node = table.extract(found);
+        found = table.begin();
+    }
+}
+
+// The end of a second interpreter: its `sys` lets go of this capsule.
+void end_of_interpreter(PyObject *) {
+    const PyInterpreterState *const home = PyThreadState_GET()->interp;
+    drop_callables(cookies(), home);
+    drop_callables(bindings(), home);
+}
+
+// False with MemoryError.
+bool hear_of_the_end() {
+    static const char kKey[] = "_OmbraSdkV2Companion.end";
+    PyObject *const names = PyThreadState_GET()->interp->sysdict;
+    if (is_first_interpreter() || PyDict_GetItemString(names, kKey) != nullptr) return true;
+    const ombra::PyRef capsule(PyCapsule_New(&bindings(), kKey, end_of_interpreter));
+    return capsule != nullptr && PyDict_SetItemString(names, kKey, capsule.get()) == 0;
+}
+
 // Enters a callable into a table. False with MemoryError.
 template <typename Table, typename Key>
 bool enter(Table &table, Key key, PyObject *callable) {
+    if (!hear_of_the_end()) return false;
     try {
-        table.emplace(key, ombra::new_ref(callable));
+        table.emplace(key, Callable{ombra::new_ref(callable), PyThreadState_GET()->interp});
         return true;
     } catch (const std::bad_alloc &) {
         PyErr_NoMemory();
@@ -184,6 +225,16 @@ const Callback *callback_of_object(PyObject *object) {
     return callback;
 }
 
+// Whether this thread holds the interpreter lock, under whichever thread state: that of a second
+// interpreter is not the one that PyGILState_Ensure knows, and would be waited for for ever.
+// Another thread's state, which can go at any time, is only looked at by a thread that runs Python
+// and has let go of the lock.
+bool holds_interpreter_lock() {
+    if (PyGILState_GetThisThreadState() == nullptr) return false;
+    const PyThreadState *const current = _PyThreadState_Current;
+    return current != nullptr && current->thread_id == PyThread_get_thread_ident();
+}
+
 bool check_callable(PyObject *object) {
     if (!PyCallable_Check(object)) {
         PyErr_SetString(PyExc_TypeError, "a callable is wanted");
@@ -194,8 +245,21 @@ bool check_callable(PyObject *object) {
 
 }  // namespace
 
+bool is_first_interpreter() {
+    PyInterpreterState *first = PyInterpreterState_Head();  // new ones are put in front
+    while (PyInterpreterState *next = PyInterpreterState_Next(first)) first = next;
+    return PyThreadState_GET()->interp == first;
+}
+
+void tell_live_callbacks() {
+    ombra::tell_live("_OmbraSdkV2Companion", cookies().size(), "cookie");
+    for (const auto &bound : bindings())
+        ombra::tell_live("_OmbraSdkV2Companion", 1, bound.first->name);
+}
+
 int run_callback(const Callback &callback, const Argument *arguments, std::size_t count) {
     if (Py_IsInitialized() == 0) return callback.answers.failure;
+    if (holds_interpreter_lock()) return call_python(callback, arguments, count);
     const PyGILState_STATE state = PyGILState_Ensure();
     const int answer = call_python(callback, arguments, count);
     PyGILState_Release(state);
@@ -248,7 +312,7 @@ PyObject *bind(PyObject *, PyObject *args) {
     if (callback == nullptr || (callable != Py_None && !check_callable(callable))) return nullptr;
     auto node = bindings().extract(callback);
     if (callable != Py_None && !enter(bindings(), callback, callable)) return nullptr;
-    return node.empty() ? ombra::new_ref(Py_None).release() : node.mapped().release();
+    return node.empty() ? ombra::new_ref(Py_None).release() : node.mapped().object.release();
 }
 
 }  // namespace companion

@@ -11,7 +11,9 @@
 // What it returns goes to the SDK: a number, or None for success. If it raises, the exception
 // goes to the hook of callback_errors(), by default sys.excepthook, and the SDK gets a failure,
 // which ends a traversal; so it does when there is no callable. After the interpreter has ended
-// every callback answers with a failure.
+// every callback answers with a failure; the callables of a second interpreter are let go when that
+// one ends. A callable runs in the interpreter whose call led to it, and in the first one on a
+// native thread.
 //
 // A structure that comes as an argument is the SDK's and lives until the callable returns. The
 // object that stands for it is then emptied: a copy() is what may be kept, and neither the object
@@ -63,6 +65,12 @@ const Callback *find_callback(const char *name);
 
 // The built-in that is called from Python: TypeError.
 PyObject *refuse_call(PyObject *, PyObject *);
+
+// Whether the calling interpreter is the first of the process, which ends last.
+bool is_first_interpreter();
+
+// Tells on standard error how many cookies are live, and which callbacks are bound.
+void tell_live_callbacks();
 
 // The functions of the module, METH_O but for bind(callback, callable). A cookie is a number that
 // is used once and no address: a stale one finds nothing. It keeps its callable until it is

@@ -6,16 +6,20 @@
 
 #include <Python.h>
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <new>
-#include <vector>
 
-#include "convert/readers.h"
+#include "convert/results.h"
+#include "generated/type_slots.h"
 #include "python/companion/array.h"
 #include "python/companion/callbacks.h"
 #include "python/companion/instance.h"
 #include "runtime/client_data.h"
+#include "runtime/exit_count.h"
 #include "runtime/module_entry.h"
+#include "runtime/native_notes.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
 #include "toolkit/ptr.h"
@@ -28,16 +32,30 @@ namespace {
 
 using Counted = Lumo::Ptr<Lumo::PtrInterface>;
 
-// The native memory of a value object and its element; null with an exception.
-void *value_place(PyObject *object, const Element *&element) {
-    const SwigPyObject *pointer = SWIG_Python_GetSwigThis(object);
+constexpr char kName[] = "_OmbraSdkV2Companion";
+
+// The pointer object of a value object, borrowed, and its element; null with an exception. What it
+// points to is there.
+SwigPyObject *value_pointer(PyObject *object, const Element *&element) {
+    SwigPyObject *pointer = SWIG_Python_GetSwigThis(object);
     element = pointer != nullptr ? element_behind(pointer->type) : nullptr;
     if (element == nullptr || element->form == Form::structure) {
         PyErr_SetString(PyExc_TypeError, "a value object is wanted");
         return nullptr;
     }
-    if (pointer->ptr == nullptr) PyErr_SetString(PyExc_ValueError, "the value is gone");
-    return pointer->ptr;
+    if (pointer->ptr == nullptr) {
+        PyErr_SetString(PyExc_ValueError, "the value is gone");
+        return nullptr;
+    }
+    return pointer;
+}
+
+// Takes the note of an owned object away, wherever it was made. False with ValueError where it is
+// none, or none any more.
+bool take_note(const SwigPyObject &pointer) {
+    return ombra::forget_owned(pointer.ptr, pointer.type) ||
+           ombra::forget_owned_elsewhere(pointer.ptr, pointer.type) ||
+           ombra::may_free_unnoted(pointer.ptr);
 }
 
 // A callback that travels as a value: none given means the one that calls Python.
@@ -66,17 +84,15 @@ PyObject *new_value(PyObject *, PyObject *args) {
         stored = store(*element, place, value);
     else if (element->form == Form::code_pointer)
         stored = store_own_callback(*element, place);
-    PyObject *object = stored ? SWIG_Python_NewPointerObj(place, swig_type_slots[element->slot],
-                                                          FLAG_OWN | FLAG_NOPROXY)
-                              : nullptr;
-    if (object == nullptr) ::operator delete(place);
-    return object;
+    if (stored) return ombra::own_bare(place, swig_type_slots[element->slot]);
+    ::operator delete(place);
+    return nullptr;
 }
 
 PyObject *get_value(PyObject *, PyObject *object) {
     const Element *element = nullptr;
-    void *place = value_place(object, element);
-    return place != nullptr ? load(*element, place, object) : nullptr;
+    const SwigPyObject *pointer = value_pointer(object, element);
+    return pointer != nullptr ? load(*element, pointer->ptr, object) : nullptr;
 }
 
 // set_value(object, value)
@@ -85,8 +101,8 @@ PyObject *set_value(PyObject *, PyObject *args) {
     PyObject *value = nullptr;
     if (!PyArg_ParseTuple(args, "OO:set_value", &object, &value)) return nullptr;
     const Element *element = nullptr;
-    void *place = value_place(object, element);
-    if (place == nullptr || !store(*element, place, value)) return nullptr;
+    const SwigPyObject *pointer = value_pointer(object, element);
+    if (pointer == nullptr || !store(*element, pointer->ptr, value)) return nullptr;
     Py_RETURN_NONE;
 }
 
@@ -95,18 +111,17 @@ PyObject *delete_value(PyObject *, PyObject *args) {
     PyObject *object = nullptr;
     const Element *element = nullptr;
     if (!PyArg_UnpackTuple(args, "delete_value", 1, 1, &object)) return nullptr;
-    void *place = value_place(object, element);
-    if (place == nullptr) return nullptr;
-    if (Py_TYPE(object) == array_type())
-        return PyErr_Format(PyExc_TypeError, "an Array frees its memory by itself");
-    SWIG_Python_GetSwigThis(object)->own = 0;
-    ::operator delete(place);
+    SwigPyObject *pointer = value_pointer(object, element);
+    if (pointer == nullptr) return nullptr;
+    pointer->own = 0;
+    if (!take_note(*pointer)) return nullptr;
+    ::operator delete(pointer->ptr);
     Py_RETURN_NONE;
 }
 
-// The counted pointer in a holder; null with TypeError.
-Counted *held(PyObject *object) {
-    const SwigPyObject *pointer = SWIG_Python_GetSwigThis(object);
+// The pointer object of a holder, borrowed; null with TypeError.
+SwigPyObject *holder_pointer(PyObject *object) {
+    SwigPyObject *pointer = SWIG_Python_GetSwigThis(object);
     const char *end = pointer != nullptr && pointer->type != nullptr
                           ? std::strstr(pointer->type->name, "__Ptr")
                           : nullptr;
@@ -114,31 +129,35 @@ Counted *held(PyObject *object) {
         PyErr_SetString(PyExc_TypeError, "a holder of a counted pointer is wanted");
         return nullptr;
     }
-    return static_cast<Counted *>(pointer->ptr);
+    return pointer;
 }
 
 // The __swig_destroy__ of holders: drops the reference and the holder.
 PyObject *delete_holder(PyObject *, PyObject *args) {
     PyObject *object = nullptr;
     if (!PyArg_UnpackTuple(args, "delete_holder", 1, 1, &object)) return nullptr;
-    Counted *holder = held(object);
-    if (holder == nullptr) return nullptr;
-    SWIG_Python_GetSwigThis(object)->own = 0;
-    delete holder;
+    SwigPyObject *pointer = holder_pointer(object);
+    if (pointer == nullptr) return nullptr;
+    pointer->own = 0;
+    if (!take_note(*pointer)) return nullptr;
+    delete static_cast<Counted *>(pointer->ptr);
     Py_RETURN_NONE;
 }
 
 // A pointer object for what a holder holds, of the type named in front of "__Ptr" where there is
 // one, else of `void *`; None for null.
 PyObject *held_pointer(PyObject *, PyObject *object) {
-    const Counted *holder = held(object);
-    if (holder == nullptr) return nullptr;
-    const char *name = SWIG_Python_GetSwigThis(object)->type->name;
-    std::vector<char> target(name, name + std::strlen(name) - (sizeof "__Ptr" - 1));
-    target.push_back('\0');
-    swig_type_info *type = SWIG_MangledTypeQueryModule(&swig_module, &swig_module, target.data());
+    const SwigPyObject *pointer = holder_pointer(object);
+    if (pointer == nullptr) return nullptr;
+    const auto *holder = static_cast<Counted *>(pointer->ptr);
+    const char *name = pointer->type->name;
+    const ombra::PyRef target(PyString_FromStringAndSize(
+        name, static_cast<Py_ssize_t>(std::strlen(name) - (sizeof "__Ptr" - 1))));
+    if (target == nullptr) return nullptr;
+    swig_type_info *type =
+        SWIG_MangledTypeQueryModule(&swig_module, &swig_module, PyString_AS_STRING(target.get()));
     return SWIG_Python_NewPointerObj(holder->get(),
-                                     type != nullptr ? type : SWIG_Python_TypeQuery("_p_void"), 0);
+                                     type != nullptr ? type : swig_type_slots[slots::_p_void], 0);
 }
 
 // view(type, pointer, count=1, owner=pointer): an Array over native memory.
@@ -159,14 +178,75 @@ PyObject *view(PyObject *, PyObject *args) {
                     owner != nullptr ? owner : object);
 }
 
+// Ends an object whose type has `row` as its destructor: 1, or 0 for any other object; -1 with
+// ValueError for one that Python does not own, or no more. The pointer object is null from then on,
+// and keeps the memory as a link of its chain, so that what was read out of it in place stays good
+// for as long as it keeps the object.
+int retire(PyObject *row, PyObject *object) {
+    SwigPyObject *pointer = SWIG_Python_GetSwigThis(object);
+    const SwigPyClientData *data =
+        pointer != nullptr && pointer->type != nullptr ? pointer->type->client_data : nullptr;
+    if (data == nullptr || data->destroy != row || pointer->ptr == nullptr) return 0;
+    pointer->own = 0;
+    if (!ombra::is_owned_anywhere(pointer->ptr, pointer->type) &&
+        !ombra::may_free_unnoted(pointer->ptr)) {
+        return -1;
+    }
+    PyObject *memory = SwigPyObject_New(pointer->ptr, pointer->type, FLAG_OWN);
+    if (memory == nullptr) return -1;
+    ombra::as_pointer_object(memory)->next = pointer->next;
+    pointer->next = memory;
+    pointer->ptr = nullptr;
+    return 1;
+}
+
+// A delete_ row as people have it.
+PyObject *retire_by_row(PyObject *row, PyObject *args) {
+    const int retired = PyTuple_GET_SIZE(args) == 1 ? retire(row, PyTuple_GET_ITEM(args, 0)) : 0;
+    if (retired == 0) return PyObject_Call(row, args, nullptr);
+    return retired > 0 ? ombra::new_ref(Py_None).release() : nullptr;
+}
+
+// Room for so many methods, which lasts: the interpreter keeps them. Null with MemoryError.
+PyMethodDef *deleter_methods(std::size_t count) {
+    static PyMethodDef *room = nullptr;
+    static std::size_t size = 0;
+    if (room != nullptr && count <= size) return room;  // a reload
+    auto *const made = PyMem_New(PyMethodDef, count);
+    if (made == nullptr) return reinterpret_cast<PyMethodDef *>(PyErr_NoMemory());
+    size = count;
+    return room = made;
+}
+
+// add_deleters(namespace, rows): enters a function of its name for each delete_ row.
+PyObject *add_deleters(PyObject *, PyObject *args) {
+    PyObject *target = nullptr;
+    PyObject *rows = nullptr;
+    if (!PyArg_ParseTuple(args, "O!O!:add_deleters", &PyDict_Type, &target, &PyList_Type, &rows))
+        return nullptr;
+    const ombra::PyRef module(PyString_FromString("OmbraSdkV2Helper"));
+    PyMethodDef *method = deleter_methods(static_cast<std::size_t>(PyList_GET_SIZE(rows)));
+    if (module == nullptr || method == nullptr) return nullptr;
+    for (Py_ssize_t i = 0; i < PyList_GET_SIZE(rows); ++i, ++method) {
+        PyObject *const row = PyList_GET_ITEM(rows, i);
+        if (!PyCFunction_Check(row)) return PyErr_Format(PyExc_TypeError, "rows are wanted");
+        const PyMethodDef &native = *reinterpret_cast<PyCFunctionObject *>(row)->m_ml;
+        *method = {native.ml_name, retire_by_row, METH_VARARGS, native.ml_doc};
+        const ombra::PyRef made(PyCFunction_NewEx(method, row, module.get()));
+        if (made == nullptr || PyDict_SetItemString(target, native.ml_name, made.get()) != 0)
+            return nullptr;
+    }
+    Py_RETURN_NONE;
+}
+
 // register_class(type, class): instances of the class stand for values of the type from now on.
 PyObject *register_class(PyObject *, PyObject *args) {
     const char *name = nullptr;
     PyObject *proxy_class = nullptr;
     if (!PyArg_ParseTuple(args, "sO:register_class", &name, &proxy_class)) return nullptr;
-    std::vector<char> pretty(name, name + std::strlen(name));
-    pretty.insert(pretty.end(), {' ', '*', '\0'});
-    swig_type_info *type = SWIG_Python_TypeQuery(pretty.data());
+    const ombra::PyRef pretty(PyString_FromFormat("%s *", name));
+    if (pretty == nullptr) return nullptr;
+    swig_type_info *type = ombra::find_spelling(&swig_module, PyString_AS_STRING(pretty.get()));
     if (type == nullptr)
         return PyErr_Format(PyExc_ValueError, "no native type is called '%s'", name);
     const ombra::PyRef unpacked(PyTuple_Pack(1, proxy_class));
@@ -209,6 +289,12 @@ PyObject *take_names(PyObject *, PyObject *args) {
     return names.release();
 }
 
+// A class can be registered for the whole process alone. One of another interpreter than the first
+// would end before the others, and leave them instances whose code is gone.
+PyObject *in_first_interpreter(PyObject *, PyObject *) {
+    return PyBool_FromLong(is_first_interpreter());
+}
+
 // native_types(): the names that Array takes.
 PyObject *native_types(PyObject *, PyObject *) {
     ombra::PyRef list(PyList_New(static_cast<Py_ssize_t>(element_count)));
@@ -232,11 +318,16 @@ constexpr PyMethodDef own_methods[] = {
      "view(type, pointer, count=1, owner=pointer) -> Array over native memory, which reaches as "
      "far "
      "as the caller says. Keeps `owner`."},
+    {"add_deleters", add_deleters, METH_VARARGS,
+     "add_deleters(namespace, rows): functions for delete_ rows. What they delete is null, and its "
+     "memory lasts as long as what was read out of it."},
     {"register_class", register_class, METH_VARARGS, "register_class(type, class)"},
     {"take_names", take_names, METH_VARARGS, "take_names(namespace, source) -> public names"},
     {"new_class", new_class, METH_VARARGS, "new_class(name, base, members) -> class"},
     {"add_fields", add_fields, METH_VARARGS,
      "add_fields(members, class_name, table, rows) -> names of the fields added to `members`"},
+    {"in_first_interpreter", in_first_interpreter, METH_NOARGS,
+     "in_first_interpreter() -> bool: whether the interpreter outlives all others of the process"},
     {"native_types", native_types, METH_NOARGS, "native_types(): the names that Array takes"},
     {"cookie", new_cookie, METH_O,
      "cookie(callable) -> pointer: names a callable to a native callback. The callable is kept "
@@ -252,33 +343,50 @@ constexpr PyMethodDef own_methods[] = {
      "away. Returns the one before, or None."},
 };
 
-// The module's own functions, and behind them a built-in for each callback.
-std::vector<PyMethodDef> &all_methods() {
-    static auto &all =
-        *new std::vector<PyMethodDef>(std::begin(own_methods), std::end(own_methods));
+// The module's own functions, and behind them the built-ins of the callbacks and the end. Made
+// once, and never freed, since the interpreter keeps it; null without memory.
+PyMethodDef *all_methods() {
+    static PyMethodDef *all = nullptr;
+    if (all != nullptr) return all;
+    const PyMethodDef *end = callback_methods;
+    while (end->ml_name != nullptr) ++end;
+    const std::size_t count = static_cast<std::size_t>(end + 1 - callback_methods);
+    all = static_cast<PyMethodDef *>(
+        PyMem_Malloc((std::size(own_methods) + count) * sizeof(PyMethodDef)));
+    if (all != nullptr) {
+        std::copy_n(callback_methods, count,
+                    std::copy(std::begin(own_methods), std::end(own_methods), all));
+    }
     return all;
 }
 
-void add_type(PyObject *module, const char *name, PyTypeObject *type) {
-    if (module != nullptr && type != nullptr)
-        PyModule_AddObject(module, name,
-                           ombra::new_ref(reinterpret_cast<PyObject *>(type)).release());
+bool add_type(const char *name, PyTypeObject *type) {
+    PyObject *module = PyImport_AddModule(kName);
+    if (module == nullptr || type == nullptr) return false;
+    PyObject *object = ombra::new_ref(reinterpret_cast<PyObject *>(type)).release();
+    if (PyModule_AddObject(module, name, object) == 0) return true;
+    Py_DECREF(object);
+    return false;
+}
+
+bool add_types() {
+    return add_type("Array", array_type()) && add_type("Instance", instance_type()) &&
+           add_type("Field", field_type());
 }
 
 void init() {
-    std::vector<PyMethodDef> &methods = all_methods();
-    const PyMethodDef *callback = callback_methods;
-    if (methods.size() == std::size(own_methods)) {
-        do {
-            methods.push_back(*callback);
-        } while ((callback++)->ml_name != nullptr);
+    PyMethodDef *methods = all_methods();
+    if (methods == nullptr) {
+        PyErr_NoMemory();
+        return;
     }
-    SWIG_Python_RunEntry({"_OmbraSdkV2Companion", methods.data(), callback_rows, &swig_module,
-                          nullptr, nullptr, nullptr, 0});
-    PyObject *module = PyImport_AddModule("_OmbraSdkV2Companion");
-    add_type(module, "Array", array_type());
-    add_type(module, "Instance", instance_type());
-    add_type(module, "Field", field_type());
+    if (SWIG_Python_RunEntry(
+            {kName, methods, callback_rows, &swig_module, nullptr, nullptr, nullptr, 0}) &&
+        (!add_types() || !ombra::share_notes())) {
+        SWIG_Python_TakeModuleBack(kName);
+        return;
+    }
+    ombra::count_at_exit(kName, tell_live_callbacks);
 }
 
 }  // namespace

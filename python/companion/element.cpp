@@ -5,12 +5,12 @@
 #include <cstring>
 #include <exception>
 #include <limits>
-#include <unordered_map>
 
 #include "convert/mac_text.h"
 #include "convert/port_list.h"
 #include "convert/readers.h"
 #include "convert/results.h"
+#include "generated/type_slots.h"
 #include "python/companion/array.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
@@ -155,6 +155,18 @@ PyObject *load_structure(const Element &element, void *place, PyObject *owner) {
     return alias;
 }
 
+// Where the element of a type stands in a table that needs no memory of its own: with twice as many
+// places as there are types, a free one ends each search.
+const Element *&shortest_for(const swig_type_info *type) {
+    constexpr std::size_t places = 2048;
+
+    static const Element *table[places];
+    std::size_t index = reinterpret_cast<std::uintptr_t>(type) / sizeof(swig_type_info) % places;
+    while (table[index] != nullptr && swig_type_slots[table[index]->slot] != type)
+        index = (index + 1) % places;
+    return table[index];
+}
+
 }  // namespace
 
 PyObject *make_ints(PyObject *list) {
@@ -182,17 +194,16 @@ const Element *find_element(const char *name) {
 }
 
 const Element *element_behind(const swig_type_info *type) {
-    static const auto by_type = [] {
-        std::unordered_map<const swig_type_info *, const Element *> shortest;
+    static bool filled = false;
+    if (!filled) {
         for (const Element *element = elements; element != elements + element_count; ++element) {
-            const Element *&best = shortest[swig_type_slots[element->slot]];
+            const Element *&best = shortest_for(swig_type_slots[element->slot]);
             if (best == nullptr || std::strlen(element->name) < std::strlen(best->name))
                 best = element;
         }
-        return shortest;
-    }();
-    const auto found = by_type.find(type);
-    return found != by_type.end() ? found->second : nullptr;
+        filled = true;
+    }
+    return shortest_for(type);
 }
 
 const Element *element_behind(unsigned slot) { return element_behind(swig_type_slots[slot]); }

@@ -1,5 +1,6 @@
 """From Python objects to native pointers."""
 
+import gc
 import unittest
 
 import _swig_companion as companion
@@ -15,6 +16,16 @@ class Proxy(object):
         self.this = this
 
 
+class NewHolder(object):
+    def __init__(self, this):
+        self.this = this
+
+
+class OldHolder:
+    def __init__(self, this):
+        self.this = this
+
+
 class ConversionTest(CompanionTest):
 
     def test_none_is_a_null_pointer_of_every_type(self):
@@ -23,6 +34,41 @@ class ConversionTest(CompanionTest):
                 self.assertEqual(companion.convert(None, name, flags),
                                  found(0))
             self.assertEqual(companion.convert_function(None, name), found(0))
+
+    def test_look_ups_that_let_go(self):
+        # Keys of the same hash as 'this', whose comparison takes away what
+        # the look-up stands on.
+        class Key(object):
+            def __init__(self, act):
+                self.act = act
+
+            def __hash__(self):
+                return hash('this')
+
+            def __eq__(self, other):
+                self.act()
+                return False
+
+        def outer_lets_go():
+            outer.__dict__.clear()
+            gc.collect()
+
+        def dictionary_goes():
+            inner_of[0].__dict__ = {}
+
+        for act in (outer_lets_go, dictionary_goes):
+            for kind in (NewHolder, OldHolder):
+                inner = kind(None)
+                del inner.this
+                key = Key(lambda: None)
+                inner.__dict__[key] = 1
+                inner.__dict__['this'] = companion.make(BASE, 8)
+                outer = NewHolder(inner)
+                inner_of = [inner] if act is dictionary_goes else []
+                key.act = act
+                del inner, key
+                for _ in range(3):
+                    companion.convert(outer, BASE)
 
     def test_types_and_casts(self):
         for source, wanted, expected in (

@@ -1,11 +1,13 @@
 """Proxy classes: registration, instances, implicit conversion, and the death
 of objects that own."""
 
+import abc
 import StringIO
 import sys
 import unittest
 
 import _swig_companion as companion
+import _swig_neighbour as neighbour
 from companion_support import (
     BASE, CompanionTest, DERIVED, FAILED, found, INT, run_child, UNNAMED)
 
@@ -73,9 +75,17 @@ class RegistrationTest(CompanionTest):
             companion.register_class(BASE, kind)
             self.assertEqual(companion.registered(BASE),
                              (kind, 1, takes_tuple))
-        for kind in (NoDestroy, 5):
-            companion.register_class(BASE, kind)
-            self.assertEqual(companion.registered(BASE), (kind, 1, 0))
+        companion.register_class(BASE, NoDestroy)
+        self.assertEqual(companion.registered(BASE), (NoDestroy, 1, 0))
+
+    def test_what_makes_no_instances_is_refused(self):
+        abstract = abc.ABCMeta('abstract', (object,), {
+            'rest': abc.abstractmethod(lambda self: None)})
+        for kind in (5, 'x', len, lambda value: value, companion,
+                     type(None), type(companion.make(BASE, 8)),
+                     type('Meta', (type,), {}), abstract):
+            self.assertRaises(TypeError, companion.register_class, BASE, kind)
+            self.assertEqual(companion.registered(BASE), (None, 0, 0))
 
 
 class InstanceTest(CompanionTest):
@@ -113,10 +123,6 @@ class InstanceTest(CompanionTest):
         self.assertRaises(KeyError, companion.present, BASE, 8,
                           companion.FLAG_OWN)
         self.assertEqual(companion.destroyed(), [8])
-
-    def test_class_that_makes_no_instances(self):
-        companion.register_class(BASE, 5)
-        self.assertRaises(TypeError, companion.present, BASE, 8)
 
 
 class ImplicitConversionTest(CompanionTest):
@@ -156,8 +162,10 @@ class ImplicitConversionTest(CompanionTest):
         companion.register_class(BASE, int)
         self.assertEqual(companion.convert(8, BASE, companion.FLAG_IMPLICIT),
                          FAILED)
-        companion.register_class(
-            BASE, lambda value: companion.make(INT, value))
+        class OtherType(object):
+            def __new__(cls, value=0):
+                return companion.make(INT, value)
+        companion.register_class(BASE, OtherType)
         self.assertEqual(companion.convert(8, BASE, companion.FLAG_IMPLICIT),
                          FAILED)
 
@@ -195,6 +203,15 @@ class DeathTest(CompanionTest):
         self.assertEqual(companion.destroyed(), [8])
         del kept
         self.assertEqual(companion.destroyed(), [24])
+
+    def test_long_chain_of_two_modules(self):
+        # Their objects know each other's layout, and die in a row.
+        head = companion.make(BASE, 8)
+        for number in xrange(200000):
+            link = (neighbour, companion)[number % 2].make(BASE, 8)
+            link.append(head)
+            head = link
+        del head, link
 
     def test_python_destructor(self):
         seen = []

@@ -330,3 +330,19 @@ class StructureTest(ConformanceTest):
                 self.refuses(row, [wrong], TypeError, in_method(row, 0))
             TALLY.places.add((row.name, 0))
         self.finish()
+
+    def test_a_bound_is_spelled_as_declared(self):
+        name = 'bcm_oam_pm_stats_t_bin_counters'
+        kind = 'uint32 [7+1]'
+        self.assertEqual(getattr(module, name + '_get').__doc__,
+                         name + '_get(self) -> ' + kind)
+        stats = module.new_bcm_oam_pm_stats_t()
+        for value, text in (
+                (5, "in method '%s_set', argument 2 of type '%s'" % (name,
+                                                                     kind)),
+                (None, "invalid null reference in variable 'bin_counters' of "
+                       "type '%s'" % kind)):
+            with self.assertRaises((TypeError, ValueError)) as caught:
+                getattr(module, name + '_set')(stats, value)
+            self.assertEqual(str(caught.exception), text)
+        module.delete_bcm_oam_pm_stats_t(stats)

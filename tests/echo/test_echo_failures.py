@@ -120,7 +120,7 @@ class FailedAllocationTest(EchoTest):
                 break
             self.assertIs(told[0], MemoryError)
             n += 1
-        self.assertEqual((n - 1, told), (1, (None, None)))
+        self.assertEqual((n - 1, told), (2, (None, None)))
 
 
 if __name__ == '__main__':

@@ -49,8 +49,20 @@ class FieldTest(EchoTest):
         owned = _echo.new_echo_pair_t()
         del owned
         self.assertEqual(_echo.live_blocks(), before)
-        # CRASHES: delete_echo_pair_t of an alias, or twice of one object: the
-        # address is no block of its own. What it belongs to cannot be known.
+        # Only what is live and of the class is freed, and once.
+        pair, record = _echo.new_echo_pair_t(), _echo.new_echo_all_t()
+        box, array = _echo.new_intp(), _echo.new_entrydata(1)
+        twin = _echo.pointer(PAIR_TYPE, int(pair))
+        for wrong in (_echo.echo_all_t_pair_get(record),
+                      _echo.pointer(PAIR_TYPE, int(box)),
+                      _echo.pointer(PAIR_TYPE, int(array)),
+                      _echo.pointer(PAIR_TYPE, 8)):
+            self.assertRaises(ValueError, _echo.delete_echo_pair_t, wrong)
+        self.assertTrue(pair.own())
+        self.assertIs(_echo.delete_echo_pair_t(twin), None)
+        self.assertRaises(ValueError, _echo.delete_echo_pair_t, pair)
+        self.assertFalse(pair.own())  # given up before the refusal
+        _echo.delete_entrydata(array)
 
 
 if __name__ == '__main__':

@@ -42,6 +42,39 @@ class ArrayTest(unittest.TestCase):
         self.assertRaises(ValueError, sdk.Array, 'nothing', 1)
         self.assertRaises(IndexError, getattr, sdk.Array('int', 0), 'value')
 
+    def test_values_that_empty_their_list(self):
+        class Emptying(object):
+            def __getattr__(self, name):
+                del values[:]
+                raise AttributeError(name)
+            __slots__ = ()
+        for form in ('bcm_l2_addr_t', 'char *', 'int'):
+            array = sdk.Array(form, 3)
+            for fill in (lambda: sdk.Array(form, values),
+                         lambda: array.__setitem__(slice(None), values)):
+                values = [Emptying(), Emptying(), Emptying()]
+                self.assertRaises((TypeError, ValueError), fill)
+
+    def test_nobody_else_frees_an_array(self):
+        entries = sdk.Array('bcm_l2_addr_t', 2)
+        numbers = sdk.Array('uint8', 4)
+        values = sdk.Array('bcm_port_abil_t', 2)
+        native_array = native.new_uint8Array(4)
+        for delete, wrong in (
+                (native.delete_bcm_l2_addr_t, entries),
+                (native.delete_bcm_l2_addr_t, entries.this),
+                (native.delete_uint8Array, numbers),
+                (native.delete_uint8Array, numbers.this),
+                (companion.delete_value, values),
+                (companion.delete_value, values.this),
+                (companion.delete_value, numbers),
+                (companion.delete_value, native_array)):
+            self.assertRaises(ValueError, delete, wrong)
+        native.delete_uint8Array(native_array)
+        value = sdk.U32(5)
+        companion.delete_value(value)
+        self.assertRaises(ValueError, companion.delete_value, value)
+
     def test_numbers_keep_to_their_range(self):
         for name, least, most in (('int', LEAST, MOST), ('uint8', 0, 255),
                                   ('uint16', 0, 65535),

@@ -175,11 +175,17 @@ class LifetimeTest(unittest.TestCase):
         self.assertEqual(station.label, 'printer')
 
 
+ARRAY_DELETERS = ('delete_uint8Array', 'delete_entrydata',
+                  'delete_trunkMember')
+
+
 class NamesTest(unittest.TestCase):
 
     def test_everything_of_the_module_is_here(self):
         for name, value in vars(native).iteritems():
-            if not name.startswith('__'):
+            if name.startswith('delete_') and name not in ARRAY_DELETERS:
+                self.assertEqual(getattr(sdk, name).__doc__, value.__doc__)
+            elif not name.startswith('__'):
                 self.assertIs(getattr(sdk, name), value, name)
 
     def test_a_star_brings_what_people_use(self):
@@ -193,6 +199,35 @@ class NamesTest(unittest.TestCase):
             'bcm_l2_addr_t_vid_set', 'bcm_l2_addr_t_swigregister', '__all__'})
         for name in names:
             getattr(sdk, name)
+
+    def test_what_was_deleted_is_not_read_any_more(self):
+        before = sdk.Array('int', 1)  # another allocation of the size
+        for made, alias in (
+                (sdk.bcm_ip_addr_t(), lambda made: made.addr),
+                (sdk.bcm_l3_host_t(), lambda made: made.l3a_ip6_addr),
+                (sdk.intp(3), lambda made: made.this)):
+            part = alias(made)
+            delete = getattr(sdk, 'delete_' + type(made).__name__)
+            self.assertRaises(TypeError, delete, before)
+            delete(made)
+            self.assertFalse(made.this.own())
+            self.assertEqual(int(made.this), 0)
+            for field in getattr(made, '_fields', ('value',)):
+                self.assertRaises(ValueError, getattr, made, field)
+            repr(part)  # the memory lasts as long as its part
+            if isinstance(part, sdk.Struct):
+                part.ipv4_addr = 7
+                self.assertEqual(part.ipv4_addr, 7)
+            self.assertIsNone(delete(made))  # a null pointer by now
+            self.assertIsNone(delete(None))
+            self.assertRaises(TypeError, delete, 5)
+        entry = sdk.bcm_l2_addr_t()
+        twin = sdk.Array('bcm_l2_addr_t', 1)
+        self.assertRaises(ValueError, sdk.delete_bcm_l2_addr_t, twin)
+        self.assertRaises(ValueError, sdk.delete_bcm_l2_addr_t, twin[0])
+        entry.this.disown()
+        sdk.delete_bcm_l2_addr_t(entry)
+        self.assertEqual(len(twin), 1)
 
     def test_dir_and_help_read_well(self):
         names = dir(sdk.bcm_ip_addr_t)

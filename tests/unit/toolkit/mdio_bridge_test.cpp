@@ -61,7 +61,8 @@ void TesselApiSetExtMdioAccess(UnitId unit, ExternalPhyId phyId, HamImpl::Ptr ha
 }
 
 // No memory for any pointer object.
-PyObject *SWIG_Python_NewPointerObj(void *, swig_type_info *, int) { return nullptr; }
+PyObject *ombra::noted_pointer(void *, swig_type_info *) { return nullptr; }
+PyObject *ombra::in_proxy(PyObject *bare, const swig_type_info *) { return bare; }
 
 // Constructors that can fail. The program's own definitions go before those of the libraries.
 Lumo::PyObjHandle::PyObjHandle(PyObject *object, bool) : object_(object) {
