@@ -34,15 +34,24 @@ ombra::PyRef import_collector() {
 }
 
 // The result of a function of the collector, or null. No error stays set.
-ombra::PyRef call(PyObject *collector, const char *name) {
-    ombra::PyRef result(PyObject_CallMethod(collector, const_cast<char *>(name), nullptr));
+template <typename... Arguments>
+ombra::PyRef call(PyObject *collector, const char *name, const char *format = nullptr,
+                  Arguments... arguments) {
+    ombra::PyRef result(PyObject_CallMethod(collector, const_cast<char *>(name),
+                                            const_cast<char *>(format), arguments...));
     if (result == nullptr) PyErr_Clear();
     return result;
 }
 
+// A dictionary is known to the collector from its first container on, which is yet to come.
+void age(PyObject *collector, PyObject *dictionary) {
+    if (!_PyObject_GC_IS_TRACKED(dictionary)) PyObject_GC_Track(dictionary);
+    call(collector, "collect", "i", 0);
+}
+
 }  // namespace
 
-ombra::CollectorPause::CollectorPause() {
+ombra::CollectorPause::CollectorPause(PyObject *filled) {
     const SetAside set_aside;
     PyRef collector = import_collector();
     if (collector == nullptr) {
@@ -50,8 +59,9 @@ ombra::CollectorPause::CollectorPause() {
         return;
     }
     const PyRef enabled = call(collector.get(), "isenabled");
-    if (enabled.get() == Py_True && call(collector.get(), "disable") != nullptr)
-        collector_ = std::move(collector);
+    if (enabled.get() != Py_True) return;
+    age(collector.get(), filled);
+    if (call(collector.get(), "disable") != nullptr) collector_ = std::move(collector);
 }
 
 ombra::CollectorPause::~CollectorPause() {

@@ -9,6 +9,7 @@
 #include "runtime/collector_pause.h"
 #include "runtime/hex_text.h"
 #include "runtime/module_list.h"
+#include "runtime/name_hash.h"
 #include "runtime/packed_object.h"
 #include "runtime/pointer_conversion.h"
 
@@ -49,8 +50,17 @@ PyObject *object_of_row(const swig_const_row &row) {
 }
 
 void install_constants(PyObject *dictionary, const swig_constant *first, std::size_t count) {
-    for (const swig_constant *constant = first; constant != first + count; ++constant)
-        SWIG_Python_SetConstant(dictionary, constant->name, PyInt_FromLong(constant->value));
+    ombra::NameHash names;
+    for (const swig_constant *constant = first; constant != first + count; ++constant) {
+        if (constant->length == 0) {
+            SWIG_Python_SetConstant(dictionary, constant->name, PyInt_FromLong(constant->value));
+            continue;
+        }
+        const ombra::PyRef name(names.intern(constant->name, constant->length, constant->shared));
+        const ombra::PyRef value(PyInt_FromLong(constant->value));
+        if (name == nullptr || value == nullptr) return;
+        PyDict_SetItem(dictionary, name.get(), value.get());
+    }
 }
 
 void link_variables(const swig_variable *first, std::size_t count) {
@@ -77,16 +87,24 @@ void install(PyObject *dictionary, const swig_module_definition &definition,
     }
 }
 
-PyObject *init_module(const swig_module_definition &definition) {
-    const ombra::CollectorPause pause;
-    return Py_InitModule4(definition.name, definition.methods, nullptr, nullptr,
-                          PYTHON_API_VERSION);
-}
-
 // The name behind the packages.
 const char *last_part(const char *name) {
     const char *const dot = std::strrchr(name, '.');
     return dot != nullptr ? dot + 1 : name;
+}
+
+// The name that Py_InitModule4 will give the module: inside a package, the importer's own.
+const char *full_name(const char *name) {
+    const char *const context = _Py_PackageContext;
+    return context != nullptr && std::strcmp(last_part(context), name) == 0 ? context : name;
+}
+
+PyObject *init_module(const swig_module_definition &definition) {
+    PyObject *const module = PyImport_AddModule(full_name(definition.name));
+    if (module == nullptr) return nullptr;
+    const ombra::CollectorPause pause(PyModule_GetDict(module));
+    return Py_InitModule4(definition.name, definition.methods, nullptr, nullptr,
+                          PYTHON_API_VERSION);
 }
 
 // The first exception of a thread needs memory of its own. Had here, while there is some, it cannot

@@ -25,6 +25,8 @@ struct swig_const_row {
 struct swig_constant {
     const char *name;
     std::int32_t value;
+    std::uint8_t length = 0;  // of the name; 0 where it is to be counted
+    std::uint8_t shared = 0;  // how many characters the name in front begins with as well
 };
 
 struct swig_variable {

@@ -8,6 +8,7 @@
 
 #include "runtime/collector_pause.h"
 #include "runtime/module_list.h"
+#include "runtime/name_hash.h"
 #include "runtime/packed_object.h"
 #include "tests/unit/runtime/tiny_module.h"
 
@@ -60,7 +61,7 @@ TEST_F(ModuleEntryTest, CollectorPauseLeavesNoTrace) {
         const std::string modules = evaluate("sorted(__import__('sys').modules)");
         PyErr_SetString(PyExc_KeyError, "pending");
         {
-            const ombra::CollectorPause pause;
+            const ombra::CollectorPause pause(tiny::dictionary());
             EXPECT_EQ(tiny::take_error(PyExc_KeyError), "pending");
             EXPECT_EQ(evaluate("gc.isenabled()"), entry.during) << entry.before;
             PyErr_SetString(PyExc_KeyError, "pending");
@@ -69,6 +70,27 @@ TEST_F(ModuleEntryTest, CollectorPauseLeavesNoTrace) {
         EXPECT_EQ(evaluate("gc.isenabled()"), entry.after) << entry.before;
         EXPECT_EQ(evaluate("sorted(__import__('sys').modules)"), modules) << entry.before;
     }
+}
+
+// Also where the interpreter hashes from a seed, as with -R.
+TEST_F(ModuleEntryTest, NamesInOrderHashAsOneByOne) {
+    const auto seed = _Py_HashSecret;
+    for (const long prefix : {0L, 5L}) {
+        _Py_HashSecret.prefix = prefix;
+        ombra::NameHash names;
+        const char *before = "";
+        for (const char *text : {"in order", "in order of", "in ordinary", "other"}) {
+            const std::string name = text + std::to_string(prefix);
+            std::size_t shared = 0;
+            while (before[shared] != '\0' && before[shared] == text[shared]) ++shared;
+            const PyRef interned(names.intern(name.c_str(), name.size(), shared));
+            const PyRef fresh(PyString_FromString(name.c_str()));
+            EXPECT_TRUE(PyString_CHECK_INTERNED(interned.get()));
+            EXPECT_EQ(PyObject_Hash(interned.get()), PyObject_Hash(fresh.get())) << name;
+            before = text;
+        }
+    }
+    _Py_HashSecret = seed;
 }
 
 // Runs the entry in a second interpreter, in a process of its own: the variables go into the one
