@@ -10,9 +10,10 @@ A result has one of few forms, and this is the one place that takes them apart:
 """
 
 import _OmbraSdkV2Helper as _native
+from _OmbraSdkV2Classes import NUMBERS as _NUMBERS
 
 # What the numbers mean, by the name behind the family.
-_MEANINGS = {
+MEANINGS = {
     'BCM_E_': {
         'INTERNAL': 'the SDK found itself in a state that must not be',
         'MEMORY': 'out of memory',
@@ -43,19 +44,7 @@ _MEANINGS = {
         'NOTIMPL': 'the command is not implemented',
     },
 }
-_FAMILIES = {'BCM_E_': ('BCM_E_', 'SOC_E_'), 'CMD_': ('CMD_',)}
-
-# Functions that are declared `int` and answer with a number that is no
-# status: counts, lengths, truth values, places. All others are statuses.
-_NUMBERS = frozenset('''
-    bcm_attach_max bcm_ip6_mask_length bcm_ip_mask_length bcm_unit_max
-    bcm_unit_valid diag_parse_range getNumDevices get_copyno_any
-    get_copyno_egq get_copyno_ihb get_copyno_ihp get_copyno_iqm i2xdigit isint
-    l2_traverse_cb packet_compare parseEndOk parse_small_integers pw_running
-    sh_check_attached soc_reg_bytes soc_reg_field_length soc_reg_field_valid
-    soc_reg_port_idx_valid xdigit2i
-'''.split())
-
+FAMILIES = {'BCM_E_': ('BCM_E_', 'SOC_E_'), 'CMD_': ('CMD_',)}
 
 class SdkError(Exception):
     """A status with which the SDK refused. `status` is the number, `name` the
@@ -75,8 +64,8 @@ class SdkError(Exception):
 
 
 def _describe(status, family):
-    for prefix in _FAMILIES[family]:
-        for word, meaning in _MEANINGS[family].iteritems():
+    for prefix in FAMILIES[family]:
+        for word, meaning in MEANINGS[family].iteritems():
             if vars(_native).get(prefix + word) == status:
                 return prefix + word, meaning
     return 'status', 'unknown to the SDK'

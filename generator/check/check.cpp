@@ -297,8 +297,10 @@ class Checker {
     }
 
     void check_departures() {
-        static const std::set<std::string> words = {"append-output", "body", "entry", "overload",
-                                                    "pair"};
+        static const std::set<std::string> words = {"append-output", "body",     "entry",
+                                                    "number",        "overload", "pair"};
+        for (const auto &function : model_.functions)
+            if (function.visible_result == "int") excuse("number", function.row);
         for (const auto &departure : model_.departures) {
             if (!words.contains(departure.word)) {
                 faults_.add(departure.place, "departure-word",

@@ -37,6 +37,10 @@ HOLDERS = (
 # Functions that call back with a cookie: the callback, its place, and the place of the cookie.
 CALLBACKS = {
 @callbacks@}
+
+# Functions whose number is no status: counts, lengths, truth values, places.
+NUMBERS = frozenset((
+@numbers@))
 )";
 
 const std::string kClass = R"(    ('@name@', '''\
@@ -131,6 +135,13 @@ std::string callback_lines(const Model &model) {
     return text;
 }
 
+std::string number_lines(const Model &model) {
+    std::string text;
+    for (const auto &departure : model.departures)
+        if (departure.word == "number") text += "    '" + departure.row + "',\n";
+    return text;
+}
+
 }  // namespace
 
 std::vector<OpaqueValue> opaque_values(const Model &model) {
@@ -159,7 +170,8 @@ std::string emit_proxy(const Model &model) {
                         {"boxes", box_lines(model)},
                         {"values", value_lines(model)},
                         {"holders", holder_lines(model)},
-                        {"callbacks", callback_lines(model)}});
+                        {"callbacks", callback_lines(model)},
+                        {"numbers", number_lines(model)}});
 }
 
 }  // namespace generator
