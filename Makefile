@@ -22,9 +22,8 @@ compile_debug := cmake --build build/debug --parallel $(JOBS) $(quiet)
 python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
 have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
 
-.PHONY: help demo test build product debug bench docs race fuzz soak portable install \
-    install-standin uninstall deb \
-    deb-test root-test format tidy setup configure mutants clean
+.PHONY: help demo test build product debug bench docs docs-test race fuzz soak portable install \
+    install-standin uninstall deb deb-test root-test format tidy setup configure mutants clean
 
 demo: product ## install what is missing, build, and run the quick start
 	@$(call python,examples/quickstart.py)
@@ -46,8 +45,12 @@ bench: product ## compare with hand-written extension code, ctypes, Cython and p
 	@cmake build --log-level=WARNING
 	@$(compile) --target bench
 
-docs: build ## the reference, made from the declarations
-	@$(compile) --target docs
+docs: product ## the reference, made from the declarations: build/reference/index.html
+	@$(compile) --target docs $(quiet)
+
+docs-test: docs ## search it and follow its links in a real browser
+	@setup/packages.sh browser
+	@$(call python,tests/browser/browse.py build/reference)
 
 race: build ## threads of both kinds over the libraries, under ThreadSanitizer
 	@setup/configure.sh threads
@@ -75,7 +78,7 @@ install-standin: build ## install the stand-in, into a folder that no loader sea
 uninstall: ## remove what install and install-standin have put there
 	@packaging/uninstall.sh build
 
-deb: portable ## Debian packages of the module, the stand-in and the documents, in build/deb
+deb: portable docs ## Debian packages of the module, the stand-in and the documents, in build/deb
 	@setup/packages.sh deb
 	@packaging/make_deb.sh build/deb
 

@@ -107,10 +107,7 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
         list.emplace_back("shapes_" + std::to_string(part) + ".cpp",
                           [part](const Model &whole) { return emit_shapes(whole, part); });
     }
-    list.emplace_back("reference/index.md", emit_reference_index);
     for (const auto &header : model.headers) {
-        list.emplace_back(reference_file(header),
-                          [header](const Model &whole) { return emit_reference(whole, header); });
         list.emplace_back(rows_file(header),
                           [header](const Model &whole) { return emit_rows(whole, header); });
         if (has_natives_outside(header)) {

@@ -14,7 +14,8 @@ step "Debian packages: version $version, in $1"
 rm -rf "$out"
 mkdir -p "$tree"
 git archive HEAD README.md docs examples | tar -x -C "$tree"
-cp -r build/made/reference "$tree/reference"
+rm -r "$tree/docs/reference"
+cp -r build/reference "$tree/reference"
 cp -r packaging/debian "$tree/debian"
 find "$tree" -name CMakeLists.txt -delete
 cat > "$tree/debian/changelog" <<CHANGELOG

@@ -24,8 +24,11 @@ functions of the SDK and of the platform, the constants, the variables in
 The plain functions take and return what they always did: a status is a number.
 
     >>> from OmbraSdkV2Helper import *
+    >>> unit = check(addOmbraDevice(0, 1, 0, 0))
+    >>> check(soc_init(unit))
+    0
     >>> link = box('int')
-    >>> check(bcm_port_link_status_get(0, 1, link))
+    >>> check(bcm_port_link_status_get(unit, 1, link))
     0
     >>> link.value
     1
@@ -139,7 +142,7 @@ def _fill(namespace):
     # What `import *` brings and completion shows: all but the rows behind the
     # classes, which stay attributes.
     public.extend(name for name in made if name not in rows
-                  and name[0] != '_')
+                  and name[0] != '_' and ' ' not in name)
     namespace['__all__'] = public
     namespace['_made'] = made_now
     # Where one of the two modules was first imported by an interpreter that

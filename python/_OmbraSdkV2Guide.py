@@ -56,17 +56,37 @@ def _read():
     return entries
 
 
-_entries = _read()
+entries = _read()
 _classes = dict(tables.CLASSES)
 _values = dict((type_name, name) for name, type_name, _ in tables.VALUES)
 _boxes = frozenset(companion.native_types())
 
 
-def _value_of(declared, has_cookie):
-    """How a value of a declared type is made."""
+def _pointed(declared):
+    """'bcm_l2_addr_t' for 'bcm_l2_addr_t const *'; '' for no pointer."""
     pointed = declared[:-2] if declared.endswith(' *') else ''
-    if pointed.endswith(' const'):
-        pointed = pointed[:-6]
+    return pointed[:-6] if pointed.endswith(' const') else pointed
+
+
+def expression(declared):
+    """What makes a value of a declared type, in Python; '' for numbers, which
+    need nothing, and for what only the SDK makes."""
+    pointed = _pointed(declared)
+    for one in (declared, pointed):
+        if one in _classes:
+            return one + '()'
+    if declared in _values:
+        return _values[declared] + '()'
+    if declared == 'bcm_pbmp_t':
+        return '[1, 2]'
+    if declared == 'bcm_mac_t':
+        return "'00:11:22:33:44:55'"
+    return 'box(%r)' % pointed if pointed in _boxes else ''
+
+
+def value_of(declared, has_cookie):
+    """How a value of a declared type is made."""
+    pointed = _pointed(declared)
     callback = getattr(companion, declared, None)
     if pointed in _classes:
         return 'make one with %s(), or several with Array(%r, n)' % (
@@ -90,12 +110,17 @@ def _value_of(declared, has_cookie):
     return ''
 
 
-def _parameters(function):
+def fields(name):
+    """The lines "field: type" of a structure."""
+    return _classes[name]
+
+
+def parameters(function):
     names = (function.__doc__ or '').partition('(')[2].partition(')')[0]
     return names.split(', ') if names else []
 
 
-def _result(function, entry):
+def result_of(function, entry):
     declared = result_type(function)
     if entry.appended:
         return '[status, %s]' % entry.appended
@@ -113,11 +138,16 @@ def _stem(name):
     return stem if verb in _VERBS else name
 
 
+_relations = {}  # stem -> names, filled when first asked
+
+
 def related(name):
     """Names of the functions that differ in their verb alone."""
-    stem = _stem(name)
-    return sorted(other for other in _entries
-                  if other != name and _stem(other) == stem)
+    if not _relations:
+        for other in sorted(entries):
+            _relations.setdefault(_stem(other), []).append(other)
+    return [other for other in _relations.get(_stem(name), ())
+            if other != name]
 
 
 def description(thing):
@@ -126,19 +156,19 @@ def description(thing):
     if name in _classes:
         return ('%s: a structure. Fields and their types:\n\n%s'
                 % (name, _classes[name])).rstrip()
-    if name not in _entries:
+    if name not in entries:
         value = vars(native).get(name)
         if isinstance(value, (int, long)):
             return '%s = %d, a constant' % (name, value)
         raise ValueError('nothing is called %r; find() searches' % name)
-    function, entry = getattr(native, name), _entries[name]
+    function, entry = getattr(native, name), entries[name]
     lines = [function.__doc__.splitlines()[0],
              '    ' + entry.purpose
              + (' ' + entry.section + '.' if entry.section else '')]
-    for parameter, declared in zip(_parameters(function), entry.types):
+    for parameter, declared in zip(parameters(function), entry.types):
         lines.append(('    %-12s %s' % (parameter, declared)).ljust(40)
-                     + ' ' + _value_of(declared, name in tables.CALLBACKS))
-    lines.append('    returns      ' + _result(function, entry))
+                     + ' ' + value_of(declared, name in tables.CALLBACKS))
+    lines.append('    returns      ' + result_of(function, entry))
     others = related(name)
     if others:
         lines.append('    related      ' + ', '.join(others))
@@ -154,15 +184,15 @@ def find(words):
     together."""
     wanted = words.lower().split()
     by_name, by_purpose = [], []
-    names = set(_entries) | set(_classes) | set(
+    names = set(entries) | set(_classes) | set(
         name for name, value in vars(native).iteritems()
         if isinstance(value, (int, long)))
     for name in names:
         lower = name.lower()
         if all(word in lower for word in wanted):
             by_name.append(name)
-        elif name in _entries:
-            entry = _entries[name]
+        elif name in entries:
+            entry = entries[name]
             text = ' '.join((lower, entry.purpose, entry.section)).lower()
             if all(word in text for word in wanted):
                 by_purpose.append(name)

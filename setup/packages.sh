@@ -2,7 +2,7 @@
 # Installs what a group of make targets needs and the machine lacks. Does nothing,
 # in a fraction of a second, when all of it is there.
 #
-# usage: setup/packages.sh build|format|tidy|fuzz|root|deb
+# usage: setup/packages.sh build|browser|format|tidy|fuzz|root|deb
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . setup/lib.sh
@@ -10,12 +10,13 @@ cd "$(dirname "$0")/.."
 case "${1:-}" in
     # g++ brings the runtimes of AddressSanitizer and UBSan along.
     build)  packages=(g++ cmake ninja-build libgtest-dev libedit-dev) ;;
+    browser) packages=(chromium chromium-driver) ;;
     format) packages=(clang-format-16) ;;
     tidy)   packages=(clang-tidy) ;;
     root)   packages=(debootstrap) ;;
     deb)    packages=(dpkg-dev debhelper fakeroot lintian) ;;
     fuzz)   packages=(clang libclang-rt-dev) ;;
-    *)      die "usage: setup/packages.sh build|format|tidy|fuzz|root|deb" ;;
+    *)      die "usage: setup/packages.sh build|browser|format|tidy|fuzz|root|deb" ;;
 esac
 
 mapfile -t missing < <(missing_packages "${packages[@]}")

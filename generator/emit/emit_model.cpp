@@ -64,6 +64,8 @@ std::string row_text(const Model &model, const Row &row) {
         object.add_raw("result", conversion(model, row.result).text());
     if (row.function != nullptr) {
         object.add("native", row.function->native);
+        object.add("header", row.function->place.file);
+        object.add("section", row.function->section);
         object.add("hand_written", row.function->hand_written);
         object.add("appended", row.function->appended);
         object.add_raw("module_native", row.function->module_native ? "true" : "false");
@@ -135,9 +137,18 @@ std::string emit_model(const Model &model) {
                                 .add("detail", variable.detail)
                                 .text());
     }
-    return "{\"rows\": " + lines(rows) + ",\n\"classes\": " + lines(classes) +
-           ",\n\"types\": " + lines(types) + ",\n\"install\": " + lines(install) +
-           ",\n\"variables\": " + lines(variables) + "}\n";
+    std::vector<std::string> headers;
+    for (const auto &header : model.headers) {
+        const auto purpose = model.purposes.find(header);
+        headers.push_back(
+            Object()
+                .add("file", header)
+                .add("purpose", purpose == model.purposes.end() ? "" : purpose->second)
+                .text());
+    }
+    return "{\"headers\": " + lines(headers) + ",\n\"rows\": " + lines(rows) +
+           ",\n\"classes\": " + lines(classes) + ",\n\"types\": " + lines(types) +
+           ",\n\"install\": " + lines(install) + ",\n\"variables\": " + lines(variables) + "}\n";
 }
 
 }  // namespace generator

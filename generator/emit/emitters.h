@@ -22,7 +22,7 @@ std::string emit_type_slots(const Model &model);     // names for the slots, for
 std::string emit_install_table(const Model &model);  // constants, links, and their order
 std::string emit_constants_header(const Model &model);
 std::string emit_constant_names(const Model &model);  // number and name, for the stand-in's texts
-std::string emit_model(const Model &model);           // JSON, for the tests and tools
+std::string emit_model(const Model &model);           // JSON, for the tests, tools and reference
 std::string emit_standin(const Model &model, const std::string &header);  // what no source models
 std::string emit_standin_calls(const Model &model);  // who answers each function
 // The rule that makes a function's answer, where no source models it.
@@ -56,11 +56,6 @@ struct OpaqueValue {
 
 // All of them, by name.
 std::vector<OpaqueValue> opaque_values(const Model &model);
-
-// The reference for people, a page a header, and its index.
-std::string emit_reference(const Model &model, const std::string &header);
-std::string emit_reference_index(const Model &model);
-std::string reference_file(const std::string &header);
 
 // "rows_sdk_bcm_l2.cpp" for "platform/sdk/bcm/l2.h".
 std::string rows_file(const std::string &header);

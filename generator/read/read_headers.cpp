@@ -104,8 +104,11 @@ class Parser {
                         "the first line is no comment; say there what the chapter is for");
             return;
         }
-        const bool line_comment = source_[1] == '/';
-        std::string text = source_.substr(2, source_.find(line_comment ? "\n" : "*/", 2) - 2);
+        // A comment of lines says it in its first paragraph.
+        std::size_t last = source_.find(source_[1] == '/' ? "\n" : "*/", 2);
+        while (source_[1] == '/' && source_.compare(last, 4, "\n// ") == 0)
+            last = source_.find('\n', last + 1);
+        std::string text = source_.substr(2, last - 2);
         text.erase(0, text.find_first_not_of(" *\n"));
         text.erase(text.find_last_not_of(" \n") + 1);
         for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n'))

@@ -32,10 +32,10 @@ class GuideTest(unittest.TestCase):
         self.assertRaises(ValueError, guide.description, 'bcm_none')
 
     def test_every_function_has_its_types(self):
-        rows = set(name for name, entry in guide._entries.iteritems()
-                   if len(entry.types) == len(guide._parameters(
+        rows = set(name for name, entry in guide.entries.iteritems()
+                   if len(entry.types) == len(guide.parameters(
                        getattr(native, name))))
-        self.assertEqual(rows, set(guide._entries))
+        self.assertEqual(rows, set(guide.entries))
         self.assertGreater(len(rows), 4000)
 
     def test_search_finds_names_first(self):
@@ -65,8 +65,8 @@ class StubTest(unittest.TestCase):
                 constants[node.targets[0].id] = ast.literal_eval(node.value)
         for name, count in functions.iteritems():
             self.assertEqual(
-                count, len(guide._parameters(getattr(native, name))), name)
-        self.assertLessEqual(set(guide._entries), set(functions))
+                count, len(guide.parameters(getattr(native, name))), name)
+        self.assertLessEqual(set(guide.entries), set(functions))
         for name, fields in classes.iteritems():
             self.assertLessEqual(fields, set(dir(getattr(sdk, name))), name)
         self.assertEqual(len(classes), len(guide._classes))
