@@ -3,21 +3,9 @@
 
 #include <iterator>
 
+#include "runtime/set_aside.h"
+
 namespace {
-
-// Sets the exception of the caller aside, and whatever is raised meanwhile with it.
-class SetAside {
-  public:
-    SetAside() { PyErr_Fetch(&type_, &value_, &traceback_); }
-    SetAside(const SetAside &) = delete;
-    SetAside &operator=(const SetAside &) = delete;
-    ~SetAside() { PyErr_Restore(type_, value_, traceback_); }
-
-  private:
-    PyObject *type_ = nullptr;
-    PyObject *value_ = nullptr;
-    PyObject *traceback_ = nullptr;
-};
 
 // The import of the collector's module, which itself imports another.
 ombra::PyRef import_collector() {

@@ -12,6 +12,7 @@
 #include "runtime/name_hash.h"
 #include "runtime/packed_object.h"
 #include "runtime/pointer_conversion.h"
+#include "runtime/set_aside.h"
 
 namespace {
 
@@ -159,12 +160,8 @@ void SWIG_Python_TakeModuleBack(const char *name) {
     while (PyDict_Next(modules, &position, &key, nullptr) != 0) {
         if (!PyString_Check(key) || std::strcmp(last_part(PyString_AS_STRING(key)), name) != 0)
             continue;
-        PyObject *type = nullptr;
-        PyObject *value = nullptr;
-        PyObject *traceback = nullptr;
-        PyErr_Fetch(&type, &value, &traceback);
+        const ombra::SetAside set_aside;
         PyDict_DelItem(modules, key);
-        PyErr_Restore(type, value, traceback);
         return;
     }
 }

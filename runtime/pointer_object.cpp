@@ -6,6 +6,7 @@
 
 #include "runtime/client_data.h"
 #include "runtime/py_ref.h"
+#include "runtime/set_aside.h"
 
 using ombra::as_pointer_object;
 using ombra::PyRef;
@@ -35,15 +36,11 @@ PyObject *destroy_through_tuple(PyObject *destroy, const SwigPyObject *self) {
 // Runs the native destructor. An object can die while an exception is on its way, so that one is
 // set aside.
 void destroy_native(const SwigPyClientData &data, SwigPyObject *self) {
-    PyObject *type = nullptr;
-    PyObject *value = nullptr;
-    PyObject *traceback = nullptr;
-    PyErr_Fetch(&type, &value, &traceback);
-    PyObject *result = data.destroy_takes_tuple != 0 ? destroy_through_tuple(data.destroy, self)
-                                                     : destroy_directly(data.destroy, self);
+    PyRef result;  // dropped once the exception is back
+    const ombra::SetAside set_aside;
+    result.reset(data.destroy_takes_tuple != 0 ? destroy_through_tuple(data.destroy, self)
+                                               : destroy_directly(data.destroy, self));
     if (result == nullptr) PyErr_WriteUnraisable(data.destroy);
-    PyErr_Restore(type, value, traceback);
-    Py_XDECREF(result);
 }
 
 // Drops a chain. Links that nobody else holds are taken apart one by one: a long chain would

@@ -45,7 +45,7 @@ RULES = {
     'generic-statistic': 'counters that are set and read',
     'init': 'forgets what the chapter has stored',
     'qualifier': 'stores and reads the qualifier of a rule',
-    'registration': 'keeps the callback, and calls it for its events',
+    'registration': 'keeps the callback, which nothing calls',
     'unavailable': 'refuses',
 }
 

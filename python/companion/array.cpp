@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "python/companion/ready_type.h"
 #include "runtime/native_notes.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
@@ -298,8 +299,7 @@ const char kDoc[] =
     "place, with len, index, slices and iteration. Passes wherever the SDK takes a `type *`:\n\n"
     "    Array('int', 16)    Array('bcm_mac_t', ['00:11:22:33:44:55'])    Array('uint8', 'bytes')";
 
-// Readies the type; null with an error, and the next call tries again.
-PyTypeObject *ready_type() {
+void fill_type(PyTypeObject &type) {
     number.nb_int = first_as_int;
     sequence.sq_length = array_length;
     sequence.sq_item = array_item;
@@ -307,32 +307,25 @@ PyTypeObject *ready_type() {
     mapping.mp_length = array_length;
     mapping.mp_subscript = array_subscript;
     mapping.mp_ass_subscript = array_set_subscript;
-    Py_REFCNT(&type_object) = 1;
-    type_object.tp_name = "_OmbraSdkV2Companion.Array";
-    type_object.tp_basicsize = sizeof(Array);
-    type_object.tp_dealloc = array_dealloc;
-    type_object.tp_repr = array_repr;
-    type_object.tp_as_number = &number;
-    type_object.tp_as_sequence = &sequence;
-    type_object.tp_as_mapping = &mapping;
-    type_object.tp_hash = PyObject_HashNotImplemented;
-    type_object.tp_flags = Py_TPFLAGS_DEFAULT;
-    type_object.tp_doc = kDoc;
-    type_object.tp_richcompare = array_compare;
-    type_object.tp_weaklistoffset = offsetof(Array, weak_references);
-    type_object.tp_methods = methods;
-    type_object.tp_getset = attributes;
-    type_object.tp_new = array_new;
-    return PyType_Ready(&type_object) == 0 ? &type_object : nullptr;
+    type.tp_name = "_OmbraSdkV2Companion.Array";
+    type.tp_basicsize = sizeof(Array);
+    type.tp_dealloc = array_dealloc;
+    type.tp_repr = array_repr;
+    type.tp_as_number = &number;
+    type.tp_as_sequence = &sequence;
+    type.tp_as_mapping = &mapping;
+    type.tp_hash = PyObject_HashNotImplemented;
+    type.tp_doc = kDoc;
+    type.tp_richcompare = array_compare;
+    type.tp_weaklistoffset = offsetof(Array, weak_references);
+    type.tp_methods = methods;
+    type.tp_getset = attributes;
+    type.tp_new = array_new;
 }
 
 }  // namespace
 
-PyTypeObject *array_type() {
-    static PyTypeObject *ready = nullptr;
-    if (ready == nullptr) ready = ready_type();
-    return ready;
-}
+PyTypeObject *array_type() { return ready_type(type_object, fill_type); }
 
 PyObject *new_filled(const Element &element, PyObject *values) {
     const ombra::PyRef items(as_items(element, values));

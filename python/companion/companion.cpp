@@ -380,13 +380,13 @@ void init() {
         PyErr_NoMemory();
         return;
     }
-    if (SWIG_Python_RunEntry(
-            {kName, methods, callback_rows, &swig_module, nullptr, nullptr, nullptr, 0}) &&
-        (!add_types() || !ombra::share_notes())) {
-        SWIG_Python_TakeModuleBack(kName);
+    if (!SWIG_Python_RunEntry(
+            {kName, methods, callback_rows, &swig_module, nullptr, nullptr, nullptr, 0}))
         return;
-    }
-    ombra::count_at_exit(kName, tell_live_callbacks);
+    if (add_types() && ombra::share_notes())
+        ombra::count_at_exit(kName, tell_live_callbacks);
+    else
+        SWIG_Python_TakeModuleBack(kName);
 }
 
 }  // namespace

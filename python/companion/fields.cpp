@@ -6,6 +6,7 @@
 
 #include "python/companion/array.h"
 #include "python/companion/instance.h"
+#include "python/companion/ready_type.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
 
@@ -208,17 +209,14 @@ PyGetSetDef attributes[] = {
 
 PyTypeObject type_object = {};
 
-PyTypeObject *ready_type() {
-    Py_REFCNT(&type_object) = 1;
-    type_object.tp_name = "_OmbraSdkV2Companion.Field";
-    type_object.tp_basicsize = sizeof(Field);
-    type_object.tp_dealloc = field_dealloc;
-    type_object.tp_getattro = PyObject_GenericGetAttr;
-    type_object.tp_flags = Py_TPFLAGS_DEFAULT;
-    type_object.tp_getset = attributes;
-    type_object.tp_descr_get = field_get;
-    type_object.tp_descr_set = field_set;
-    return PyType_Ready(&type_object) == 0 ? &type_object : nullptr;
+void fill_type(PyTypeObject &type) {
+    type.tp_name = "_OmbraSdkV2Companion.Field";
+    type.tp_basicsize = sizeof(Field);
+    type.tp_dealloc = field_dealloc;
+    type.tp_getattro = PyObject_GenericGetAttr;
+    type.tp_getset = attributes;
+    type.tp_descr_get = field_get;
+    type.tp_descr_set = field_set;
 }
 
 // One field of a line "name: type"; null with an exception.
@@ -247,11 +245,7 @@ PyObject *new_field(PyObject *owner, PyObject *table, const char *line, const ch
 
 }  // namespace
 
-PyTypeObject *field_type() {
-    static PyTypeObject *ready = nullptr;
-    if (ready == nullptr) ready = ready_type();
-    return ready;
-}
+PyTypeObject *field_type() { return ready_type(type_object, fill_type); }
 
 PyObject *add_fields(PyObject *, PyObject *args) {
     PyObject *members = nullptr;

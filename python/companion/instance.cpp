@@ -4,6 +4,7 @@
 
 #include <cstddef>
 
+#include "python/companion/ready_type.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
 
@@ -118,34 +119,28 @@ PyGetSetDef attributes[] = {
 
 PyTypeObject type_object = {};
 
-PyTypeObject *ready_type() {
-    Py_REFCNT(&type_object) = 1;
-    type_object.tp_name = "_OmbraSdkV2Companion.Instance";
-    type_object.tp_basicsize = sizeof(Instance);
-    type_object.tp_dealloc = instance_dealloc;
-    type_object.tp_hash = instance_hash;
-    type_object.tp_getattro = PyObject_GenericGetAttr;
-    type_object.tp_setattro = instance_set;
-    type_object.tp_flags = Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | Py_TPFLAGS_HAVE_GC;
-    type_object.tp_doc = "What all proxy classes have in common: `this`, a pointer object.";
-    type_object.tp_traverse = instance_traverse;
-    type_object.tp_clear = instance_clear;
-    type_object.tp_richcompare = instance_compare;
-    type_object.tp_weaklistoffset = offsetof(Instance, weak_references);
-    type_object.tp_getset = attributes;
-    type_object.tp_dictoffset = offsetof(Instance, dictionary);
-    type_object.tp_init = instance_init;
-    type_object.tp_new = instance_new;
-    return PyType_Ready(&type_object) == 0 ? &type_object : nullptr;
+void fill_type(PyTypeObject &type) {
+    type.tp_name = "_OmbraSdkV2Companion.Instance";
+    type.tp_basicsize = sizeof(Instance);
+    type.tp_dealloc = instance_dealloc;
+    type.tp_hash = instance_hash;
+    type.tp_getattro = PyObject_GenericGetAttr;
+    type.tp_setattro = instance_set;
+    type.tp_flags = Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | Py_TPFLAGS_HAVE_GC;
+    type.tp_doc = "What all proxy classes have in common: `this`, a pointer object.";
+    type.tp_traverse = instance_traverse;
+    type.tp_clear = instance_clear;
+    type.tp_richcompare = instance_compare;
+    type.tp_weaklistoffset = offsetof(Instance, weak_references);
+    type.tp_getset = attributes;
+    type.tp_dictoffset = offsetof(Instance, dictionary);
+    type.tp_init = instance_init;
+    type.tp_new = instance_new;
 }
 
 }  // namespace
 
-PyTypeObject *instance_type() {
-    static PyTypeObject *ready = nullptr;
-    if (ready == nullptr) ready = ready_type();
-    return ready;
-}
+PyTypeObject *instance_type() { return ready_type(type_object, fill_type); }
 
 PyObject *new_class(PyObject *, PyObject *args) {
     PyObject *name = nullptr;

@@ -52,8 +52,7 @@ struct Device {
     bool diag_queueing_up = false;
     std::unique_ptr<Switch> chip = std::make_unique<Switch>();
     ControlRecord control;
-    Slots layers;          // what stays when the chip is reset
-    Events attach_events;  // of the unit itself, which do the same
+    Slots layers;  // what stays when the chip is reset
 
     // A layer stands on the chip, which therefore may neither be reset nor go away.
     bool in_use() const { return system_up || application_up; }

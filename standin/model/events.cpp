@@ -22,19 +22,12 @@ struct Waiting {
 // What the outermost call of a thread has still to tell; null while it tells nothing.
 thread_local std::deque<Waiting> *queue = nullptr;
 
-// The handlers of a unit that the row belongs to, or null.
-Handlers *handlers_of(int unit, Registration row) {
-    Device *const device = device_table().find(unit);
-    if (device == nullptr) return nullptr;
-    return row == Registration::kAttach ? &device->attach_events.handlers
-                                        : &device->chip->events.handlers;
-}
-
 std::optional<Handler> next_handler(int unit, Registration row, std::uint64_t after,
                                     std::uint64_t last) {
     const std::lock_guard<std::mutex> guard(model_lock());
-    const Handlers *const handlers = handlers_of(unit, row);
-    const Handler *const found = handlers == nullptr ? nullptr : handlers->next(row, after, last);
+    const Device *const device = device_table().find(unit);
+    const Handler *const found =
+        device == nullptr ? nullptr : device->chip->events.handlers.next(row, after, last);
     return found == nullptr ? std::nullopt : std::optional(*found);
 }
 
@@ -60,13 +53,8 @@ int Handlers::remove(const Handler &one) {
     return count == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
 }
 
-std::size_t Handlers::remove_all(Registration row) {
-    return std::erase_if(all_, [&](const Handler &one) { return one.row == row; });
-}
-
-std::size_t Handlers::remove_all(Registration row, const HandlerKey &key) {
-    return std::erase_if(all_,
-                         [&](const Handler &one) { return one.row == row && one.key == key; });
+void Handlers::remove_all(Registration row) {
+    std::erase_if(all_, [&](const Handler &one) { return one.row == row; });
 }
 
 const Handler *Handlers::find(Registration row, const HandlerKey &key) const {

@@ -51,9 +51,7 @@ class Handlers {
     // BCM_E_UNAVAIL: nothing ever calls a handler of this row.
     int add(Handler one);
     int remove(const Handler &one);  // BCM_E_NOT_FOUND
-    // Those of a row, or of a row with a key. How many there were.
-    std::size_t remove_all(Registration row);
-    std::size_t remove_all(Registration row, const HandlerKey &key);
+    void remove_all(Registration row);
 
     // The first one, or null: for rows of one handler.
     const Handler *find(Registration row, const HandlerKey &key = {}) const;

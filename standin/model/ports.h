@@ -50,19 +50,15 @@ struct Port {
     std::map<int, int> controls;
     bool peer = true;  // somebody is at the far end
     bool link_failed = false;
-    int tx_enabled = 1;  // of the PHY
-    int rx_enabled = 1;
     std::optional<int> told_link;  // by a handler that reads the link in place of the scanner
     int scanned_link = 0;          // as the scanner last found it
     PortCounters in;
     PortCounters out;
 
-    // Up when it is enabled, in both directions, and somebody answers: the far end, or the port
-    // itself in loopback.
+    // Up when enabled and somebody answers: the far end, or the port itself in loopback.
     int link() const {
         const bool answered = told_link ? *told_link != 0 : peer;
-        return enable != 0 && tx_enabled != 0 && rx_enabled != 0 &&
-               (answered || loopback != BCM_PORT_LOOPBACK_NONE);
+        return enable != 0 && (answered || loopback != BCM_PORT_LOOPBACK_NONE);
     }
 };
 

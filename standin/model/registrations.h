@@ -1,4 +1,8 @@
 // The registrations of the API and what calls their handlers: the one table of them.
+//
+// kLinkscan, kLinkscanPort and kL2Address are modelled. The callbacks of all others are kept by
+// their generated answers, and nothing calls them until a chapter models the cause that stands
+// here.
 #pragma once
 #include <cstdint>
 #include <span>

@@ -94,7 +94,6 @@ def look(browser, folder):
     expect(browser.run(SCRIPTS), 1, 'scripts before the box is used')
     box = browser.element('#search')
     browser.ask(box + '/value', {'text': 'vlan gport'})
-    hits = browser.wait_for(HITS + '.slice(0)', 'hits')
     hits = browser.wait_for('const hits = (() => {%s})(); return hits[0] == '
                             '"bcm_vlan_gport_add" && hits' % HITS,
                             'bcm_vlan_gport_add first for vlan gport')

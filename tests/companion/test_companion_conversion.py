@@ -16,12 +16,7 @@ class Proxy(object):
         self.this = this
 
 
-class NewHolder(object):
-    def __init__(self, this):
-        self.this = this
-
-
-class OldHolder:
+class OldProxy:
     def __init__(self, this):
         self.this = this
 
@@ -57,13 +52,13 @@ class ConversionTest(CompanionTest):
             inner_of[0].__dict__ = {}
 
         for act in (outer_lets_go, dictionary_goes):
-            for kind in (NewHolder, OldHolder):
+            for kind in (Proxy, OldProxy):
                 inner = kind(None)
                 del inner.this
                 key = Key(lambda: None)
                 inner.__dict__[key] = 1
                 inner.__dict__['this'] = companion.make(BASE, 8)
-                outer = NewHolder(inner)
+                outer = Proxy(inner)
                 inner_of = [inner] if act is dictionary_goes else []
                 key.act = act
                 del inner, key

@@ -116,25 +116,8 @@ void __wrap__ZdaPvm(void *block, std::size_t size) {
         return fails() ? no_memory<result>(failure) : __real_##name arguments; \
     }
 
-ECHO_WRAP(PyObject *, PyInt_FromLong, nullptr, (long value), (value))
-ECHO_WRAP(PyObject *, PyInt_FromSize_t, nullptr, (std::size_t value), (value))
-ECHO_WRAP(PyObject *, PyLong_FromUnsignedLong, nullptr, (unsigned long value), (value))
-ECHO_WRAP(PyObject *, PyLong_FromUnsignedLongLong, nullptr, (unsigned long long value), (value))
-ECHO_WRAP(PyObject *, PyLong_FromVoidPtr, nullptr, (void *value), (value))
-ECHO_WRAP(PyObject *, PyString_FromString, nullptr, (const char *text), (text))
-ECHO_WRAP(PyObject *, PyString_FromStringAndSize, nullptr, (const char *text, Py_ssize_t size),
-          (text, size))
-ECHO_WRAP(PyObject *, PyString_InternFromString, nullptr, (const char *text), (text))
-ECHO_WRAP(PyObject *, PyList_New, nullptr, (Py_ssize_t size), (size))
-ECHO_WRAP(int, PyList_Append, -1, (PyObject * list, PyObject *item), (list, item))
-ECHO_WRAP(PyObject *, PyDict_New, nullptr, (), ())
-ECHO_WRAP(int, PyDict_SetItem, -1, (PyObject * dictionary, PyObject *key, PyObject *item),
-          (dictionary, key, item))
-ECHO_WRAP(PyObject *, PyObject_Call, nullptr,
-          (PyObject * callable, PyObject *arguments, PyObject *keywords),
-          (callable, arguments, keywords))
-ECHO_WRAP(PyObject *, PyInstance_NewRaw, nullptr, (PyObject * type, PyObject *dictionary),
-          (type, dictionary))
+#define FALLIBLE ECHO_WRAP
+#include "tests/fallible_functions.inc"
 
 // These set no exception themselves.
 #define ECHO_WRAP_BLOCK(name)                           \

@@ -110,30 +110,15 @@ void *realloc(void *block, std::size_t size) {
         return failure;                                                \
     }
 
-SOAK_WRAP(PyObject *, PyInt_FromLong, nullptr, (long value), (value))
-SOAK_WRAP(PyObject *, PyInt_FromSize_t, nullptr, (std::size_t value), (value))
-SOAK_WRAP(PyObject *, PyLong_FromUnsignedLong, nullptr, (unsigned long value), (value))
-SOAK_WRAP(PyObject *, PyLong_FromUnsignedLongLong, nullptr, (unsigned long long value), (value))
-SOAK_WRAP(PyObject *, PyLong_FromVoidPtr, nullptr, (void *value), (value))
-SOAK_WRAP(PyObject *, PyString_FromString, nullptr, (const char *text), (text))
-SOAK_WRAP(PyObject *, PyString_FromStringAndSize, nullptr, (const char *text, Py_ssize_t size),
-          (text, size))
-SOAK_WRAP(PyObject *, PyString_InternFromString, nullptr, (const char *text), (text))
+#define FALLIBLE SOAK_WRAP
+#include "tests/fallible_functions.inc"
+
+// What the echo module does not call.
 SOAK_WRAP(PyObject *, PyTuple_New, nullptr, (Py_ssize_t size), (size))
-SOAK_WRAP(PyObject *, PyList_New, nullptr, (Py_ssize_t size), (size))
-SOAK_WRAP(int, PyList_Append, -1, (PyObject * list, PyObject *item), (list, item))
-SOAK_WRAP(PyObject *, PyDict_New, nullptr, (), ())
-SOAK_WRAP(int, PyDict_SetItem, -1, (PyObject * dictionary, PyObject *key, PyObject *item),
-          (dictionary, key, item))
 SOAK_WRAP(int, PyDict_SetItemString, -1, (PyObject * dictionary, const char *key, PyObject *item),
           (dictionary, key, item))
-SOAK_WRAP(PyObject *, PyObject_Call, nullptr,
-          (PyObject * callable, PyObject *arguments, PyObject *keywords),
-          (callable, arguments, keywords))
 SOAK_WRAP(PyObject *, PyObject_GetAttrString, nullptr, (PyObject * object, const char *name),
           (object, name))
-SOAK_WRAP(PyObject *, PyInstance_NewRaw, nullptr, (PyObject * type, PyObject *dictionary),
-          (type, dictionary))
 SOAK_WRAP(PyObject *, PyCapsule_New, nullptr,
           (void *pointer, const char *name, PyCapsule_Destructor destroy), (pointer, name, destroy))
 SOAK_WRAP(PyObject *, PySequence_Tuple, nullptr, (PyObject * sequence), (sequence))
