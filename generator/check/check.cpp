@@ -19,7 +19,7 @@ struct Rule {
     const char *says;
 };
 
-constexpr std::array<Rule, 36> kRules = {{
+constexpr std::array<Rule, 37> kRules = {{
     {"grammar", "a header holds only what docs/declarations.md names"},
     {"purpose", "a header's first line is a comment that says what it is for"},
     {"prototype-place", "a header of types holds no prototypes"},
@@ -55,6 +55,7 @@ constexpr std::array<Rule, 36> kRules = {{
     {"departure-unused", "every departure is needed"},
     {"standin-word", "a line of the stand-in's table has a word that the planner knows"},
     {"standin-field", "a key names fields of its struct"},
+    {"standin-names", "a number of the stand-in names a kind of object that there is"},
     {"standin-unused", "every line of the stand-in's table is needed"},
 }};
 

@@ -2,6 +2,8 @@
 // library that no source of the stand-in models.
 
 #include <algorithm>
+#include <cctype>
+#include <map>
 #include <set>
 
 #include "generator/emit/emitters.h"
@@ -17,7 +19,7 @@ const std::string kFile = R"(@banner@
 #include "standin/@runtime@.h"
 
 @proofs@
-@open@@functions@@close@)";
+@kinds@@open@@functions@@close@)";
 
 const std::string kAnswer = R"(@result@ @native@(@parameters@) {
     using namespace standin;
@@ -127,6 +129,71 @@ std::string bindings_of(const Plan &plan) {
     return array_of("Binding", "bindings", elements);
 }
 
+// A kind is a number with bounds, "0..7", or what the model knows by that name, or what rows are.
+std::string kind_text(const std::string &kind) {
+    static const std::map<std::string, std::string> modelled = {
+        {"port", "kPort"},     {"vlan", "kVlan"},       {"stg", "kStg"},
+        {"trunk", "kTrunk"},   {"hop", "kHop"},         {"multicast", "kMulticast"},
+        {"mirror", "kMirror"}, {"policer", "kPolicer"}, {"rule-group", "kGroup"},
+        {"rule", "kRule"},     {"range", "kRange"}};
+    const std::size_t dots = kind.find("..");
+    const auto known = modelled.find(kind);
+    Fields fields;
+    fields.add("name", quoted(kind));
+    if (dots != std::string::npos)
+        fields.add("sort", std::string("Sort::kNumber"))
+            .add("low", kind.substr(0, dots))
+            .add("high", kind.substr(dots + 2));
+    else
+        fields.add("sort", "Sort::" + (known == modelled.end() ? "kMade" : known->second));
+    return "{" + fields.text() + "}";
+}
+
+// "kind_rule_group", "kind_0_7".
+std::string kind_name(const std::string &kind) {
+    std::string name = "kind_";
+    for (const char one : kind)
+        name += std::isalnum(static_cast<unsigned char>(one)) != 0 ? one : '_';
+    return name;
+}
+
+std::string kinds_of(const std::set<std::string> &kinds) {
+    std::string text;
+    for (const auto &kind : kinds)
+        text += "constexpr NameKind " + kind_name(kind) + kind_text(kind) + ";\n";
+    return text.empty() ? ""
+                        : "namespace {\nusing namespace standin;\n" + text + "}  // namespace\n\n";
+}
+
+std::string references_of(const Plan &plan) {
+    static const std::map<std::string, std::string> bonds = {
+        {"holds", ""}, {"leaves", "Bond::kLeaves"}, {"falls", "Bond::kFalls"}};
+    std::vector<Fields> elements;
+    for (const auto &one : plan.references)
+        elements.push_back(Fields()
+                               .add("kind", "&" + kind_name(one.kind))
+                               .add("field", quoted(one.field))
+                               .add("bond", bonds.at(one.bond))
+                               .add("list", one.list)
+                               .add("optional", one.optional)
+                               .add("row", one.row)
+                               .add("at", one.at)
+                               .add("stride", one.stride)
+                               .add("size", one.size));
+    return array_of("Reference", "references", elements);
+}
+
+std::string id_of(const Plan &plan) {
+    if (plan.id_kind.empty()) return "";
+    return "{" +
+           Fields()
+               .add("kind", "&" + kind_name(plan.id_kind))
+               .add("row", plan.id)
+               .add("size", plan.id_size)
+               .text() +
+           "}";
+}
+
 std::string columns_of(const Plan &plan) {
     std::vector<Fields> elements;
     for (const auto &column : plan.columns)
@@ -154,6 +221,9 @@ std::string call_of(const Shapes &shapes, const Function &function, const Plan &
         .add("max", number_argument(shapes, function, plan.max))
         .add("filled", number_argument(shapes, function, plan.filled))
         .add("bindings", std::string(plan.bindings.empty() ? "" : "bindings"))
+        .add("references", std::string(plan.references.empty() ? "" : "references"))
+        .add("id", id_of(plan))
+        .add("first_id", plan.first_id == 1 ? 0 : plan.first_id)
         .text();
 }
 
@@ -171,14 +241,14 @@ std::string return_of(const Function &function, const Plan &plan) {
 }
 
 std::string answer_text(const Shapes &shapes, const Function &function, const Plan &plan) {
-    return fill(kAnswer,
-                {{"result", function.result},
-                 {"native", function.native},
-                 {"parameters", parameters_of(function, all_of(function))},
-                 {"bindings", bindings_of(plan) + (plan.callback == 0 ? "" : columns_of(plan))},
-                 {"call", call_of(shapes, function, plan)},
-                 {"arguments", addresses_of(function)},
-                 {"return", return_of(function, plan)}});
+    return fill(kAnswer, {{"result", function.result},
+                          {"native", function.native},
+                          {"parameters", parameters_of(function, all_of(function))},
+                          {"bindings", bindings_of(plan) + references_of(plan) +
+                                           (plan.callback == 0 ? "" : columns_of(plan))},
+                          {"call", call_of(shapes, function, plan)},
+                          {"arguments", addresses_of(function)},
+                          {"return", return_of(function, plan)}});
 }
 
 std::string init_text(const Function &function, const Plan &plan) {
@@ -288,6 +358,7 @@ std::string emit_standin(const Model &model, const std::string &header) {
     std::string functions;
     std::string proofs;
     std::set<std::string> proved;
+    std::set<std::string> kinds;
     bool walks = false;
     bool qualifies = false;
     for (std::size_t i = 0; i < model.functions.size(); ++i) {
@@ -295,6 +366,8 @@ std::string emit_standin(const Model &model, const std::string &header) {
         if (one.place.file != header || !one.modelled.file.empty()) continue;
         functions += function_text(shapes, model.functions[i], plans[i]);
         proofs += proofs_of(shapes, model.functions[i], plans[i], proved);
+        for (const auto &reference : plans[i].references) kinds.insert(reference.kind);
+        if (!plans[i].id_kind.empty()) kinds.insert(plans[i].id_kind);
         walks = walks || !plans[i].columns.empty();
         qualifies = qualifies || plans[i].layer == "qualifier";
     }
@@ -307,6 +380,7 @@ std::string emit_standin(const Model &model, const std::string &header) {
                         {"header", header.substr(root.size())},
                         {"runtime", runtime},
                         {"proofs", proofs},
+                        {"kinds", kinds_of(kinds)},
                         {"open", linkage ? "extern \"C\" {\n\n" : ""},
                         {"functions", functions},
                         {"close", linkage ? "}  // extern \"C\"\n" : ""}});

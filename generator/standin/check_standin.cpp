@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <sstream>
 
 #include "generator/standin/plan.h"
@@ -9,8 +10,9 @@
 namespace generator {
 namespace {
 
-constexpr std::array<const char *, 7> kWords = {
-    "key", "family", "unfit", "keyed-arrays", "same-column", "set-prefix", "qualifier"};
+constexpr std::array<const char *, 9> kWords = {"key",          "family",      "unfit",
+                                                "keyed-arrays", "same-column", "set-prefix",
+                                                "qualifier",    "names",       "numbers"};
 
 const Struct *struct_named(const Model &model, const std::string &name) {
     const auto found = std::find_if(model.structs.begin(), model.structs.end(),
@@ -56,10 +58,53 @@ void check_column(const Model &model, const StandinRow &row, Faults &faults) {
                    "'; correct the name or remove the line");
 }
 
+// The names of a numbers line that no argument and no field of its type has.
+void check_numbers(const Model &model, const StandinRow &row, Faults &faults) {
+    std::set<std::string> there;
+    const auto note = [&](const std::vector<Variable> &variables) {
+        for (const auto &one : variables)
+            if (one.type == row.name || one.type == row.name + " *") there.insert(one.name);
+    };
+    for (const auto &function : model.functions) note(function.parameters);
+    for (const auto &record : model.structs) note(record.fields);
+    std::istringstream names(row.details);
+    for (std::string name; names >> name;)
+        if (!there.contains(name))
+            faults.add(row.place, "standin-field",
+                       "no argument or field of the type '" + row.name + "' has the name '" + name +
+                           "'; correct the name");
+}
+
+// What a number is said to name: "-", bounds, or a kind, with a bond or none. Only `kinds` can be
+// named: of others there is none.
+void check_names(const StandinRow &row, const std::set<std::string> &kinds, Faults &faults) {
+    std::istringstream words(row.details);
+    std::string kind;
+    std::string bond;
+    std::string rest;
+    words >> kind >> bond >> rest;
+    const bool bonded = bond.empty() || bond == "holds" || bond == "leaves" || bond == "falls";
+    if (!bonded || !rest.empty())
+        faults.add(
+            row.place, "standin-names",
+            "'" + row.details + "' is no kind with a bond; write one of holds, leaves, falls");
+    if (kind != "-" && kind.find("..") == std::string::npos && !kinds.contains(kind))
+        faults.add(row.place, "standin-names",
+                   "there are no objects of the kind '" + kind + "'; correct the name");
+}
+
+// What the model has, and the ids that families give out.
+std::set<std::string> kinds_of(const Model &model) {
+    std::set<std::string> kinds = {"port",   "vlan",    "stg",        "trunk", "hop",  "multicast",
+                                   "mirror", "policer", "rule-group", "rule",  "range"};
+    for (const auto &plan : plans_of(model)) kinds.insert(plan.id_kind);
+    return kinds;
+}
+
 }  // namespace
 
 void check_standin(const Model &model, Faults &faults) {
-    plans_of(model);  // marks what it uses
+    const std::set<std::string> kinds = kinds_of(model);  // the plans mark what they use
     for (const auto &row : model.standin) {
         if (std::find(kWords.begin(), kWords.end(), row.word) == kWords.end()) {
             faults.add(row.place, "standin-word",
@@ -72,6 +117,10 @@ void check_standin(const Model &model, Faults &faults) {
             check_key(model, row, faults);
         } else if (row.word == "same-column") {
             check_column(model, row, faults);
+        } else if (row.word == "names") {
+            check_names(row, kinds, faults);
+        } else if (row.word == "numbers") {
+            check_numbers(model, row, faults);
         }
     }
 }

@@ -210,6 +210,7 @@ std::vector<Plan> plan_all(const Model &model) {
             families[family].push_back(member);
     }
     for (const auto &[family, members] : families) plan_family(shapes, family, members);
+    plan_references(model, shapes, plans);
     return plans;
 }
 

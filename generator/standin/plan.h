@@ -25,6 +25,19 @@ struct PlanBinding {
     std::size_t size = 0;
 };
 
+// Where a row, or an element of one of its lists, names something.
+struct PlanReference {
+    std::string kind;   // "port", as catalogue/standin.txt has it
+    std::string field;  // "port"
+    std::string bond;   // "holds"
+    bool list = false;
+    bool optional = false;  // 0 and -1 name nothing
+    std::size_t row = 0;    // or the number of the list
+    std::size_t at = 0;     // in an element
+    std::size_t stride = 0;
+    std::size_t size = 0;
+};
+
 struct PlanColumn {
     std::string name;  // "port"
     std::string type;  // "bcm_port_t"
@@ -52,6 +65,11 @@ struct Plan {
     std::size_t context = 0;
     std::vector<PlanBinding> bindings;
     std::vector<PlanColumn> columns;  // of the rows that a traversal hands out
+    std::vector<PlanReference> references;
+    std::string id_kind;  // of the rows' own id; empty for none
+    std::size_t id = 0;
+    std::size_t id_size = 0;
+    std::size_t first_id = 1;
 };
 
 // One function of a family.
@@ -81,6 +99,9 @@ bool plan_qualifier(const Shapes &shapes, const std::map<std::string, const Func
 std::vector<PlanColumn> key_columns(const Shapes &shapes, const Shape &shape);
 // Whether something is known of them.
 bool has_key_fields(const Shapes &shapes, const Shape &shape);
+
+// What the rows name, and by what they are named.
+void plan_references(const Model &model, const Shapes &shapes, std::vector<Plan> &plans);
 
 // A plan for each function of the model, in its order. The model does not change any more once it
 // is resolved; all callers share the plans.

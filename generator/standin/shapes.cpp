@@ -2,6 +2,7 @@
 #include "generator/standin/shapes.h"
 
 #include <algorithm>
+#include <sstream>
 
 namespace generator {
 namespace {
@@ -22,7 +23,11 @@ Shapes::Shapes(const Model &model) : model_(model) {
     for (const auto &record : model.structs) structs_[record.name] = &record;
     for (const auto &row : model.typedefs) typedefs_[row.name] = &row;
     for (const auto &row : model.kinds) kinds_[row.type] = &row;
-    for (const auto &row : model.standin) known_[{row.word, row.name}] = &row;
+    for (const auto &row : model.standin) {
+        known_[{row.word, row.name}] = &row;
+        std::istringstream names(row.word == "numbers" ? row.details : "");
+        for (std::string name; names >> name;) plain_[{row.name, name}] = &row;
+    }
     names_.insert(model.defines.begin(), model.defines.end());
     for (const auto &row : model.install)
         if (row.what == InstallRow::What::constant)
@@ -34,6 +39,11 @@ const StandinRow *Shapes::known(const std::string &word, const std::string &name
     if (found == known_.end()) return nullptr;
     found->second->used = true;
     return found->second;
+}
+
+bool Shapes::is_plain_number(const std::string &type, const std::string &name) const {
+    const auto found = plain_.find({type, name});
+    return found != plain_.end() && (found->second->used = true);
 }
 
 bool Shapes::known_prefix(const std::string &word, const std::string &name) const {

@@ -46,6 +46,8 @@ class Shapes {
     const StandinRow *known(const std::string &word, const std::string &name) const;
     // Whether it has a name that this one begins with.
     bool known_prefix(const std::string &word, const std::string &name) const;
+    // Whether it says that an argument or a field of that type and name names nothing.
+    bool is_plain_number(const std::string &type, const std::string &name) const;
     bool is_constant(const std::string &name) const { return names_.contains(name); }
 
   private:
@@ -63,6 +65,7 @@ class Shapes {
     std::unordered_map<std::string, const Typedef *> typedefs_;
     std::unordered_map<std::string, const KindRow *> kinds_;
     std::map<std::pair<std::string, std::string>, const StandinRow *> known_;
+    std::map<std::pair<std::string, std::string>, const StandinRow *> plain_;  // by type and name
     Names names_;
 };
 

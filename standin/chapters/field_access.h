@@ -10,6 +10,9 @@ inline std::map<bcm_field_group_t, FieldGroup> &groups_of(Switch &chip) {
 inline std::map<bcm_field_entry_t, FieldEntry> &entries_of(Switch &chip) {
     return chip.field.entries;
 }
+inline std::map<bcm_field_range_t, FieldRange> &ranges_of(Switch &chip) {
+    return chip.field.ranges;
+}
 inline std::map<int, FieldStat> &stats_of(Switch &chip) { return chip.field.stats; }
 
 template <class Body>

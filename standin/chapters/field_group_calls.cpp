@@ -48,7 +48,9 @@ int create_on_port(const char *function, int unit, bool given, bcm_field_group_t
 
 int clear_engine(const char *function, int unit) {
     return start_chapter(function, unit, "bcm_field_", [](Switch &chip) {
-        erase_objects(chip, entries_of(chip), ObjectKind::kRule);
+        const int status = erase_objects(chip, entries_of(chip), ObjectKind::kRule);
+        if (status != BCM_E_NONE) return status;
+        ranges_of(chip).clear();
         erase_objects(chip, stats_of(chip), ObjectKind::kCounter);
         return erase_objects(chip, groups_of(chip), ObjectKind::kGroup);
     });

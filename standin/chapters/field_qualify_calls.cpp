@@ -95,16 +95,18 @@ int bcm_field_qualify_DstPort_get(int unit, bcm_field_entry_t entry, bcm_module_
 
 // All qualifiers of the entry.
 int bcm_field_qualify_clear(int unit, bcm_field_entry_t entry) {
-    return on_rule(__func__, unit, entry, [](FieldEntry &rule) {
+    return change_rule(__func__, unit, entry, [](Switch &, FieldEntry &rule) {
         rule.qualifiers.clear();
+        rule.ranges.clear();
         return BCM_E_NONE;
     });
 }
 
 int bcm_field_qualifier_delete(int unit, bcm_field_entry_t entry, bcm_field_qualify_t qual) {
-    return on_rule(__func__, unit, entry, [&](FieldEntry &rule) {
+    return change_rule(__func__, unit, entry, [&](Switch &, FieldEntry &rule) {
         const auto gone = std::erase_if(rule.qualifiers,
-                                        [&](const auto &one) { return one.first.first == qual; });
+                                        [&](const auto &one) { return one.first.first == qual; }) +
+                          rule.ranges.erase(qual);
         return gone == 0 ? BCM_E_NOT_FOUND : BCM_E_NONE;
     });
 }

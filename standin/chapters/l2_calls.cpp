@@ -61,13 +61,13 @@ bool scope_of(const bcm_l2_learn_limit_t &limit, L2Scope &scope) {
             return true;
         case kLimitVlan:
             scope.number = limit.vlan;
-            return is_vlan(limit.vlan);
+            return true;
         case kLimitPort:
-            scope.number = local_port(limit.port);
-            return scope.number >= 0;
+            scope.number = local_port(limit.port) < 0 ? limit.port : local_port(limit.port);
+            return true;
         case kLimitTrunk:
             scope.number = limit.trunk;
-            return limit.trunk >= 0;
+            return true;
         default:
             return false;
     }
@@ -170,14 +170,15 @@ void bcm_l2_addr_t_init(bcm_l2_addr_t *l2addr, bcm_mac_t mac_addr, bcm_vlan_t vi
 
 int bcm_l2_init(int unit) {
     return on_switch(__func__, unit, [](Switch &chip) {
-        L2Chapter &l2 = chip.l2;
-        clear_all(chip);
-        clear_limits(chip);
-        l2.limits_enabled = true;
-        l2.freezes = 0;
-        l2.age_seconds = 0;
-        forget_generic(chip, "bcm_l2_");
-        return BCM_E_NONE;
+        return clear_chapter(chip, "bcm_l2_", [](Switch &one) {
+            L2Chapter &l2 = one.l2;
+            clear_all(one);
+            clear_limits(one);
+            l2.limits_enabled = true;
+            l2.freezes = 0;
+            l2.age_seconds = 0;
+            return BCM_E_NONE;
+        });
     });
 }
 
@@ -284,12 +285,14 @@ int bcm_l2_learn_limit_set(int unit, bcm_l2_learn_limit_t *limit) {
 }
 
 int bcm_l2_learn_limit_get(int unit, bcm_l2_learn_limit_t *limit) {
-    return on_l2(__func__, unit, [&](L2Chapter &l2) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
         L2Scope scope;
-        if (limit == nullptr || !scope_of(*limit, scope)) return BCM_E_PARAM;
-        const auto found = l2.limits.find(scope);
-        limit->limit = found == l2.limits.end() ? -1 : found->second;
-        return BCM_E_NONE;
+        if (limit == nullptr || !scope_of(*limit, scope)) return int{BCM_E_PARAM};
+        const int status = check_names(chip, names_of(scope));
+        if (status != BCM_E_NONE) return status;
+        const int *const found = find_in(chip.l2.limits, scope);
+        limit->limit = found == nullptr ? -1 : *found;
+        return int{BCM_E_NONE};
     });
 }
 

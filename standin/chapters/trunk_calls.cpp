@@ -97,11 +97,11 @@ int destroy_trunk(Switch &chip, bcm_trunk_t tid) {
 
 int clear_trunks(const char *function, int unit) {
     return on_switch(function, unit, [](Switch &chip) {
-        const int status = erase_objects(chip, trunks_of(chip), ObjectKind::kTrunk);
-        if (status != BCM_E_NONE) return status;
-        chip.groups.trunk_of.clear();
-        forget_generic(chip, "bcm_trunk_");
-        return status;
+        return clear_chapter(chip, "bcm_trunk_", [](Switch &one) {
+            const int status = erase_objects(one, trunks_of(one), ObjectKind::kTrunk);
+            if (status == BCM_E_NONE) one.groups.trunk_of.clear();
+            return status;
+        });
     });
 }
 

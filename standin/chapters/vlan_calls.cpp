@@ -75,11 +75,8 @@ std::vector<std::pair<bcm_gport_t, int>> members_of(const Vlan &vlan) {
 extern "C" {
 
 int bcm_vlan_init(int unit) {
-    return on_switch(__func__, unit, [](Switch &chip) {
-        const int status = clear_vlans(chip);
-        if (status == BCM_E_NONE) forget_generic(chip, "bcm_vlan_");
-        return status;
-    });
+    return on_switch(__func__, unit,
+                     [](Switch &chip) { return clear_chapter(chip, "bcm_vlan_", clear_vlans); });
 }
 
 int bcm_vlan_create(int unit, bcm_vlan_t vid) {

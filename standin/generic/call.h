@@ -14,6 +14,8 @@
 #include <cstdint>
 #include <span>
 
+#include "standin/model/generic_tables.h"
+
 namespace standin {
 
 enum class Operation : std::uint8_t {
@@ -78,11 +80,15 @@ struct Call {
     Number max = {};     // how many elements fit
     Number filled = {};  // receives how many there are
     std::span<const Binding> bindings = {};
+    std::span<const Reference> references = {};  // what has to be there, before anything changes
+    IdColumn id = {};                            // by which others name the rows of the family
+    std::int32_t first_id = 1;                   // of those that are given out
 };
 
 // Does the call: `arguments` are the addresses of the native arguments, the unit first. Faults
 // pass first, then BCM_E_UNIT and BCM_E_INIT, then BCM_E_PARAM for a null address that is needed
-// or a negative count. Thread-safe.
+// or a negative count, then the status of the first name of something that is not there.
+// Thread-safe.
 int answer(const Call &call, int unit, const void *const *arguments);
 
 // For the functions without a model: a fault, BCM_E_UNIT, BCM_E_INIT or BCM_E_UNAVAIL.

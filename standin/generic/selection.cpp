@@ -86,6 +86,28 @@ void Invocation::fill(std::string &bytes, int element) const {
     });
 }
 
+GenericRow Invocation::row(Switch &chip, int element) const {
+    GenericRow made{std::string(call_.row, '\0'), lists()};
+    fill(made.bytes, element);
+    find_names(chip, call_.references, made, made.names);
+    made.id = call_.id;
+    return made;
+}
+
+int Invocation::check_names(Switch &chip) const {
+    if (call_.references.empty()) return BCM_E_NONE;
+    const bool lists_in = find(Role::list_in) != nullptr;
+    const bool out = call_.operation == Operation::list;  // its elements are what it gives
+    for (int i = 0; i < (lists_in || out ? 1 : count()); ++i) {
+        GenericRow asked{std::string(call_.row, '\0'), lists()};
+        fill(asked.bytes, i);
+        std::vector<RowName> names;
+        const int status = find_names(chip, call_.references, asked, names);
+        if (status != BCM_E_NONE) return status;
+    }
+    return BCM_E_NONE;
+}
+
 std::vector<std::string> Invocation::lists() const {
     std::vector<std::string> lists;
     each([&](const Binding &binding) {

@@ -29,6 +29,11 @@ class Invocation {
     // Null without an argument of that role.
     const Binding *find(Role role) const;
 
+    // BCM_E_PORT, BCM_E_NOT_FOUND or BCM_E_PARAM: something that comes in names what is not there.
+    int check_names(Switch &chip) const;
+
+    // A row of the element, with what it names.
+    GenericRow row(Switch &chip, int element) const;
     // Writes what comes in for the element into a row.
     void fill(std::string &bytes, int element) const;
     // The lists of a row, as they come in.
@@ -53,8 +58,6 @@ class Invocation {
     const Call &call_;
     const void *const *arguments_;
 };
-
-using RowPlace = std::map<std::string, GenericRow, std::less<>>::iterator;
 
 // The rows that the selecting arguments pick, in the order in which they came.
 std::vector<RowPlace> selected(const Invocation &invocation, GenericTable &table, int element);

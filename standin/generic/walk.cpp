@@ -15,6 +15,7 @@ int collect_rows(const Call &call, int unit, const void *const *arguments, bool 
         const Invocation invocation(call, arguments);
         if (!callback_given) return int{BCM_E_PARAM};
         if (const int status = invocation.check(); status < 0) return status;
+        if (const int status = invocation.check_names(chip); status < 0) return status;
         const auto table = chip.generic.find(std::string_view(call.family));
         if (table == chip.generic.end()) return int{BCM_E_NONE};
         for (const RowPlace &place : selected(invocation, table->second, 0))

@@ -18,6 +18,7 @@ namespace standin {
 constexpr std::size_t kFieldGroups = 128;
 constexpr std::size_t kFieldEntries = 16'384;
 constexpr std::size_t kFieldStats = 8192;
+constexpr std::size_t kFieldRanges = 128;
 
 struct FieldGroup {
     bcm_field_qset_t qualifiers{};
@@ -36,6 +37,20 @@ struct FieldAction {
     std::optional<bcm_pbmp_t> ports;
 };
 
+// A number is in a range if it is in one of its parts.
+struct FieldRange {
+    struct Part {
+        std::uint32_t flags = 0;
+        std::uint32_t min = 0;
+        std::uint32_t max = 0;
+    };
+    std::vector<Part> parts;
+    bcm_if_group_t interfaces = 0;
+};
+
+// By a qualifier's number: ranges that are tested, and whether the answer is turned round.
+using RangeChecks = std::map<int, std::map<bcm_field_range_t, int>>;
+
 struct FieldEntry {
     bcm_field_group_t group = 0;
     int priority = 0;
@@ -43,6 +58,7 @@ struct FieldEntry {
     bool installed = false;
     // Data and mask as their bytes; equal ids of different widths are different qualifiers.
     std::map<std::pair<int, std::size_t>, std::vector<std::uint8_t>> qualifiers;
+    RangeChecks ranges;
     std::map<bcm_field_action_t, FieldAction> actions;
     std::optional<int> stat;
     bcm_field_stat_action_t stat_action{};
@@ -59,6 +75,7 @@ struct Field {
     std::map<bcm_field_group_t, FieldGroup> groups;
     std::map<bcm_field_entry_t, FieldEntry> entries;
     std::map<int, FieldStat> stats;
+    std::map<bcm_field_range_t, FieldRange> ranges;
 };
 
 }  // namespace standin

@@ -95,7 +95,9 @@ constexpr const char *kNouns[] = {"port",
                                   "policer",
                                   "rule group",
                                   "rule",
-                                  "counter"};
+                                  "counter",
+                                  "range",
+                                  "row"};
 
 }  // namespace
 
@@ -235,6 +237,9 @@ Names names_of(const FieldEntry &rule) {
     if (rule.stat) names.push_back({Use::kRuleCounter, object(ObjectKind::kCounter, *rule.stat)});
     for (const auto &[level, policer] : rule.policers)
         names.push_back({Use::kRulePolicer, object(ObjectKind::kPolicer, policer)});
+    for (const auto &[qualifier, checks] : rule.ranges)
+        for (const auto &[range, invert] : checks)
+            names.push_back({Use::kRuleRange, object(ObjectKind::kRange, range)});
     for (const auto &[action, given] : rule.actions) {
         const auto param = static_cast<int>(given.param1);
         if (mirrors(action) && gport_type(param) == kMirrorGport.type)

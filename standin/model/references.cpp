@@ -39,43 +39,14 @@ const UseRow kUses[] = {
     {Use::kRuleCounter, ObjectKind::kRule, "stat_id", Bond::kHolds},
     {Use::kRulePolicer, ObjectKind::kRule, "policer_id", Bond::kHolds},
     {Use::kRuleMirror, ObjectKind::kRule, "param1", Bond::kHolds},
+    {Use::kRuleRange, ObjectKind::kRule, "range", Bond::kHolds},
     {Use::kCounterGroup, ObjectKind::kCounter, "group", Bond::kHolds},
+    {Use::kRowHolds, ObjectKind::kRow, "", Bond::kHolds},
+    {Use::kRowLeaves, ObjectKind::kRow, "", Bond::kLeaves},
+    {Use::kRowFalls, ObjectKind::kRow, "", Bond::kFalls},
 };
 
 const UseRow &row_of(Use use) { return kUses[static_cast<std::size_t>(use)]; }
-
-bool exists(Switch &chip, const Object &object) {
-    const auto number = static_cast<std::int64_t>(object.number);
-    const auto id = static_cast<std::int32_t>(number);
-    switch (object.kind) {
-        case ObjectKind::kPort:
-            return local_port(id) >= 0;
-        case ObjectKind::kVlan:
-            return chip.vlans.find(static_cast<bcm_vlan_t>(number)) != nullptr;
-        case ObjectKind::kStg:
-            return chip.vlans.find_stg(id) != nullptr;
-        case ObjectKind::kTrunk:
-            return chip.groups.trunks.contains(id);
-        case ObjectKind::kInterface:
-            return chip.l3.interfaces.contains(id);
-        case ObjectKind::kEgress:
-            return chip.l3.egresses.contains(id);
-        case ObjectKind::kMultipath:
-            return chip.l3.multipaths.contains(id);
-        case ObjectKind::kMulticast:
-            return chip.groups.multicast.contains(id);
-        case ObjectKind::kMirror:
-            return chip.groups.mirrors.destinations.contains(id);
-        case ObjectKind::kPolicer:
-            return chip.groups.policers.contains(id);
-        case ObjectKind::kGroup:
-            return chip.field.groups.contains(static_cast<bcm_field_group_t>(number));
-        case ObjectKind::kCounter:
-            return chip.field.stats.contains(id);
-        default:
-            return true;  // of the kinds that nothing names
-    }
-}
 
 // Changes the user of an object that goes, and the index with it.
 template <class T, class Edit>
@@ -116,6 +87,10 @@ void end_use(Switch &chip, Use use, const Object &user, const Object &target) {
                 for (auto *const side : {&group.ingress, &group.egress})
                     std::erase_if(*side, [&](const auto &one) { return one.first == trunk; });
             });
+        case Use::kRowLeaves:
+            return leave_row(chip, user, target);
+        case Use::kRowFalls:
+            return fall_row(chip, user);
         default:
             return fall(chip, user);
     }
@@ -123,25 +98,70 @@ void end_use(Switch &chip, Use use, const Object &user, const Object &target) {
 
 }  // namespace
 
+bool exists(Switch &chip, const Object &object) {
+    const auto number = static_cast<std::int64_t>(object.number);
+    const auto id = static_cast<std::int32_t>(number);
+    switch (object.kind) {
+        case ObjectKind::kPort:
+            return local_port(id) >= 0;
+        case ObjectKind::kVlan:
+            return chip.vlans.find(static_cast<bcm_vlan_t>(number)) != nullptr;
+        case ObjectKind::kStg:
+            return chip.vlans.find_stg(id) != nullptr;
+        case ObjectKind::kTrunk:
+            return chip.groups.trunks.contains(id);
+        case ObjectKind::kInterface:
+            return chip.l3.interfaces.contains(id);
+        case ObjectKind::kEgress:
+            return chip.l3.egresses.contains(id);
+        case ObjectKind::kMultipath:
+            return chip.l3.multipaths.contains(id);
+        case ObjectKind::kMulticast:
+            return chip.groups.multicast.contains(id);
+        case ObjectKind::kMirror:
+            return chip.groups.mirrors.destinations.contains(id);
+        case ObjectKind::kPolicer:
+            return chip.groups.policers.contains(id);
+        case ObjectKind::kGroup:
+            return chip.field.groups.contains(static_cast<bcm_field_group_t>(number));
+        case ObjectKind::kCounter:
+            return chip.field.stats.contains(id);
+        case ObjectKind::kRule:
+            return chip.field.entries.contains(static_cast<bcm_field_entry_t>(number));
+        case ObjectKind::kRange:
+            return chip.field.ranges.contains(static_cast<bcm_field_range_t>(number));
+        default:
+            return true;  // of the kinds that nothing names
+    }
+}
+
 std::size_t References::Mix::operator()(const Object &object) const {
     std::uint64_t mixed = object.number * 0x9E3779B97F4A7C15u;
     mixed ^= static_cast<std::uint64_t>(object.kind) << 56;
     return static_cast<std::size_t>(mixed ^ (mixed >> 32));
 }
 
-int References::check_unused(const Object &target) const {
+int References::check_unused(Switch &chip, const Object &target) const {
     const auto found = users_.find(target);
-    if (found == users_.end() || found->second.begin()->bond != Bond::kHolds) return BCM_E_NONE;
+    if (found == users_.end()) return BCM_E_NONE;
+    const auto name = [&](const Object &one) {
+        return one.kind == ObjectKind::kRow ? row_text(chip, one) : text_of(one);
+    };
     int count = 0;
     std::string holders;
     for (const User &one : found->second) {
         if (one.bond != Bond::kHolds) break;
         if (++count > kHoldersTold) continue;
         if (count > 1) holders += ", ";
-        holders += text_of(one.user);
+        holders += name(one.user);
     }
     if (count > kHoldersTold) holders += " and " + std::to_string(count - kHoldersTold) + " more";
-    return refused(BCM_E_BUSY, text_of(target) + " is held by " + holders);
+    if (count > 0) return refused(BCM_E_BUSY, name(target) + " is held by " + holders);
+    // Rows come last among what falls with it, and are all that something may hold in turn.
+    for (auto row = found->second.lower_bound({Bond::kFalls, {ObjectKind::kRow}, Use{}});
+         row != found->second.end(); ++row)
+        if (const int status = check_unused(chip, row->user); status != BCM_E_NONE) return status;
+    return BCM_E_NONE;
 }
 
 void References::link(const Object &user, const Names &names) {

@@ -25,46 +25,13 @@
 #include "standin/model/groups.h"
 #include "standin/model/l2_chapter.h"
 #include "standin/model/l3.h"
+#include "standin/model/object.h"
 #include "standin/model/ports.h"
 #include "standin/model/vlans.h"
 
 namespace standin {
 
 struct Switch;
-
-enum class Bond : std::uint8_t { kHolds, kLeaves, kFalls };
-
-enum class ObjectKind : std::uint8_t {
-    kPort,
-    kVlan,
-    kStg,
-    kTrunk,
-    kMacRow,
-    kLearnLimit,
-    kInterface,
-    kEgress,
-    kMultipath,
-    kHost,
-    kRoute,
-    kMulticast,
-    kMirror,
-    kMirroredPort,
-    kPolicer,
-    kGroup,
-    kRule,
-    kCounter
-};
-
-// An object by the key of its table, in as many of these words as the key needs.
-struct Object {
-    ObjectKind kind{};
-    std::uint16_t length = 0;
-    std::int32_t scope = 0;
-    std::uint64_t number = 0;
-    std::uint64_t low = 0;
-
-    auto operator<=>(const Object &) const = default;
-};
 
 enum class Use : std::uint8_t {
     kPortVlan,
@@ -94,7 +61,11 @@ enum class Use : std::uint8_t {
     kRuleCounter,
     kRulePolicer,
     kRuleMirror,
-    kCounterGroup
+    kRuleRange,
+    kCounterGroup,
+    kRowHolds,  // of functions without a model; catalogue/standin.txt has their fields
+    kRowLeaves,
+    kRowFalls
 };
 
 struct UseRow {
@@ -112,8 +83,8 @@ using Names = std::vector<Name>;
 
 class References {
   public:
-    // The users of `target` are BCM_E_BUSY if one of them holds it.
-    int check_unused(const Object &target) const;
+    // BCM_E_BUSY if one of the users of `target` holds it, or what would fall with it.
+    int check_unused(Switch &chip, const Object &target) const;
 
     void link(const Object &user, const Names &names);
     void unlink(const Object &user, const Names &names);
@@ -145,16 +116,15 @@ class References {
     std::unordered_map<Object, std::set<User>, Mix> users_;
 };
 
-constexpr Object object(ObjectKind kind, std::int64_t number) {
-    return {kind, 0, 0, static_cast<std::uint64_t>(number), 0};
-}
 Object mac_object(const bcm_l2_addr_t &entry);
 Object limit_object(const L2Scope &scope);
 Object host_object(const HostKey &key);
 Object route_object(const RouteKey &key);
 Object mirrored_object(int port, std::uint32_t flags);
 
-// "trunk 3", "route 10.0.0.0/8 of VRF 0".
+bool exists(Switch &chip, const Object &object);
+
+// "trunk 3", "route 10.0.0.0/8 of VRF 0". REQUIRES: no row; row_text() is for those.
 std::string text_of(const Object &object);
 
 // What an object names. A black hole, the interface 0 and the like name nothing.
@@ -175,6 +145,7 @@ Names names_of(const FieldEntry &rule);
 Names names_of(const FieldStat &counter);
 inline Names names_of(const Policer &) { return {}; }
 inline Names names_of(const FieldGroup &) { return {}; }
+inline Names names_of(const FieldRange &) { return {}; }
 
 // BCM_E_NONE if all that is named is there; else BCM_E_PORT, or BCM_E_NOT_FOUND.
 int check_names(Switch &chip, const Names &names);

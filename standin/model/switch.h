@@ -29,6 +29,7 @@ struct Switch {
     Field field;
     L3 l3;
     GenericTables generic;  // of the calls that have no model of their own
+    GenericIndex row_index;
     Slots layers;
     Events events;
     Linkscan linkscan;
@@ -56,7 +57,8 @@ int change(Switch &chip, const Object &self, T &slot, Edit &&edit) {
 
 template <class T>
 int retire(Switch &chip, const Object &self, const T &value) {
-    if (const int status = chip.references.check_unused(self); status != BCM_E_NONE) return status;
+    if (const int status = chip.references.check_unused(chip, self); status != BCM_E_NONE)
+        return status;
     chip.references.dissolve(chip, self);
     chip.references.unlink(self, names_of(value));
     return BCM_E_NONE;

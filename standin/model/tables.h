@@ -117,19 +117,23 @@ int walk(const char *function, int unit, Table &&table, Visit &&visit) {
     }
 }
 
-// Forgets what the calls of a chapter that have no model keep: `prefix` is "bcm_vlan_", say.
-inline void forget_generic(Switch &chip, std::string_view prefix) {
-    std::erase_if(chip.generic, [&](const auto &one) { return one.first.starts_with(prefix); });
+// Clears a chapter by `clear(chip)`, a status, and with it what the calls without a model keep,
+// whose families start with `prefix`. Nothing changes if something else holds any of it.
+template <class Clear>
+int clear_chapter(Switch &chip, std::string_view prefix, Clear &&clear) {
+    int status = check_forgettable(chip, prefix);
+    if (status != BCM_E_NONE) return status;
+    suspend_rows(chip, prefix);
+    status = clear(chip);
+    status == BCM_E_NONE ? forget_rows(chip, prefix) : resume_rows(chip, prefix);
+    return status;
 }
 
 // Starts a chapter anew: what `clear` takes out of a switch, and what calls without a model keep.
 template <class Clear>
 int start_chapter(const char *function, int unit, std::string_view prefix, Clear clear) {
-    return on_switch(function, unit, [&](Switch &chip) {
-        const int status = clear(chip);
-        if (status == BCM_E_NONE) forget_generic(chip, prefix);
-        return status;
-    });
+    return on_switch(function, unit,
+                     [&](Switch &chip) { return clear_chapter(chip, prefix, clear); });
 }
 
 // Takes an object out of its table; BCM_E_BUSY while it is held.
@@ -148,7 +152,7 @@ int erase_objects(Switch &chip, Map &map, ObjectKind kind,
                   std::optional<typename Map::key_type> kept = {}) {
     for (const auto &[id, one] : map) {
         if (kept == id) continue;
-        const int status = chip.references.check_unused(object(kind, id));
+        const int status = chip.references.check_unused(chip, object(kind, id));
         if (status != BCM_E_NONE) return status;
     }
     for (auto at = map.begin(); at != map.end();) {

@@ -7,6 +7,7 @@
 #include "sdk/bcm/cosq.h"
 #include "sdk/bcm/fabric.h"
 #include "sdk/bcm/ipmc.h"
+#include "sdk/bcm/l3.h"
 #include "sdk/bcm/mim.h"
 #include "sdk/bcm/oam.h"
 #include "sdk/bcm/vlan.h"
@@ -107,6 +108,8 @@ TEST_F(Object, IdsInRecordsAreWrittenThere) {
 
 // Objects are numbered within another: here ports within a network.
 TEST_F(Object, KeysMayComeBeforeTheId) {
+    bcm_mim_vpn_config_t vpn{};
+    for (int i = 0; i < 2; ++i) ASSERT_EQ(bcm_mim_vpn_create(0, &vpn), BCM_E_NONE);
     bcm_mim_port_t port{};
     ASSERT_EQ(bcm_mim_port_add(0, 1, &port), BCM_E_NONE);
     ASSERT_EQ(bcm_mim_port_add(0, 1, &port), BCM_E_NONE);
@@ -146,6 +149,12 @@ TEST_F(Object, MembersBelongToTheirObject) {
     int group = 0;
     EXPECT_EQ(bcm_ipmc_rp_add(0, 1, 10), BCM_E_NOT_FOUND);
     ASSERT_EQ(bcm_ipmc_rp_create(0, 0, &group), BCM_E_NONE);
+    for (bcm_if_t number = 1; number <= 11; ++number) {
+        bcm_l3_intf_t intf{};
+        intf.l3a_vid = 1;
+        intf.l3a_mac_addr[5] = static_cast<uint8>(number);
+        ASSERT_EQ(bcm_l3_intf_create(0, &intf), BCM_E_NONE);
+    }
     EXPECT_EQ(bcm_ipmc_rp_add(0, group, 10), BCM_E_NONE);
     EXPECT_EQ(bcm_ipmc_rp_add(0, group, 10), BCM_E_EXISTS);
     EXPECT_EQ(bcm_ipmc_rp_add(0, group, 11), BCM_E_NONE);
@@ -161,8 +170,8 @@ TEST_F(Object, MembersBelongToTheirObject) {
     EXPECT_EQ(bcm_ipmc_rp_delete(0, group, 6), BCM_E_NONE);
     EXPECT_EQ(bcm_ipmc_rp_delete(0, group, 6), BCM_E_NOT_FOUND);
     EXPECT_EQ(bcm_ipmc_rp_destroy(0, group), BCM_E_NONE);
-    EXPECT_EQ(bcm_ipmc_rp_get(0, group, 3, members.data(), &count), BCM_E_NONE);
-    EXPECT_EQ(count, 0);
+    EXPECT_EQ(bcm_ipmc_rp_get(0, group, 3, members.data(), &count), BCM_E_NOT_FOUND);
+    EXPECT_EQ(bcm_ipmc_rp_delete_all(0, group), BCM_E_NOT_FOUND);
 }
 
 struct Walk {

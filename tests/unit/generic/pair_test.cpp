@@ -93,14 +93,14 @@ TEST_F(Pair, RecordsAreKeysOrValues) {
 // One record is both, where its key fields stand among its values.
 TEST_F(Pair, ARecordBearsItsKey) {
     bcm_rx_mtu_config_t config{};
-    config.intf = 3;
+    config.gport = 3;
     config.mtu = 1500;
     ASSERT_EQ(bcm_rx_mtu_set(0, &config), BCM_E_NONE);
     bcm_rx_mtu_config_t asked{};
-    asked.intf = 3;
+    asked.gport = 3;
     EXPECT_EQ(bcm_rx_mtu_get(0, &asked), BCM_E_NONE);
     EXPECT_EQ(asked.mtu, 1500u);
-    asked.intf = 4;
+    asked.gport = 4;
     EXPECT_EQ(bcm_rx_mtu_get(0, &asked), BCM_E_NONE);
     EXPECT_EQ(asked.mtu, 0u);
 }

@@ -49,15 +49,15 @@ TEST_F(Plain, ThreadsMayCallAtOnce) {
     std::vector<std::thread> threads;
     for (int port = 0; port < 4; ++port) {
         threads.emplace_back([port] {
-            for (int queue = 0; queue < 200; ++queue)
+            for (int queue = 0; queue < 60; ++queue)
                 bcm_cosq_control_set(0, port, queue, bcm_cosq_control_t{1}, port * 1000 + queue);
         });
     }
     for (auto &thread : threads) thread.join();
     int arg = 0;
     for (int port = 0; port < 4; ++port) {
-        ASSERT_EQ(bcm_cosq_control_get(0, port, 199, bcm_cosq_control_t{1}, &arg), BCM_E_NONE);
-        EXPECT_EQ(arg, port * 1000 + 199);
+        ASSERT_EQ(bcm_cosq_control_get(0, port, 59, bcm_cosq_control_t{1}, &arg), BCM_E_NONE);
+        EXPECT_EQ(arg, port * 1000 + 59);
     }
 }
 

@@ -54,6 +54,8 @@ TEST_F(Table, KeyFieldsOfARecordFindIt) {
 }
 
 TEST_F(Table, OneArgumentMaySelectSeveralRows) {
+    for (const bcm_vlan_t vsi : std::array<bcm_vlan_t, 2>{7, 8})
+        ASSERT_EQ(bcm_vswitch_create_with_id(0, vsi), BCM_E_NONE) << vsi;
     ASSERT_EQ(bcm_vswitch_port_add(0, 7, 1), BCM_E_NONE);
     ASSERT_EQ(bcm_vswitch_port_add(0, 7, 2), BCM_E_NONE);
     ASSERT_EQ(bcm_vswitch_port_add(0, 8, 3), BCM_E_NONE);
@@ -97,6 +99,10 @@ TEST_F(Table, ArraysOfRecordsAreRows) {
     EXPECT_EQ(count, 2);
     EXPECT_EQ(back[0].port, 2);
     EXPECT_EQ(back[1].port, 3);
+    egress[1].port = 999;  // one that names nothing: all is as before
+    EXPECT_EQ(bcm_niv_egress_set(0, 9, 2, egress.data()), BCM_E_PORT);
+    EXPECT_EQ(bcm_niv_egress_get(0, 9, 3, back.data(), &count), BCM_E_NONE);
+    EXPECT_EQ(std::tuple(count, back[0].port), std::tuple(2, 2));
 }
 
 TEST_F(Table, SeveralInputsAreAttached) {
@@ -164,6 +170,7 @@ constexpr bcm_vlan_stat_t kStat{2};
 constexpr bcm_vlan_stat_t kOther{3};
 
 TEST_F(Table, CountersAreOneForAllForms) {
+    ASSERT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
     uint64 wide = 1;
     uint32 narrow = 1;
     EXPECT_EQ(bcm_vlan_stat_get(0, 10, 1, kStat, &wide), BCM_E_NONE);
@@ -189,6 +196,7 @@ TEST_F(Table, CountersAreOneForAllForms) {
 }
 
 TEST_F(Table, CountersByIndex) {
+    ASSERT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
     std::array<uint32, 2> indexes = {5, 6};
     std::array<bcm_stat_value_t, 2> values = {};
     values[0].bytes = 50;
@@ -203,6 +211,7 @@ TEST_F(Table, CountersByIndex) {
 }
 
 TEST_F(Table, CounterIdsAreAttachedAndDetached) {
+    ASSERT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
     uint32 id = 0;
     EXPECT_EQ(bcm_vlan_stat_id_get(0, 10, kStat, &id), BCM_E_NOT_FOUND);
     EXPECT_EQ(bcm_vlan_stat_attach(0, 10, 77), BCM_E_NONE);

@@ -6,6 +6,11 @@
 static_assert(sizeof(tiny_port_t) == 4);
 static_assert(sizeof(int) == 4);
 
+namespace {
+using namespace standin;
+constexpr NameKind kind_port{.name = "port", .sort = Sort::kPort};
+}  // namespace
+
 extern "C" {
 
 int tiny_none() { return standin::unavailable("tiny_none"); }
@@ -37,13 +42,16 @@ int tiny_speed_set(int unit, tiny_port_t port, int speed) {
     static constexpr Binding bindings[] = {
         {.argument = 1, .role = Role::select, .size = 4},
         {.argument = 2, .role = Role::write, .row = 4, .size = 4}};
+    static constexpr Reference references[] = {
+        {.kind = &kind_port, .field = "port", .bond = Bond::kFalls, .size = 4}};
     static constexpr Call call{
         .name = "tiny_speed_set",
         .family = "tiny_speed",
         .key = 4,
         .row = 8,
         .operation = Operation::store,
-        .bindings = bindings};
+        .bindings = bindings,
+        .references = references};
     const void *const arguments[] = {&unit, &port, &speed};
     return answer(call, unit, arguments);
 }
@@ -53,13 +61,16 @@ int tiny_speed_get(int unit, tiny_port_t port, int *speed) {
     static constexpr Binding bindings[] = {
         {.argument = 1, .role = Role::select, .size = 4},
         {.argument = 2, .role = Role::read, .memory = true, .row = 4, .size = 4}};
+    static constexpr Reference references[] = {
+        {.kind = &kind_port, .field = "port", .bond = Bond::kFalls, .size = 4}};
     static constexpr Call call{
         .name = "tiny_speed_get",
         .family = "tiny_speed",
         .key = 4,
         .row = 8,
         .operation = Operation::read,
-        .bindings = bindings};
+        .bindings = bindings,
+        .references = references};
     const void *const arguments[] = {&unit, &port, &speed};
     return answer(call, unit, arguments);
 }
