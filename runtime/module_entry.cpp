@@ -9,7 +9,6 @@
 #include "runtime/collector_pause.h"
 #include "runtime/hex_text.h"
 #include "runtime/module_list.h"
-#include "runtime/name_hash.h"
 #include "runtime/packed_object.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/set_aside.h"
@@ -51,16 +50,18 @@ PyObject *object_of_row(const swig_const_row &row) {
 }
 
 void install_constants(PyObject *dictionary, const swig_constant *first, std::size_t count) {
-    ombra::NameHash names;
+    const bool hashed = ombra::hashes_without_seed();
     for (const swig_constant *constant = first; constant != first + count; ++constant) {
-        if (constant->length == 0) {
-            SWIG_Python_SetConstant(dictionary, constant->name, PyInt_FromLong(constant->value));
+        PyObject *const value = PyInt_FromLong(constant->value);
+        if (!hashed) {
+            SWIG_Python_SetConstant(dictionary, constant->name, value);
             continue;
         }
-        const ombra::PyRef name(names.intern(constant->name, constant->length, constant->shared));
-        const ombra::PyRef value(PyInt_FromLong(constant->value));
+        const ombra::PyRef held(value);
+        const ombra::PyRef name(
+            ombra::intern_hashed(constant->name, constant->length, constant->hash));
         if (name == nullptr || value == nullptr) return;
-        PyDict_SetItem(dictionary, name.get(), value.get());
+        PyDict_SetItem(dictionary, name.get(), value);
     }
 }
 

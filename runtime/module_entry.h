@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "runtime/name_hash.h"
 #include "runtime/type_table.h"
 #include "runtime/variable_link.h"
 
@@ -23,10 +24,14 @@ struct swig_const_row {
 };
 
 struct swig_constant {
+    template <std::size_t size>
+    constexpr swig_constant(const char (&text)[size], std::int32_t number)
+        : name(text), value(number), length(size - 1), hash(ombra::string_hash(text, size - 1)) {}
+
     const char *name;
     std::int32_t value;
-    std::uint8_t length = 0;  // of the name; 0 where it is to be counted
-    std::uint8_t shared = 0;  // how many characters the name in front begins with as well
+    std::uint32_t length;  // of the name
+    long hash;             // of the name, without a seed
 };
 
 struct swig_variable {

@@ -1,27 +1,25 @@
-// Names that come in order, made into interned strings without hashing again what neighbours share.
+// Names of constants made into interned strings by hashes that the compiler has worked out.
 #pragma once
 
 #include <Python.h>
 
-#include <array>
 #include <cstddef>
 
 namespace ombra {
 
-// Hashes a row of names the way that the interpreter hashes strings. Thousands of names that mostly
-// begin like the one before are a tenth of an import. Where the interpreter hashes otherwise, as
-// with a random seed, strings are left to it.
-class NameHash {
-  public:
-    // A new interned string. `shared` is how many characters `name` has in common with the name of
-    // the call before; `length` is less than 256. Null with an exception.
-    PyObject *intern(const char *name, std::size_t length, std::size_t shared);
+// What the interpreter hashes a string to where it has no seed (`-R`).
+constexpr long string_hash(const char *text, std::size_t length) {
+    unsigned long value = static_cast<unsigned long>(static_cast<unsigned char>(text[0])) << 7;
+    for (std::size_t i = 0; i < length; ++i)
+        value = value * 1000003 ^ static_cast<unsigned char>(text[i]);
+    value ^= length;
+    return value == ~0UL ? -2 : static_cast<long>(value);  // it keeps -1 for "not known yet"
+}
 
-  private:
-    enum class State { unknown, same, other };
+// Whether this interpreter hashes so. No error stays set.
+bool hashes_without_seed();
 
-    State state_ = State::unknown;
-    std::array<unsigned long, 256> running_{};  // the hash in front of each character
-};
+// A new interned string of that hash. Null with an exception.
+PyObject *intern_hashed(const char *text, std::size_t length, long hash);
 
 }  // namespace ombra

@@ -47,7 +47,7 @@ const std::string kInstall = R"(@banner@
 
 using namespace ombra;
 
-const swig_constant swig_constants[] = {
+constinit const swig_constant swig_constants[] = {
 @constants@};
 
 const swig_variable swig_variables[] = {
@@ -157,16 +157,8 @@ std::string emit_type_slots(const Model &model) {
     return text + "\n}  // namespace slots\n";
 }
 
-// The length of a name and what it shares with the one in front, as a byte each.
-std::string name_lengths(const std::string &name, const std::string &before) {
-    if (name.size() > 255) return "0, 0";
-    const auto shared = std::mismatch(name.begin(), name.end(), before.begin(), before.end()).first;
-    return number(name.size()) + ", " + number(static_cast<std::size_t>(shared - name.begin()));
-}
-
 std::string emit_install_table(const Model &model) {
     std::string constants;
-    std::string before;  // the constant in front
     std::string variables;
     std::string steps;
     std::size_t constant_count = 0;
@@ -184,9 +176,7 @@ std::string emit_install_table(const Model &model) {
     };
     for (const auto &row : model.install) {
         if (row.what == InstallRow::What::constant) {
-            constants += "    {\"" + row.name + "\", " + std::to_string(row.value) + ", " +
-                         name_lengths(row.name, before) + "},\n";
-            before = row.name.size() > 255 ? "" : row.name;
+            constants += "    {\"" + row.name + "\", " + std::to_string(row.value) + "},\n";
             ++constant_count;
             continue;
         }

@@ -72,25 +72,21 @@ TEST_F(ModuleEntryTest, CollectorPauseLeavesNoTrace) {
     }
 }
 
-// Also where the interpreter hashes from a seed, as with -R.
-TEST_F(ModuleEntryTest, NamesInOrderHashAsOneByOne) {
-    const auto seed = _Py_HashSecret;
-    for (const long prefix : {0L, 5L}) {
-        _Py_HashSecret.prefix = prefix;
-        ombra::NameHash names;
-        const char *before = "";
-        for (const char *text : {"in order", "in order of", "in ordinary", "other"}) {
-            const std::string name = text + std::to_string(prefix);
-            std::size_t shared = 0;
-            while (before[shared] != '\0' && before[shared] == text[shared]) ++shared;
-            const PyRef interned(names.intern(name.c_str(), name.size(), shared));
-            const PyRef fresh(PyString_FromString(name.c_str()));
-            EXPECT_TRUE(PyString_CHECK_INTERNED(interned.get()));
-            EXPECT_EQ(PyObject_Hash(interned.get()), PyObject_Hash(fresh.get())) << name;
-            before = text;
-        }
+// A string with a hash of another making would be in the dictionary and never found.
+TEST_F(ModuleEntryTest, NamesHashAsTheInterpreterHashes) {
+    for (const char *text : {"in order", "in ordinary", "", "\xff other"}) {
+        const std::size_t length = std::strlen(text);
+        const long hash = ombra::string_hash(text, length);
+        const PyRef interned(ombra::intern_hashed(text, length, hash));
+        const PyRef fresh(PyString_FromString(text));
+        EXPECT_TRUE(PyString_CHECK_INTERNED(interned.get()));
+        EXPECT_EQ(PyObject_Hash(fresh.get()), hash) << text;
     }
+    const auto seed = _Py_HashSecret;
+    _Py_HashSecret.prefix = 5;
+    EXPECT_FALSE(ombra::hashes_without_seed());
     _Py_HashSecret = seed;
+    EXPECT_TRUE(ombra::hashes_without_seed());
 }
 
 // Runs the entry in a second interpreter, in a process of its own: the variables go into the one
