@@ -16,7 +16,7 @@ namespace {
 // A tuple of the items, whose references it takes over. A null item, whose maker has set an
 // exception, gives null and keeps nothing.
 template <typename... Items>
-PyObject *tuple_of(Items... items) {
+[[gnu::always_inline]] inline PyObject *tuple_of(Items... items) {
     PyObject *tuple = ((items != nullptr) && ...) ? PyTuple_New(sizeof...(Items)) : nullptr;
     if (tuple == nullptr) [[unlikely]] {
         ([](PyObject *item) { Py_XDECREF(item); }(items), ...);
@@ -28,6 +28,13 @@ PyObject *tuple_of(Items... items) {
 }
 
 PyObject *none() { Py_RETURN_NONE; }
+
+// PyBool_FromLong without the call.
+PyObject *truth(int value) {
+    PyObject *const result = value != 0 ? Py_True : Py_False;
+    Py_INCREF(result);
+    return result;
+}
 
 // The word of a spanning tree state. Listening has no constant of the binding's table of words,
 // and a state that the SDK does not know is still a whole tuple.
@@ -88,7 +95,7 @@ PyObject *bcm_port_pause_get(int unit, bcm_port_t port) {
     int pause_tx = 0;
     int pause_rx = 0;
     const int status = ::bcm_port_pause_get(unit, port, &pause_tx, &pause_rx);
-    return tuple_of(PyInt_FromLong(status), PyBool_FromLong(pause_tx), PyBool_FromLong(pause_rx));
+    return tuple_of(PyInt_FromLong(status), truth(pause_tx), truth(pause_rx));
 }
 
 PyObject *bcm_port_untagged_vlan_get(int unit, bcm_port_t port) {
