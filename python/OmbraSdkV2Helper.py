@@ -114,10 +114,10 @@ _BUILT_IN = type(len)
 
 def _fill(namespace):
     """Puts the names of the module, the callbacks and the classes here."""
-    made_before = namespace.get('_made', ())  # by a load before a reload
-    own = dict((name, value) for name, value in namespace.iteritems()
-               if name not in made_before)
     rows = vars(_native)
+    before = namespace.get('_own')  # of a load before a reload
+    own = dict((name, value) for name, value in namespace.iteritems()
+               if before is None or name in before or name not in rows)
     public = _companion.take_names(namespace, rows)
     made = {}
     for name, function in vars(_companion).iteritems():
@@ -135,7 +135,9 @@ def _fill(namespace):
         made.update((one, value) for one in (name,) + others)
     for name, type_name in _tables.HOLDERS:
         made[name] = _proxy.holder_class(name, type_name)
-    made_now = frozenset(rows).union(made).difference(own)
+    if before is not None:
+        own = dict((name, value) for name, value in own.iteritems()
+                   if name in before or name not in made)
     made.update(own)
     for name, value in made.iteritems():  # one by one, as take_names() does
         namespace[name] = value
@@ -144,7 +146,7 @@ def _fill(namespace):
     public.extend(name for name in made if name not in rows
                   and name[0] != '_' and ' ' not in name)
     namespace['__all__'] = public
-    namespace['_made'] = made_now
+    namespace['_own'] = frozenset(own)
     # Where one of the two modules was first imported by an interpreter that
     # has ended, they know each other's types by name alone.
     if type(Array('bcm_l2_addr_t', 1)[0]) is not namespace['bcm_l2_addr_t']:
