@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 
 case "${1:-}" in
     # g++ brings the runtimes of AddressSanitizer and UBSan along.
-    build)  packages=(g++ cmake ninja-build libgtest-dev libedit-dev) ;;
+    build)  packages=(g++ cmake ninja-build libgtest-dev libedit-dev nlohmann-json3-dev) ;;
     browser) packages=(chromium chromium-driver) ;;
     format) packages=(clang-format-16) ;;
     tidy)   packages=(clang-tidy) ;;

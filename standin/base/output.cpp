@@ -1,25 +1,25 @@
-// The captures of a thread, the pager and standard output behind them, and columns.
+// The captures of a thread, the pager and standard output behind them.
 #include "standin/base/output.h"
 
-#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
+#include <utility>
 
 #include "standin/base/descriptor.h"
+#include "standin/base/rows.h"
 #include "standin/base/scan.h"
 
 namespace standin {
 namespace {
 
-thread_local Capture *innermost = nullptr;
+thread_local Capture *top = nullptr;
 
-struct Pager {
-    int lines = 0;
-    bool (*more)() = nullptr;
-    int printed = 0;
+struct Page {
+    int left = 0;  // lines that may be printed before the next question
     bool stopped = false;
 };
-thread_local Pager pager;
+thread_local Screen screen;
+thread_local Page current;
 
 // Drops what standard output cannot take, as wait_writable has it; what the program had written
 // before goes first.
@@ -36,36 +36,28 @@ void print(std::string_view text) {
 }
 
 void page(std::string_view text) {
-    while (!text.empty() && !pager.stopped) {
+    while (!text.empty() && !current.stopped) {
+        if (current.left == 0) {
+            current.left = screen.more();
+            current.stopped = current.left == 0;
+            continue;
+        }
         std::size_t end = text.find('\n');
         std::string_view line = text.substr(0, end == std::string_view::npos ? end : end + 1);
         print(line);
         text.remove_prefix(line.size());
-        if (end == std::string_view::npos || ++pager.printed < pager.lines) continue;
-        pager.printed = 0;
-        pager.stopped = !pager.more();
+        if (end != std::string_view::npos) --current.left;
     }
-}
-
-std::string line_of(const std::vector<std::string> &cells, const std::vector<std::size_t> &widths,
-                    const std::vector<bool> &right) {
-    std::string line;
-    for (std::size_t at = 0; at < cells.size(); ++at) {
-        std::string fill(widths[at] - std::min(widths[at], cells[at].size()), ' ');
-        line += at == 0 ? "" : "  ";
-        line += right[at] ? fill + cells[at] : cells[at] + fill;
-    }
-    return line.erase(line.find_last_not_of(' ') + 1) + '\n';
 }
 
 }  // namespace
 
 void out(std::string_view text) {
-    if (innermost != nullptr) {
-        innermost->text_ += text;
+    if (top != nullptr) {
+        top->text_ += text;
         return;
     }
-    if (pager.lines > 0 && pager.more != nullptr)
+    if (screen.lines > 0 && screen.more != nullptr)
         page(text);
     else
         print(text);
@@ -78,40 +70,29 @@ void outf(const char *format, ...) {
     va_end(arguments);
 }
 
-Capture::Capture() : outer_(innermost) { innermost = this; }
+Capture::Capture() : outer_(top) { top = this; }
 
-Capture::~Capture() { innermost = outer_; }
+Capture::~Capture() { top = outer_; }
 
-void out_pager_set(int lines, bool (*more)()) { pager = Pager{lines, more, 0, false}; }
+bool Capture::innermost() const { return top == this; }
 
-void out_pager_rewind() {
-    pager.printed = 0;
-    pager.stopped = false;
+std::string Capture::drain() { return std::exchange(text_, {}); }
+
+const Screen &out_screen() {
+    static const Screen kNone;
+    return top == nullptr ? screen : kNone;
 }
 
-Table::Table(std::vector<std::string> headings) : headings_(std::move(headings)) {
-    for (std::string &heading : headings_) {
-        right_.push_back(heading.starts_with('>'));
-        if (right_.back()) heading.erase(0, 1);
-    }
+void out_screen_set(const Screen &now) {
+    screen = now;
+    out_rewind();
 }
 
-void Table::row(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
+void out_rewind() { current = Page{screen.lines, false}; }
 
-std::string Table::text() const {
-    std::vector<std::size_t> widths;
-    std::vector<std::string> rules;
-    for (std::size_t at = 0; at < headings_.size(); ++at) {
-        std::size_t width = headings_[at].size();
-        for (const auto &cells : rows_) width = std::max(width, cells[at].size());
-        widths.push_back(width);
-        rules.emplace_back(width, '-');
-    }
-    std::string text = line_of(headings_, widths, right_) + line_of(rules, widths, right_);
-    for (const auto &cells : rows_) text += line_of(cells, widths, right_);
-    return text;
+void out_fault(std::string_view line) {
+    const std::string text = escaped(line);
+    out(out_screen().colours ? "\x1b[31m" + text + "\x1b[0m\n" : text + '\n');
 }
-
-void Table::print() const { out(text()); }
 
 }  // namespace standin

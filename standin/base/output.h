@@ -4,7 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace standin {
 
@@ -21,6 +20,9 @@ class Capture {
     Capture &operator=(const Capture &) = delete;
 
     const std::string &text() const { return text_; }
+    // Whether what this thread prints comes here.
+    bool innermost() const;
+    std::string drain();  // the text, which is then empty
 
   private:
     friend void out(std::string_view);
@@ -29,33 +31,19 @@ class Capture {
     Capture *outer_;
 };
 
-// Pages what is printed onto a terminal: after each `lines` lines of one command `more` is asked
-// whether to go on. 0 lines, or no function, turns it off.
-void out_pager_set(int lines, bool (*more)());
-void out_pager_rewind();  // a new command begins
-
-// Rows in columns, each as wide as its widest cell, two blanks between:
-//
-//   Port  Link  Speed
-//   ----  ----  -----
-//   1     up    10000
-class Table {
-  public:
-    // A heading that begins with '>' is a column of numbers, set to the right.
-    explicit Table(std::vector<std::string> headings);
-
-    // REQUIRES: as many cells as headings.
-    void row(std::vector<std::string> cells);
-    std::size_t size() const { return rows_.size(); }
-
-    // The whole table, no blanks at line ends.
-    std::string text() const;
-    void print() const;
-
-  private:
-    std::vector<std::string> headings_;
-    std::vector<bool> right_;
-    std::vector<std::vector<std::string>> rows_;
+// The terminal in front of this thread, if any: what is captured knows nothing of it.
+struct Screen {
+    int width = 0;  // signs in a line; 0: no terminal, nothing is cut
+    bool colours = false;
+    int lines = 0;            // after so many `more` tells how many lines may follow; 0: no pager
+    int (*more)() = nullptr;  // 0 ends the output of the command
 };
+const Screen &out_screen();
+void out_screen_set(const Screen &screen);
+void out_rewind();  // a new command begins, on a fresh page
+
+// A line that tells what went wrong, red on a terminal with colours; what it repeats of a caller
+// cannot move the cursor.
+void out_fault(std::string_view line);
 
 }  // namespace standin

@@ -78,6 +78,8 @@ int refused_ports(const bcm_pbmp_t &ports) {
 
 std::string last_refusal() { return sentence(last); }
 
+void forget_refusal() { last = {}; }
+
 bool is_stopped(const Switch &chip, const char *function) {
     if (chip.stopped.empty()) return false;
     const std::string_view name = function;

@@ -30,8 +30,9 @@ int refused(int status, std::string why);
 int refused_port(std::string_view field, int port);
 int refused_ports(const bcm_pbmp_t &ports);  // the first of them that is none
 
-// The last refusal on this thread as a sentence; empty before the first.
+// The last refusal on this thread as a sentence; empty before the first, and once forgotten.
 std::string last_refusal();
+void forget_refusal();
 
 // After its `_detach` or `_cleanup` a chapter answers BCM_E_INIT until its `_init`.
 bool is_stopped(const Switch &chip, const char *function);

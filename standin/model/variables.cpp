@@ -44,7 +44,7 @@ int sh_set_rcerror = 1;
 int sh_set_lperror = 1;
 int sh_set_iferror = 0;
 int sh_set_rctest = 0;
-int sh_set_more_lines = 0;
+int sh_set_more_lines = -1;
 int sh_set_report_time = 0;
 int sh_set_report_status = 0;
 

@@ -11,8 +11,9 @@ constexpr auto kPlatform = MemoryKind::kPlatform;
 
 #define F(name, bits) \
     FieldRow { name##f, #name, bits }
+// Braces alone: what a named type is made of would not live as long as the table.
 #define M(name, entries, arrays, kind, ...)                    \
-    MemoryRow {                                                \
+    {                                                          \
         name##m, #name, entries, arrays, kind, { __VA_ARGS__ } \
     }
 

@@ -10,8 +10,9 @@ constexpr auto kVolatile = RegisterKind::kVolatile;
 
 #define F(name, bits) \
     FieldRow { name##f, #name, bits }
+// Braces alone: what a named type is made of would not live as long as the table.
 #define R(name, elements, kind, reset, ...)                    \
-    RegisterRow {                                              \
+    {                                                          \
         name##r, #name, elements, kind, reset, { __VA_ARGS__ } \
     }
 

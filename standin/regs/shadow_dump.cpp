@@ -2,7 +2,7 @@
 #include <string>
 
 #include "helper/shadow.h"
-#include "standin/base/output.h"
+#include "standin/base/rows.h"
 #include "standin/base/scan.h"
 #include "standin/regs/bits.h"
 #include "standin/regs/dump_file.h"
@@ -25,14 +25,18 @@ std::string memory_text(const Unit &unit) {
     text += text_of("# PCI configuration shadow: %s\n", policy.pci_configured ? "on" : "off");
     if (!policy.constraints_file.empty())
         text += "# copy engine constraints: " + policy.constraints_file + '\n';
-    Table table({"Memory", ">Number", "Block", ">Array", "Base", ">Entries", ">Bits", ">Copies",
-                 "Manager", "Shadow"});
+    static constexpr Column kColumns[] = {
+        {"memory", "Memory", CellKind::kText},   {"number", ">Number", CellKind::kNumber},
+        {"block", "Block", CellKind::kText},     {"array", ">Array", CellKind::kNumber},
+        {"base", "Base", CellKind::kText},       {"entries", ">Entries", CellKind::kNumber},
+        {"bits", ">Bits", CellKind::kNumber},    {"copies", ">Copies", CellKind::kNumber},
+        {"manager", "Manager", CellKind::kText}, {"shadow", "Shadow", CellKind::kText}};
+    Rows table(kColumns);
     for (const MemoryLayout &layout : all_memories()) {
         for (int array = 0; array < layout.arrays; ++array) {
-            table.row({layout.name, std::to_string(layout.id), std::string(layout.block->name),
-                       std::to_string(array), hex(entry_address(layout, 0, array, 0)),
-                       std::to_string(layout.entries), std::to_string(layout.bits),
-                       std::to_string(layout.block->count),
+            table.row({std::string(layout.name), layout.id, std::string(layout.block->name), array,
+                       hex(entry_address(layout, 0, array, 0)), layout.entries, layout.bits,
+                       layout.block->count,
                        layout.kind == MemoryKind::kPlatform ? "platform" : "sdk",
                        shadow_text(unit.state, layout, array)});
         }
@@ -59,12 +63,17 @@ std::string parity_errors(const Unit &unit, const Block &block) {
 
 std::string parity_text(const Unit &unit) {
     std::string text = text_of("# unit %d: parity and ECC\n", unit.number);
-    Table table({"Memory", "Block", "Protection", ">Check bits", ">Block errors"});
+    static constexpr Column kColumns[] = {{"memory", "Memory", CellKind::kText},
+                                          {"block", "Block", CellKind::kText},
+                                          {"protection", "Protection", CellKind::kText},
+                                          {"check_bits", ">Check bits", CellKind::kNumber},
+                                          {"block_errors", ">Block errors", CellKind::kText}};
+    Rows table(kColumns);
     for (const MemoryLayout &layout : all_memories()) {
         // An entry of one word has a parity bit, a wider one 7 bits of ECC for each word.
         const bool ecc = layout.words() > 1;
-        table.row({layout.name, std::string(layout.block->name), ecc ? "ecc" : "parity",
-                   std::to_string(ecc ? 7 * layout.words() : 1),
+        table.row({std::string(layout.name), std::string(layout.block->name),
+                   ecc ? "ecc" : "parity", ecc ? 7 * layout.words() : 1,
                    parity_errors(unit, *layout.block)});
     }
     return text + table.text();

@@ -7,7 +7,7 @@
 
 #include "helper/shadow.h"
 #include "standin/base/number_text.h"
-#include "standin/base/output.h"
+#include "standin/base/rows.h"
 #include "standin/base/scan.h"
 #include "standin/regs/access.h"
 #include "standin/regs/dump_file.h"
@@ -106,11 +106,16 @@ std::string sync_text(int unit, const SyncRecord &record) {
     std::string text =
         text_of("# unit %d: %u registers compared, %u different%s\n", unit, record.compared,
                 record.differing, record.repaired ? ", shadow repaired" : "");
-    Table table({"Register", "Address", ">Word", ">Shadow", ">Hardware"});
+    static constexpr Column kColumns[] = {{"register", "Register", CellKind::kText},
+                                          {"address", "Address", CellKind::kText},
+                                          {"word", ">Word", CellKind::kNumber},
+                                          {"shadow", ">Shadow", CellKind::kText},
+                                          {"hardware", ">Hardware", CellKind::kText}};
+    Rows table(kColumns);
     for (const Difference &one : record.differences) {
         table.row({element_text(*one.layout, one.instance, one.index),
-                   text_of("0x%08x", one.address), std::to_string(one.word),
-                   text_of("0x%08x", one.shadow), text_of("0x%08x", one.hardware)});
+                   text_of("0x%08x", one.address), one.word, text_of("0x%08x", one.shadow),
+                   text_of("0x%08x", one.hardware)});
     }
     return text + table.text();
 }

@@ -1,51 +1,73 @@
-// What several commands share: status texts, port lists, patterns of names.
+// What several commands share: status texts, cells of ports, patterns of names.
 #include <fnmatch.h>
 
-#include "sdk/diag/parse.h"
 #include "standin/base/output.h"
 #include "standin/base/scan.h"
+#include "standin/model/refusal.h"
 #include "standin/shell/commands.h"
 #include "standin/text/name_text.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
+namespace {
+
+// By the negative of a status.
+constexpr const char *kMeanings[] = {"well",
+                                     "an internal error",
+                                     "out of memory",
+                                     "no such unit",
+                                     "a bad parameter",
+                                     "the table is empty",
+                                     "the table is full",
+                                     "it is not there",
+                                     "it is there already",
+                                     "it took too long",
+                                     "it is in use",
+                                     "it failed",
+                                     "it is switched off",
+                                     "a bad identifier",
+                                     "out of room",
+                                     "it does not fit the configuration",
+                                     "not available",
+                                     "not initialised: 'init' does it",
+                                     "no such port"};
+
+}  // namespace
 
 std::string status_text(int status) {
     static const NameFamily &names = *new NameFamily("BCM_E_");
     return names.name(status, false);
 }
 
-cmd_result_t report(const args_t &args, int status) {
-    return status >= 0 ? kOk : refuse(args, status_text(status));
+std::string status_meaning(int status) {
+    const auto place = static_cast<std::size_t>(-std::int64_t{status});
+    std::string text = status_text(status);
+    if (place < std::size(kMeanings)) text += std::string(": ") + kMeanings[place];
+    // "call(unit): STATUS: why"; another status is another call's.
+    const std::string refusal = last_refusal();
+    const std::string brief = "): " + text.substr(0, text.find(':')).erase(0, 6) + ": ";
+    const std::size_t at = refusal.find(brief);
+    return at == std::string::npos ? text : text + "; " + refusal.substr(at + brief.size());
 }
 
-cmd_result_t refuse(const args_t &args, const std::string &text) {
-    out(args.command + ": " + text + '\n');
+cmd_result_t report(const Call &call, int status) {
+    return status >= 0 ? kOk : refuse(call, status_meaning(status));
+}
+
+cmd_result_t refuse(const Call &call, const std::string &text) {
+    out_fault(call.name() + ": " + text);
     return kFail;
 }
 
-cmd_result_t run_subcommand(int unit, args_t &args, std::initializer_list<Subcommand> table,
-                            const char *fallback) {
-    std::string word = args.take().value_or(fallback);
-    for (const Subcommand &entry : table) {
-        if (!same_word(entry.name, word)) continue;
-        args.command += ' ' + lower_case(word);
-        return entry.run(unit, &args);
-    }
-    refuse(args, "no '" + word + '\'');
-    return kUsage;
+Cell ports_cell(const PortSet &ports, const PortNames &names) {
+    Cell::Numbers numbers;
+    for (std::size_t at = 0; at < ports.size(); ++at)
+        if (ports[at]) numbers.push_back(static_cast<std::int64_t>(at));
+    return {std::move(numbers), port_list_text(ports, names)};
 }
 
-std::optional<PortSet> take_ports(int unit, args_t &args, const PortNames &names) {
-    if (names.empty()) {
-        refuse(args, "unit " + std::to_string(unit) + " has no ports");
-        return std::nullopt;
-    }
-    std::string fault;
-    bool given = !args.empty() && args.peek()->find('=') == std::string::npos;
-    std::optional<PortSet> ports = read_ports_there(given ? *args.take() : "all", names, fault);
-    if (!ports) refuse(args, fault);
-    return ports;
+Cell port_cell(int port, const PortNames &names) {
+    return {std::int64_t{port}, port_text(port, names)};
 }
 
 cmd_result_t for_ports(const PortSet &ports, const std::function<cmd_result_t(int)> &each) {
@@ -63,11 +85,6 @@ bool name_matches(std::string_view name, const std::string &pattern) {
     if (wanted.find_first_of("*?[") == std::string::npos)
         return text.find(wanted) != std::string::npos;
     return fnmatch(wanted.c_str(), text.c_str(), 0) == 0;
-}
-
-bool parse_all(args_t &args, parse_table_s &table, cmd_result_t &result) {
-    table.parse(args);
-    return parseEndOk(&args, &table, &result) != 0;
 }
 
 }  // namespace standin

@@ -1,6 +1,6 @@
 // Commands on units, ports, counters and PHYs.
+#include <algorithm>
 #include <array>
-#include <cstdlib>
 
 #include "helper/device.h"
 #include "sdk/bcm/init.h"
@@ -10,6 +10,7 @@
 #include "sdk/soc/init.h"
 #include "standin/base/number_text.h"
 #include "standin/base/output.h"
+#include "standin/base/rows.h"
 #include "standin/base/scan.h"
 #include "standin/model/model.h"
 #include "standin/model/switch.h"
@@ -21,256 +22,296 @@ namespace standin {
 namespace {
 
 // Asks one number of a port; the cell of a table.
-std::string ask(int (*get)(int, bcm_port_t, int *), int unit, int port) {
+Cell ask(int (*get)(int, bcm_port_t, int *), int unit, int port) {
     int value = 0;
     int status = get(unit, port, &value);
     return cell(status, value);
 }
 
 // The same, with a word for 0 and for anything else.
-std::string ask_word(int (*get)(int, bcm_port_t, int *), int unit, int port, const char *no,
-                     const char *yes) {
+Cell ask_word(int (*get)(int, bcm_port_t, int *), int unit, int port, const char *no,
+              const char *yes) {
     int value = 0;
-    if (get(unit, port, &value) < 0) return "-";
-    return value == 0 ? no : yes;
+    if (get(unit, port, &value) < 0) return {};
+    return {value != 0, value == 0 ? no : yes};
 }
 
-std::string untagged_vlan(int unit, int port) {
+Cell untagged_vlan(int unit, int port) {
     bcm_vlan_t vlan = 0;
     int status = bcm_port_untagged_vlan_get(unit, port, &vlan);
     return cell(status, unsigned{vlan});
 }
 
-std::string learning(int unit, int port) {
+Cell learning(int unit, int port) {
     uint32 flags = 0;
-    if (bcm_port_learn_get(unit, port, &flags) < 0) return "-";
-    return flags == 0 ? "off" : "on";
+    if (bcm_port_learn_get(unit, port, &flags) < 0) return {};
+    return {std::int64_t{flags}, flags == 0 ? "off" : "on"};
 }
 
-constexpr std::array kLoopbacks = {"none", "mac", "phy", "remote"};
+constexpr const char *kLoopbacks[] = {"none", "mac", "phy", "remote"};
 
-std::optional<int> loopback_of(std::string_view text) {
-    for (std::size_t at = 0; at < kLoopbacks.size(); ++at)
-        if (same_word(kLoopbacks[at], text)) return static_cast<int>(at);
-    return std::nullopt;
-}
-
-std::string loopback(int unit, int port) {
+Cell loopback(int unit, int port) {
     int mode = 0;
-    if (bcm_port_loopback_get(unit, port, &mode) < 0) return "-";
-    bool known = mode >= 0 && static_cast<std::size_t>(mode) < kLoopbacks.size();
-    return known ? kLoopbacks[static_cast<std::size_t>(mode)] : std::to_string(mode);
+    if (bcm_port_loopback_get(unit, port, &mode) < 0) return {};
+    const bool known = mode >= 0 && static_cast<std::size_t>(mode) < std::size(kLoopbacks);
+    return {std::int64_t{mode}, known ? kLoopbacks[mode] : std::to_string(mode)};
 }
 
-void print_ports(int unit, const PortSet &ports, const PortNames &names) {
-    Table table({"Port", "Name", "Admin", "Link", ">Speed", "Duplex", "Autoneg", ">VLAN", "Learn",
-                 ">Frame", "Loopback"});
-    for_ports(ports, [&](int port) {
-        table.row({std::to_string(port), port_text(port, names),
-                   ask_word(bcm_port_enable_get, unit, port, "off", "on"),
-                   ask_word(bcm_port_link_status_get, unit, port, "down", "up"),
-                   ask(bcm_port_speed_get, unit, port),
-                   ask_word(bcm_port_duplex_get, unit, port, "half", "full"),
-                   ask_word(bcm_port_autoneg_get, unit, port, "off", "on"),
-                   untagged_vlan(unit, port), learning(unit, port),
-                   ask(bcm_port_frame_max_get, unit, port), loopback(unit, port)});
+constexpr Column kPortColumns[] = {
+    {"port", "Port", CellKind::kNumber},        {"name", "Name", CellKind::kText},
+    {"enable", "Admin", CellKind::kTruth},      {"linkstatus", "Link", CellKind::kTruth},
+    {"speed", ">Speed", CellKind::kNumber},     {"duplex", "Duplex", CellKind::kTruth},
+    {"autoneg", "Autoneg", CellKind::kTruth},   {"untagged_vlan", ">VLAN", CellKind::kNumber},
+    {"learn", "Learn", CellKind::kNumber},      {"frame_max", ">Frame", CellKind::kNumber},
+    {"loopback", "Loopback", CellKind::kNumber}};
+
+cmd_result_t do_ps(Call &call) {
+    const int unit = call.unit();
+    const PortNames names = unit_ports(unit);
+    if (names.empty()) return refuse(call, "unit " + std::to_string(unit) + " has no ports");
+    Rows rows(kPortColumns);
+    for_ports(call.ports("PORTS"), [&](int port) {
+        rows.row(
+            {port, port_text(port, names), ask_word(bcm_port_enable_get, unit, port, "off", "on"),
+             ask_word(bcm_port_link_status_get, unit, port, "down", "up"),
+             ask(bcm_port_speed_get, unit, port),
+             ask_word(bcm_port_duplex_get, unit, port, "half", "full"),
+             ask_word(bcm_port_autoneg_get, unit, port, "off", "on"), untagged_vlan(unit, port),
+             learning(unit, port), ask(bcm_port_frame_max_get, unit, port), loopback(unit, port)});
         return kOk;
     });
-    table.print();
+    rows.show();
+    return kOk;
 }
 
-// What `port` may change; what has no value stays.
-struct PortChange {
-    std::optional<std::int32_t> enable;
-    std::optional<std::int32_t> autoneg;
-    std::optional<std::int32_t> speed;
-    std::optional<std::int32_t> duplex;
-    std::optional<std::int32_t> frame;
-    std::optional<std::int32_t> vlan;
-    std::optional<std::int32_t> learn;
-    std::optional<std::string> loopback;
-    std::optional<int> loopback_mode;
+// What `port` may change: an option, and the call that sets it.
+struct Change {
+    const char *option;
+    int (*set)(int unit, bcm_port_t port, int value);
 };
+constexpr Change kChanges[] = {
+    {"enable", bcm_port_enable_set},
+    {"autoneg", bcm_port_autoneg_set},
+    {"speed", bcm_port_speed_set},
+    {"duplex", bcm_port_duplex_set},
+    {"frame", bcm_port_frame_max_set},
+    {"loopback", bcm_port_loopback_set},
+    {"discard", bcm_port_discard_set},
+    {"pause", [](int unit, int port, int on) { return bcm_port_pause_set(unit, port, on, on); }},
+    {"filter", bcm_port_ifilter_set},
+    {"l3", bcm_port_l3_enable_set},
+    {"priority", bcm_port_untagged_priority_set},
+    {"vlan",
+     [](int unit, int port, int vlan) {
+         return bcm_port_untagged_vlan_set(unit, port, static_cast<bcm_vlan_t>(vlan));
+     }},
+    {"learn", [](int unit, int port, int flags) {
+         return bcm_port_learn_set(unit, port, static_cast<uint32>(flags));
+     }}};
 
-int apply(int unit, int port, const PortChange &change) {
-    int status = BCM_E_NONE;
-    auto set = [&](const std::optional<std::int32_t> &value, auto call) {
-        if (value && status >= 0) status = call(unit, port, *value);
-    };
-    set(change.enable, bcm_port_enable_set);
-    set(change.autoneg, bcm_port_autoneg_set);
-    set(change.speed, bcm_port_speed_set);
-    set(change.duplex, bcm_port_duplex_set);
-    set(change.frame, bcm_port_frame_max_set);
-    set(change.loopback_mode, bcm_port_loopback_set);
-    set(change.vlan, [](int of_unit, int of_port, int vlan) {
-        return bcm_port_untagged_vlan_set(of_unit, of_port, static_cast<bcm_vlan_t>(vlan));
-    });
-    set(change.learn, [](int of_unit, int of_port, int flags) {
-        return bcm_port_learn_set(of_unit, of_port, static_cast<uint32>(flags));
-    });
-    return status;
-}
-
-// Whether every port could take the change, before any does: the status of the first that cannot,
-// and its number in `port`.
-int check(int unit, const PortSet &ports, const PortChange &change, int &port) {
-    auto is_flag = [](const std::optional<std::int32_t> &value) {
-        return !value || within(*value, 0, 1);
-    };
-    auto in_range = [](const std::optional<std::int32_t> &value, int low, int high) {
-        return !value || within(*value, low, high);
-    };
-    bool good = is_flag(change.enable) && is_flag(change.autoneg) && is_flag(change.duplex) &&
-                in_range(change.frame, kSmallestFrame, kLargestFrame) &&
-                in_range(change.vlan, kFirstVlan, kLastVlan) && in_range(change.learn, 0, 7);
-    return on_switch("port", unit, [&](Switch &chip) {
-        cmd_result_t first = for_ports(ports, [&](int each) {
-            port = each;
-            const Port *one = chip.ports.find(each);
-            bool runs = one != nullptr && (change.speed.value_or(0) == 0 ||
-                                           can_run_at(*one, *change.speed));
-            return runs ? kOk : kFail;
+// Whether every port could run at the speed, before any does: the first that cannot, or -1.
+int first_too_slow(int unit, const PortSet &ports, int speed) {
+    int slow = -1;
+    on_switch("port", unit, [&](Switch &chip) {
+        for_ports(ports, [&](int port) {
+            const Port *one = chip.ports.find(port);
+            if (one != nullptr && (speed == 0 || can_run_at(*one, speed))) return kOk;
+            slow = port;
+            return kFail;
         });
-        if (!good) return BCM_E_PARAM;
-        return first == kOk ? BCM_E_NONE : BCM_E_CONFIG;
+        return BCM_E_NONE;
+    });
+    return slow;
+}
+
+cmd_result_t do_port(Call &call) {
+    const PortNames names = unit_ports(call.unit());
+    const bool show = std::none_of(std::begin(kChanges), std::end(kChanges),
+                                   [&](const Change &one) { return call.has(one.option); });
+    if (show || names.empty()) return do_ps(call);
+    const PortSet ports = call.ports("PORTS");
+    const auto tell = [&](int port, int status) {
+        return status >= 0 ? kOk
+                           : refuse(call, port_text(port, names) + ": " + status_meaning(status));
+    };
+    if (const int slow = first_too_slow(call.unit(), ports, call.number("speed")); slow >= 0)
+        return tell(slow, BCM_E_CONFIG);
+    return for_ports(ports, [&](int port) {
+        for (const Change &one : kChanges) {
+            if (!call.has(one.option)) continue;
+            const int status = one.set(call.unit(), port, call.number(one.option));
+            if (status < 0) return tell(port, status);
+        }
+        return kOk;
     });
 }
 
-std::string hex_cell(U32 value) { return text_of("0x%04x", value); }
+constexpr Column kUnitColumns[] = {
+    {"unit", ">Unit", CellKind::kNumber},   {"device", "Device", CellKind::kNumber},
+    {"rev", ">Rev", CellKind::kNumber},     {"state", "State", CellKind::kText},
+    {"ports", ">Ports", CellKind::kNumber}, {"current", "", CellKind::kTruth}};
 
-}  // namespace
-
-cmd_result_t cmd_unit(int unit, args_t *args) {
-    if (std::optional<std::string> word = args->take()) {
-        std::optional<std::int32_t> chosen = read_i32(*word);
-        if (!chosen || !args->empty()) return kUsage;
-        if (!unit_attached(*chosen)) return refuse(*args, "unit " + *word + " is not attached");
-        Shell::instance().unit_set(*chosen);
+cmd_result_t do_unit(Call &call) {
+    if (call.has("UNIT")) {
+        Shell::instance().unit_set(call.number("UNIT"));
         return kOk;
     }
-    Table table({">Unit", "Device", ">Rev", "State", ">Ports", ""});
+    Rows rows(kUnitColumns);
     for (int each : attached_units()) {
-        bool ready = bcm_init_check(each) >= 0;
-        std::size_t ports = unit_ports(each).size();
-        table.row({std::to_string(each), hex_cell(getDevId(each)), std::to_string(getDevRev(each)),
-                   ready ? "ready" : "attached", std::to_string(ports), each == unit ? "*" : ""});
+        const U32 device = getDevId(each);
+        const bool current = each == call.unit();
+        rows.row({each,
+                  {std::int64_t{device}, text_of("0x%04x", device)},
+                  getDevRev(each),
+                  bcm_init_check(each) >= 0 ? "ready" : "attached",
+                  unit_ports(each).size(),
+                  {current, current ? "*" : " "}});
     }
-    table.print();
+    rows.show();
     return kOk;
 }
 
-cmd_result_t cmd_init(int unit, args_t *args) {
-    if (!args->empty()) return kUsage;
-    return report(*args, soc_init(unit));
+cmd_result_t do_init(Call &call) { return report(call, soc_init(call.unit())); }
+
+constexpr Column kCounterColumns[] = {{"port", "Port", CellKind::kNumber},
+                                      {"counter", "Counter", CellKind::kText},
+                                      {"value", ">Value", CellKind::kNumber}};
+
+cmd_result_t do_counters_clear(Call &call) {
+    return for_ports(call.ports("PORTS"),
+                     [&](int port) { return report(call, bcm_stat_clear(call.unit(), port)); });
 }
 
-cmd_result_t cmd_port(int unit, args_t *args) {
-    PortNames names = unit_ports(unit);
-    std::optional<PortSet> ports = take_ports(unit, *args, names);
-    if (!ports) return kFail;
-    bool show = args->empty();
-    PortChange change;
-    parse_table_s table(unit);
-    table.add("enable", change.enable);
-    table.add("autoneg", change.autoneg);
-    table.add("speed", change.speed);
-    table.add("duplex", change.duplex);
-    table.add("frame", change.frame);
-    table.add("vlan", change.vlan);
-    table.add("learn", change.learn);
-    table.add("loopback", change.loopback);
-    cmd_result_t result = kOk;
-    if (!parse_all(*args, table, result)) return result;
-    if (change.loopback) {
-        change.loopback_mode = loopback_of(*change.loopback);
-        if (!change.loopback_mode) return kUsage;
-    }
-    if (show) {
-        print_ports(unit, *ports, names);
-        return kOk;
-    }
-    auto tell = [&](int port, int status) {
-        if (status >= 0) return kOk;
-        return refuse(*args, port_text(port, names) + ": " + status_text(status));
-    };
-    int first = -1;
-    int status = check(unit, *ports, change, first);
-    if (status < 0) return tell(first, status);
-    return for_ports(*ports, [&](int port) { return tell(port, apply(unit, port, change)); });
-}
-
-cmd_result_t cmd_ps(int unit, args_t *args) {
-    PortNames names = unit_ports(unit);
-    std::optional<PortSet> ports = take_ports(unit, *args, names);
-    if (!ports) return kFail;
-    if (!args->empty()) return kUsage;
-    print_ports(unit, *ports, names);
-    return kOk;
-}
-
-cmd_result_t cmd_counters(int unit, args_t *args) {
-    PortNames names = unit_ports(unit);
-    bool clear = args->take_word("clear");
-    bool zeros = args->take_word("zeros");
-    std::optional<PortSet> ports = take_ports(unit, *args, names);
-    if (!ports) return kFail;
-    if (!args->empty()) return kUsage;
-    if (clear) {
-        return for_ports(*ports,
-                         [&](int port) { return report(*args, bcm_stat_clear(unit, port)); });
-    }
+cmd_result_t do_counters(Call &call) {
+    const PortNames names = unit_ports(call.unit());
+    if (names.empty()) return refuse(call, "unit " + std::to_string(call.unit()) + " has no ports");
     static const NameFamily &counters = *new NameFamily("snmp");
-    Table table({"Port", "Counter", ">Value"});
-    for_ports(*ports, [&](int port) {
+    Rows rows(kCounterColumns);
+    for_ports(call.ports("PORTS"), [&](int port) {
         for (int counter = 0; counter < snmpValCount; ++counter) {
             uint64 value = 0;
             auto type = static_cast<bcm_stat_val_t>(counter);
-            if (bcm_stat_get(unit, port, type, &value) < 0 || (value == 0 && !zeros)) continue;
-            table.row(
-                {port_text(port, names), counters.name(counter, true), decimal_text(value, true)});
+            if (bcm_stat_get(call.unit(), port, type, &value) < 0) continue;
+            if (value == 0 && !call.flag("zeros")) continue;
+            rows.row({port_cell(port, names),
+                      counters.name(counter, true),
+                      {std::uint64_t{value}, decimal_text(value, true)}});
         }
         return kOk;
     });
-    if (table.size() == 0)
-        out("every counter is 0\n");
-    else
-        table.print();
+    rows.instead("every counter is 0");
+    rows.show();
     return kOk;
 }
 
-cmd_result_t cmd_phy(int unit, args_t *args) {
-    PortNames names = unit_ports(unit);
-    std::optional<PortSet> ports = take_ports(unit, *args, names);
-    if (!ports) return kFail;
-    std::optional<std::string> reg_word = args->take();
-    std::optional<std::string> value_word = args->take();
-    std::optional<std::uint32_t> reg = read_u32(reg_word.value_or("0"));
-    std::optional<std::uint32_t> value = read_u32(value_word.value_or("0"));
-    if (!args->empty() || !reg || !value || *value > 0xffff) return kUsage;
-    if (value_word) {
-        return for_ports(*ports, [&](int port) {
-            return report(*args, bcm_port_phy_set(unit, port, 0, *reg, *value));
+constexpr Column kPhyColumns[] = {{"port", "Port", CellKind::kNumber},
+                                  {"phy", "PHY", CellKind::kText},
+                                  {"linkstatus", "Link", CellKind::kTruth}};
+constexpr Column kPhyRegisterColumns[] = {{"port", "Port", CellKind::kNumber},
+                                          {"register", "Register", CellKind::kNumber},
+                                          {"value", ">Value", CellKind::kNumber},
+                                          {"status", nullptr, CellKind::kText}};
+
+cmd_result_t do_phy_register(Call &call) {
+    const PortNames names = unit_ports(call.unit());
+    const auto reg = static_cast<uint32>(call["REGISTER"].number);
+    const auto hex = [](uint32 value) { return text_of("0x%04x", value); };
+    if (call.has("VALUE")) {
+        return for_ports(call.ports("PORTS"), [&](int port) {
+            return report(call, bcm_port_phy_set(call.unit(), port, 0, reg,
+                                                 static_cast<uint32>(call["VALUE"].number)));
         });
     }
-    Table table({"Port", reg_word ? "Register" : "PHY", reg_word ? ">Value" : "Link"});
-    for_ports(*ports, [&](int port) {
-        std::array<char, 64> driver{};
+    Rows rows(kPhyRegisterColumns);
+    for_ports(call.ports("PORTS"), [&](int port) {
         uint32 data = 0;
-        if (reg_word) {
-            int status = bcm_port_phy_get(unit, port, 0, *reg, &data);
-            table.row({port_text(port, names), text_of("0x%04x", *reg),
-                       status < 0 ? status_text(status) : text_of("0x%04x", data)});
-            return kOk;
-        }
-        int status =
-            bcm_port_phy_drv_name_get(unit, port, driver.data(), static_cast<int>(driver.size()));
-        table.row({port_text(port, names), status < 0 ? "-" : driver.data(),
-                   ask_word(bcm_port_link_status_get, unit, port, "down", "up")});
+        const int status = bcm_port_phy_get(call.unit(), port, 0, reg, &data);
+        const std::string words = status < 0 ? status_text(status) : hex(data);
+        Cell::Value value;
+        if (status >= 0) value = std::int64_t{data};
+        rows.row({port_cell(port, names),
+                  {std::int64_t{reg}, hex(reg)},
+                  {value, words},
+                  status_text(status)});
         return kOk;
     });
-    table.print();
+    rows.show();
     return kOk;
 }
+
+cmd_result_t do_phy(Call &call) {
+    const PortNames names = unit_ports(call.unit());
+    if (names.empty()) return refuse(call, "unit " + std::to_string(call.unit()) + " has no ports");
+    if (call.has("REGISTER")) return do_phy_register(call);
+    Rows rows(kPhyColumns);
+    for_ports(call.ports("PORTS"), [&](int port) {
+        std::array<char, 64> driver{};
+        const int status = bcm_port_phy_drv_name_get(call.unit(), port, driver.data(),
+                                                     static_cast<int>(driver.size()));
+        rows.row({port_cell(port, names), status < 0 ? Cell() : Cell(driver.data()),
+                  ask_word(bcm_port_link_status_get, call.unit(), port, "down", "up")});
+        return kOk;
+    });
+    rows.show();
+    return kOk;
+}
+
+constexpr Param kUnitParams[] = {place("UNIT", Kind::kUnit, "The unit for what is typed next")};
+constexpr Form kUnitForms[] = {
+    {"", "The units, or choose the current one", "unit 0", do_unit, kUnitParams, kUnitColumns}};
+constexpr Command kUnit = {"unit", "The units, or choose the current one", kUnitForms};
+
+constexpr Form kInitForms[] = {{"", "Initialise the chip of the unit", "init", do_init}};
+constexpr Command kInit = {"init", "Initialise the chip of the unit", kInitForms};
+
+constexpr const char *kDiscards[] = {"none", "all", "untagged", "tagged"};
+constexpr Param kPortParams[] = {
+    place("PORTS", Kind::kPortList, "The ports; all without"),
+    option("enable", Kind::kTruth, "Whether the port is on"),
+    option("autoneg", Kind::kTruth, "Whether it negotiates"),
+    option("speed", 0, 400'000, "Mbit/s, 0 for the fastest"),
+    option("duplex", Kind::kTruth, "Full or half"),
+    option("frame", kSmallestFrame, kLargestFrame, "The longest frame in bytes"),
+    option("vlan", kFirstVlan, kLastVlan, "The VLAN of frames without a tag").there(list_vlans),
+    option("learn", 0, 7, "Whether addresses are learned, or the flags of it"),
+    option("loopback", kLoopbacks, "Where frames turn round"),
+    option("discard", kDiscards, "Which frames are dropped at entry"),
+    option("pause", Kind::kTruth, "Whether pause frames are sent and obeyed"),
+    option("filter", 0, 3, "Which frames of other VLANs are dropped"),
+    option("l3", Kind::kTruth, "Whether frames are routed"),
+    option("priority", 0, 7, "The priority of frames without a tag")};
+constexpr Form kPortForms[] = {{"", "Show ports, or change them as one", "port xe1-xe4 speed=10000",
+                                do_port, kPortParams, kPortColumns}};
+constexpr Command kPort = {"port", "Show ports or change them", kPortForms};
+
+constexpr Param kPsParams[] = {place("PORTS", Kind::kPortList, "The ports; all without")};
+constexpr Form kPsForms[] = {
+    {"", "State of ports", "ps xe1-xe4 | columns name,speed", do_ps, kPsParams, kPortColumns}};
+constexpr Command kPs = {"ps", "State of ports", kPsForms};
+
+constexpr Param kCountersParams[] = {place("PORTS", Kind::kPortList, "The ports; all without"),
+                                     flag("zeros", "Also those that are 0")};
+constexpr Form kCountersForms[] = {
+    {"", "Counters of ports, those of 0 only with 'zeros'", "counters xe1 zeros", do_counters,
+     kCountersParams, kCounterColumns},
+    {"clear", "Set the counters of ports to 0", "counters clear xe1", do_counters_clear,
+     kPsParams}};
+constexpr Command kCounters = {"counters", "Counters of ports, those of 0 only with 'zeros'",
+                               kCountersForms};
+
+constexpr Param kPhyParams[] = {place("PORTS", Kind::kPortList, "The ports; all without"),
+                                place("REGISTER", 0, 0xffff'ffff, "A register of the PHY"),
+                                place("VALUE", 0, 0xffff, "What is written to it")};
+constexpr Form kPhyForms[] = {{"", "PHYs of ports, or a register of them, read or written",
+                               "phy xe1 0x2", do_phy, kPhyParams, kPhyColumns}};
+constexpr Command kPhy = {"phy", "PHYs of ports, or a register of them, read or written",
+                          kPhyForms};
+
+constexpr const Command *kCommands[] = {&kCounters, &kInit, &kPhy, &kPort, &kPs, &kUnit};
+static_assert(complete(kCommands));
+
+}  // namespace
+
+std::span<const Command *const> port_commands() { return kCommands; }
 
 }  // namespace standin

@@ -4,7 +4,7 @@
 #include "sdk/soc/mem.h"
 #include "sdk/soc/reg.h"
 #include "standin/base/number_text.h"
-#include "standin/base/output.h"
+#include "standin/base/rows.h"
 #include "standin/base/scan.h"
 #include "standin/regs/layout.h"
 #include "standin/shell/commands.h"
@@ -38,22 +38,13 @@ struct Registers {
     bool by_address = false;
 };
 
-// Takes a reference and finds its registers; false when a line of text has said why not.
-bool take_registers(int unit, args_t &args, Registers &registers, cmd_result_t &result) {
-    std::optional<std::string> word = args.take();
-    std::optional<RegisterRef> ref = read_register_ref(word.value_or(""), unit_ports(unit));
-    result = kUsage;
-    if (!word) return false;
-    result = kFail;
-    if (!ref) {
-        refuse(args, "no register '" + *word + '\'');
-        return false;
-    }
+// Finds the registers that a call names; kOk, or what the command ends with.
+cmd_result_t find_registers(const Call &call, Registers &registers) {
+    const std::optional<RegisterRef> ref =
+        read_register_ref(call.text("REGISTER"), unit_ports(call.unit()));
+    if (!ref) return kUsage;
     registers.by_address = ref->address.has_value();
-    int status = register_addresses(unit, *ref, kMostRegisters, registers.list);
-    if (status >= 0) return true;
-    report(args, status);
-    return false;
+    return report(call, register_addresses(call.unit(), *ref, kMostRegisters, registers.list));
 }
 
 int read_register(int unit, const soc_regaddrinfo_t &at, bool by_address, WideValue &value) {
@@ -73,17 +64,6 @@ int write_register(int unit, const soc_regaddrinfo_t &at, bool by_address, WideV
     if (soc_reg_bytes(unit, at.reg) > 8)
         return soc_reg_above_64_set(unit, at.reg, at.port, at.idx, value.data());
     return soc_reg_set(unit, at.reg, at.port, at.idx, uint64{value[1]} << 32 | value[0]);
-}
-
-// The fields of a register by name, with their values out of `value`.
-void print_fields(int unit, int reg, WideValue &value) {
-    for (const IdentifierName &field : identifiers(Identifier::kField)) {
-        if (soc_reg_field_valid(unit, reg, field.id) == 0) continue;
-        WideValue part{};
-        soc_reg_above_64_field_get(unit, reg, value.data(), field.id, part.data());
-        outf("  %s<%d> = %s\n", std::string(field.name).c_str(),
-             soc_reg_field_length(unit, reg, field.id), words_text(part).c_str());
-    }
 }
 
 std::string too_wide(const std::string &text, unsigned bits) {
@@ -119,143 +99,206 @@ unsigned bits_of(const soc_regaddrinfo_t &at, bool by_address) {
     return by_address || layout == nullptr ? kWordBits : layout->bits;
 }
 
-std::optional<MemoryRef> take_memory(args_t &args) {
-    std::optional<std::string> word = args.take();
-    std::optional<MemoryRef> ref = read_memory_ref(word.value_or(""));
-    if (word && !ref) refuse(args, "no memory '" + *word + '\'');
-    return ref;
-}
+constexpr Column kRegisterList[] = {{"name", "Name", CellKind::kText},
+                                    {"number", ">Number", CellKind::kNumber},
+                                    {"bytes", ">Bytes", CellKind::kNumber}};
+constexpr Column kMemoryList[] = {{"name", "Name", CellKind::kText},
+                                  {"number", ">Number", CellKind::kNumber},
+                                  {"block", "Block", CellKind::kText}};
 
-cmd_result_t list(args_t &args, Identifier kind, const std::function<std::string(int)> &detail,
-                  const char *heading) {
-    std::string pattern = args.take().value_or("");
-    if (!args.empty()) return kUsage;
-    Table table({"Name", ">Number", heading});
-    for (const IdentifierName &entry : identifiers(kind)) {
-        if (!name_matches(entry.name, pattern)) continue;
-        table.row({std::string(entry.name), std::to_string(entry.id), detail(entry.id)});
-    }
-    if (table.size() == 0) return refuse(args, "no name like '" + pattern + '\'');
-    table.print();
+cmd_result_t list(const Call &call, Identifier kind, std::span<const Column> columns,
+                  const std::function<Cell(int)> &detail) {
+    const std::string pattern = call.text("PATTERN");
+    Rows rows(columns);
+    for (const IdentifierName &entry : identifiers(kind))
+        if (name_matches(entry.name, pattern))
+            rows.row({std::string(entry.name), entry.id, detail(entry.id)});
+    if (rows.size() == 0) return refuse(call, "no name like '" + pattern + '\'');
+    rows.show();
     return kOk;
 }
 
-}  // namespace
-
-cmd_result_t cmd_listreg(int unit, args_t *args) {
-    return list(
-        *args, Identifier::kRegister,
-        [&](int reg) {
-            int bytes = soc_reg_bytes(unit, reg);
-            return cell(bytes, bytes);
-        },
-        ">Bytes");
+cmd_result_t do_listreg(Call &call) {
+    return list(call, Identifier::kRegister, kRegisterList, [&](int reg) {
+        const int bytes = soc_reg_bytes(call.unit(), reg);
+        return cell(bytes, bytes);
+    });
 }
 
-cmd_result_t cmd_getreg(int unit, args_t *args) {
+cmd_result_t do_listmem(Call &call) {
+    return list(call, Identifier::kMemory, kMemoryList, [](int memory) {
+        std::string name = identifier_text(Identifier::kMemory, memory);
+        return Cell(name.substr(0, name.find('_')));
+    });
+}
+
+constexpr Column kRegisterColumns[] = {
+    {"register", "Register", CellKind::kText}, {"address", "Address", CellKind::kNumber},
+    {"field", "Field", CellKind::kText},       {"bits", "Bits", CellKind::kNumber},
+    {"value", "Value", CellKind::kText},       {"line", nullptr, CellKind::kText}};
+
+// The fields of a register by name, with their values out of `value`.
+void add_fields(int unit, const soc_regaddrinfo_t &at, const std::string &name, WideValue &value,
+                Rows &rows) {
+    for (const IdentifierName &field : identifiers(Identifier::kField)) {
+        if (soc_reg_field_valid(unit, at.reg, field.id) == 0) continue;
+        WideValue part{};
+        soc_reg_above_64_field_get(unit, at.reg, value.data(), field.id, part.data());
+        const int bits = soc_reg_field_length(unit, at.reg, field.id);
+        const std::string text = words_text(part);
+        rows.row({name, at.addr, std::string(field.name), bits, text,
+                  text_of("  %s<%d> = %s", std::string(field.name).c_str(), bits, text.c_str())});
+    }
+}
+
+cmd_result_t do_getreg(Call &call) {
     Registers registers;
-    cmd_result_t result = kOk;
-    if (!take_registers(unit, *args, registers, result)) return result;
-    bool fields = args->take_word("fields");
-    if (!args->empty()) return kUsage;
-    PortNames names = unit_ports(unit);
+    const cmd_result_t result = find_registers(call, registers);
+    if (result != kOk) return result;
+    const PortNames names = unit_ports(call.unit());
+    Rows rows(kRegisterColumns, "{line}");
     for (const soc_regaddrinfo_t &at : registers.list) {
         WideValue value{};
-        int status = read_register(unit, at, registers.by_address, value);
-        if (status < 0) return report(*args, status);
-        std::string name = registers.by_address ? std::string() : register_text(at, names) + ' ';
-        outf("%s(0x%08x) = %s\n", name.c_str(), at.addr, words_text(value).c_str());
-        if (fields && !registers.by_address) print_fields(unit, at.reg, value);
+        const int status = read_register(call.unit(), at, registers.by_address, value);
+        if (status < 0) return report(call, status);
+        const std::string name = registers.by_address ? "" : register_text(at, names);
+        const std::string text = words_text(value);
+        rows.row({name, at.addr, Cell(), Cell(), text,
+                  text_of("%s%s(0x%08x) = %s", name.c_str(), name.empty() ? "" : " ", at.addr,
+                          text.c_str())});
+        if (call.flag("fields") && !registers.by_address)
+            add_fields(call.unit(), at, name, value, rows);
     }
+    rows.show();
     return kOk;
 }
 
-cmd_result_t cmd_setreg(int unit, args_t *args) {
+cmd_result_t do_setreg(Call &call) {
     Registers registers;
-    cmd_result_t result = kOk;
-    if (!take_registers(unit, *args, registers, result)) return result;
+    const cmd_result_t result = find_registers(call, registers);
+    if (result != kOk) return result;
     WideValue value{};
-    std::optional<std::string> word = args->take();
-    if (!word || !args->empty() || !read_words(*word, value)) return kUsage;
-    unsigned bits = bits_of(registers.list.front(), registers.by_address);
-    if (!read_words(*word, value, bits))
-        return refuse(*args, too_wide(*word, bits));
+    const std::string word = call.text("VALUE");
+    const unsigned bits = bits_of(registers.list.front(), registers.by_address);
+    if (!read_words(word, value, bits)) return refuse(call, too_wide(word, bits));
     for (const soc_regaddrinfo_t &at : registers.list) {
-        int status = write_register(unit, at, registers.by_address, value);
-        if (status < 0) return report(*args, status);
+        const int status = write_register(call.unit(), at, registers.by_address, value);
+        if (status < 0) return report(call, status);
     }
     return kOk;
 }
 
-cmd_result_t cmd_modreg(int unit, args_t *args) {
+cmd_result_t do_modreg(Call &call) {
     Registers registers;
-    cmd_result_t result = kOk;
-    if (!take_registers(unit, *args, registers, result)) return result;
-    if (args->empty()) return kUsage;
-    if (registers.by_address) return refuse(*args, "an address has no fields");
+    const cmd_result_t result = find_registers(call, registers);
+    if (result != kOk) return result;
+    if (registers.by_address) return refuse(call, "an address has no fields");
     // One reference means one register, on however many ports.
-    int reg = registers.list.front().reg;
+    const int reg = registers.list.front().reg;
     std::vector<FieldChange> changes;
-    while (std::optional<std::string> word = args->take()) {
+    for (const Value *word : call.all("FIELD=VALUE")) {
         std::string fault;
-        std::optional<FieldChange> change = read_change(unit, reg, *word, fault);
-        if (!change) return refuse(*args, fault);
+        std::optional<FieldChange> change = read_change(call.unit(), reg, word->text, fault);
+        if (!change) return refuse(call, fault);
         changes.push_back(*change);
     }
     for (const soc_regaddrinfo_t &at : registers.list) {
         WideValue value{};
-        int status = read_register(unit, at, false, value);
+        int status = read_register(call.unit(), at, false, value);
         for (FieldChange &change : changes)
-            soc_reg_above_64_field_set(unit, reg, value.data(), change.field, change.value.data());
-        if (status >= 0) status = write_register(unit, at, false, value);
-        if (status < 0) return report(*args, status);
+            soc_reg_above_64_field_set(call.unit(), reg, value.data(), change.field,
+                                       change.value.data());
+        if (status >= 0) status = write_register(call.unit(), at, false, value);
+        if (status < 0) return report(call, status);
     }
     return kOk;
 }
 
-cmd_result_t cmd_listmem(int, args_t *args) {
-    return list(
-        *args, Identifier::kMemory,
-        [](int memory) {
-            std::string name = identifier_text(Identifier::kMemory, memory);
-            return name.substr(0, name.find('_'));
-        },
-        "Block");
-}
+constexpr Column kEntryColumns[] = {{"memory", "Memory", CellKind::kText},
+                                    {"index", "Index", CellKind::kNumber},
+                                    {"value", "Value", CellKind::kText}};
 
-cmd_result_t cmd_dump(int unit, args_t *args) {
-    std::optional<MemoryRef> ref = take_memory(*args);
+cmd_result_t do_dump(Call &call) {
+    const std::optional<MemoryRef> ref = read_memory_ref(call.text("MEMORY"));
     if (!ref) return kUsage;
-    std::optional<std::int32_t> first = read_i32(args->take().value_or("0"));
-    std::optional<std::int32_t> count = read_i32(args->take().value_or("1"));
-    if (!first || !count || *first < 0 || *count < 1 || !args->empty()) return kUsage;
+    const int first = call.number("INDEX");
+    const int count = call.number("COUNT", 1);
     const MemoryLayout *layout = find_memory(ref->memory);
-    int entries = layout == nullptr ? 0 : layout->entries;
-    if (*first >= entries || *count > entries - *first)
-        return refuse(*args, "entries are 0 to " + std::to_string(entries - 1));
-    for (std::int32_t at = 0; at < *count; ++at) {
+    const int entries = layout == nullptr ? 0 : layout->entries;
+    if (first >= entries || count > entries - first)
+        return refuse(call, "entries are 0 to " + std::to_string(entries - 1));
+    Rows rows(kEntryColumns, "{memory}[{index}] = {value}");
+    for (int at = first; at < first + count; ++at) {
         std::array<uint32, kEntryWords> entry{};
-        int status = soc_mem_array_read(unit, ref->memory, ref->array_index, ref->copy, *first + at,
-                                        entry.data());
-        if (status < 0) return report(*args, status);
-        outf("%s[%d] = %s\n", memory_ref_text(*ref).c_str(), *first + at,
-             words_text(entry).c_str());
+        const int status = soc_mem_array_read(call.unit(), ref->memory, ref->array_index, ref->copy,
+                                              at, entry.data());
+        if (status < 0) return report(call, status);
+        rows.row({memory_ref_text(*ref), at, words_text(entry)});
     }
+    rows.show();
     return kOk;
 }
 
-cmd_result_t cmd_write(int unit, args_t *args) {
-    std::optional<MemoryRef> ref = take_memory(*args);
+cmd_result_t do_write(Call &call) {
+    const std::optional<MemoryRef> ref = read_memory_ref(call.text("MEMORY"));
     if (!ref) return kUsage;
-    std::optional<std::int32_t> index = read_i32(args->take().value_or(""));
     std::array<uint32, kEntryWords> entry{};
-    std::optional<std::string> value = args->take();
-    if (!index || !value || !read_words(*value, entry) || !args->empty()) return kUsage;
     const MemoryLayout *layout = find_memory(ref->memory);
-    unsigned bits = layout == nullptr ? kWordBits : layout->bits;
-    if (!read_words(*value, entry, bits)) return refuse(*args, too_wide(*value, bits));
-    return report(*args, soc_mem_array_write(unit, ref->memory, ref->array_index, ref->copy, *index,
-                                             entry.data()));
+    const unsigned bits = layout == nullptr ? kWordBits : layout->bits;
+    const std::string value = call.text("VALUE");
+    if (!read_words(value, entry, bits)) return refuse(call, too_wide(value, bits));
+    return report(call, soc_mem_array_write(call.unit(), ref->memory, ref->array_index, ref->copy,
+                                            call.number("INDEX"), entry.data()));
 }
+
+constexpr Param kPattern =
+    place("PATTERN", Kind::kText, "A part of the name, or a pattern with '*'");
+constexpr Param kRegister = place("REGISTER", Kind::kRegister, "The register, or several").need();
+constexpr Param kMemory = place("MEMORY", Kind::kMemory, "The memory").need();
+constexpr Param kValue = place("VALUE", Kind::kWide, "The value").need();
+
+constexpr Param kListParams[] = {kPattern};
+constexpr Form kListregForms[] = {
+    {"", "Registers by name", "listreg pause", do_listreg, kListParams, kRegisterList}};
+constexpr Form kListmemForms[] = {
+    {"", "Memories by name", "listmem ihp*", do_listmem, kListParams, kMemoryList}};
+constexpr Param kGetregParams[] = {kRegister, flag("fields", "Also its fields")};
+constexpr Form kGetregForms[] = {{"", "Read registers", "getreg CLP_XMAC_PAUSE_CTRL.xe1 fields",
+                                  do_getreg, kGetregParams, kRegisterColumns}};
+constexpr Param kSetregParams[] = {kRegister, kValue};
+constexpr Form kSetregForms[] = {
+    {"", "Write registers", "setreg CLP_XMAC_PAUSE_CTRL.xe1-xe3 0x3", do_setreg, kSetregParams}};
+constexpr Param kModregParams[] = {
+    kRegister,
+    place("FIELD=VALUE", Kind::kFieldValue, "A field, and what it shall be").need().many()};
+constexpr Form kModregForms[] = {{"", "Change fields of registers",
+                                  "modreg CLP_XMAC_PAUSE_CTRL.xe1 RX_PAUSE_EN=1", do_modreg,
+                                  kModregParams}};
+constexpr Param kDumpParams[] = {kMemory, place("INDEX", 0, 0x7fffffff, "The first entry"),
+                                 place("COUNT", 1, 0x7fffffff, "How many entries")};
+constexpr Form kDumpForms[] = {
+    {"", "Entries of a memory", "dump IHP_RESERVED_MC 1 2", do_dump, kDumpParams, kEntryColumns}};
+constexpr Param kWriteParams[] = {kMemory, place("INDEX", 0, 0x7fffffff, "The entry").need(),
+                                  kValue};
+constexpr Form kWriteForms[] = {
+    {"", "Write an entry of a memory", "write IHP_RESERVED_MC 1 0x1", do_write, kWriteParams}};
+
+constexpr const char *kReference =
+    "A register is NAME, NAME.PORTS, NAME[INDEX] or an address 0x...";
+constexpr Command kListreg = {"listreg", "Registers by name", kListregForms};
+constexpr Command kListmem = {"listmem", "Memories by name", kListmemForms};
+constexpr Command kGetreg = {"getreg", "Read registers", kGetregForms, "", false, kReference};
+constexpr Command kSetreg = {"setreg", "Write registers", kSetregForms, "", false, kReference};
+constexpr Command kModreg = {"modreg", "Change fields of registers", kModregForms};
+constexpr Command kDump = {"dump", "Entries of a memory", kDumpForms};
+constexpr Command kWrite = {"write", "Write an entry of a memory", kWriteForms};
+
+constexpr const Command *kCommands[] = {&kDump,   &kGetreg, &kListmem, &kListreg,
+                                        &kModreg, &kSetreg, &kWrite};
+static_assert(complete(kCommands));
+
+}  // namespace
+
+std::span<const Command *const> register_commands() { return kCommands; }
 
 }  // namespace standin

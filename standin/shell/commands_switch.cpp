@@ -5,49 +5,27 @@
 #include "sdk/bcm/l2.h"
 #include "sdk/bcm/stg.h"
 #include "sdk/bcm/vlan.h"
-#include "standin/base/number_text.h"
 #include "standin/base/output.h"
+#include "standin/base/rows.h"
 #include "standin/base/scan.h"
 #include "standin/model/l2_table.h"
+#include "standin/model/vlans.h"
 #include "standin/shell/commands.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
 namespace {
 
-// What picks rows of the MAC table, and what a new row holds.
-struct L2Options {
-    std::optional<MacBytes> mac;
-    std::optional<std::int32_t> vlan;
-    std::optional<std::int32_t> port;
-    std::optional<std::int32_t> trunk;
-    bool is_static = false;
-    bool discard = false;
-};
-
-bool read_options(int unit, args_t &args, L2Options &options, cmd_result_t &result) {
-    parse_table_s table(unit);
-    table.add("mac", options.mac);
-    table.add("vlan", options.vlan);
-    table.add_port("port", options.port);
-    table.add("trunk", options.trunk);
-    table.add_flag("static", options.is_static);
-    table.add_flag("discard", options.discard);
-    return parse_all(args, table, result);
-}
-
-bool vlan_ok(const std::optional<std::int32_t> &vlan) {
-    return vlan && *vlan >= 0 && *vlan <= 0xffff;
-}
-
-bool picked(const bcm_l2_addr_t &row, const L2Options &options) {
-    bool trunk_row = (row.flags & kL2Trunk) != 0;
-    if (options.mac && !std::equal(options.mac->begin(), options.mac->end(), row.mac)) return false;
-    if (options.vlan && *options.vlan != row.vid) return false;
-    if (options.trunk && (!trunk_row || row.tgid != *options.trunk)) return false;
-    if (options.is_static && (row.flags & kL2Static) == 0) return false;
-    if (options.discard && (row.flags & kL2BlackHole) == 0) return false;
-    return !options.port || (!trunk_row && plain_port(row.port) == plain_port(*options.port));
+bool picked(const bcm_l2_addr_t &row, const Call &call) {
+    const bool trunk_row = (row.flags & kL2Trunk) != 0;
+    const MacBytes &mac = call["mac"].mac;
+    if (call.has("mac") && !std::equal(mac.begin(), mac.end(), row.mac)) return false;
+    if (call.has("vlan") && call.number("vlan") != row.vid) return false;
+    if (call.has("trunk") && (!trunk_row || row.tgid != call.number("trunk"))) return false;
+    if (call.flag("static") && (row.flags & kL2Static) == 0) return false;
+    if (call.flag("discard") && (row.flags & kL2BlackHole) == 0) return false;
+    if (!call.has("port")) return true;
+    return !trunk_row && plain_port(row.port) == plain_port(call.number("port"));
 }
 
 int collect_row(int, bcm_l2_addr_t *row, void *user_data) {
@@ -55,15 +33,11 @@ int collect_row(int, bcm_l2_addr_t *row, void *user_data) {
     return BCM_E_NONE;
 }
 
-// Fills in the rows that the options of a command pick; kOk, or what the command ends with.
-cmd_result_t pick_rows(int unit, args_t &args, std::vector<bcm_l2_addr_t> &rows) {
-    L2Options options;
-    cmd_result_t result = kOk;
-    if (!read_options(unit, args, options, result)) return result;
-    if (options.vlan && !vlan_ok(options.vlan)) return kUsage;
-    int status = bcm_l2_traverse(unit, collect_row, &rows);
-    std::erase_if(rows, [&](const bcm_l2_addr_t &row) { return !picked(row, options); });
-    return report(args, status);
+// Fills in the rows that the options of a command pick.
+cmd_result_t pick_rows(const Call &call, std::vector<bcm_l2_addr_t> &rows) {
+    const int status = bcm_l2_traverse(call.unit(), collect_row, &rows);
+    std::erase_if(rows, [&](const bcm_l2_addr_t &row) { return !picked(row, call); });
+    return report(call, status);
 }
 
 std::string destination(const bcm_l2_addr_t &row, const PortNames &names) {
@@ -72,168 +46,139 @@ std::string destination(const bcm_l2_addr_t &row, const PortNames &names) {
     return port_text(plain_port(row.port), names);
 }
 
-void print_count(std::size_t count) { outf("%zu address%s\n", count, count == 1 ? "" : "es"); }
+std::string count_text(std::size_t count) {
+    return text_of("%zu address%s", count, count == 1 ? "" : "es");
+}
 
-cmd_result_t l2_show(int unit, args_t *args) {
-    std::vector<bcm_l2_addr_t> rows;
-    cmd_result_t result = pick_rows(unit, *args, rows);
+constexpr Column kL2Columns[] = {{"mac", "MAC address", CellKind::kText},
+                                 {"vid", ">VLAN", CellKind::kNumber},
+                                 {"destination", "Destination", CellKind::kText},
+                                 {"kind", "Kind", CellKind::kText},
+                                 {"port", nullptr, CellKind::kNumber},
+                                 {"modid", nullptr, CellKind::kNumber},
+                                 {"tgid", nullptr, CellKind::kNumber},
+                                 {"flags", nullptr, CellKind::kNumber}};
+
+cmd_result_t l2_show(Call &call) {
+    std::vector<bcm_l2_addr_t> found;
+    const cmd_result_t result = pick_rows(call, found);
     if (result != kOk) return result;
-    std::stable_sort(rows.begin(), rows.end(), [](const auto &left, const auto &right) {
+    std::stable_sort(found.begin(), found.end(), [](const auto &left, const auto &right) {
         if (left.vid != right.vid) return left.vid < right.vid;
         return std::lexicographical_compare(left.mac, left.mac + 6, right.mac, right.mac + 6);
     });
-    PortNames names = unit_ports(unit);
-    Table table({"MAC address", ">VLAN", "Destination", "Kind"});
-    for (const bcm_l2_addr_t &row : rows) {
-        table.row({mac_text(row.mac), std::to_string(row.vid), destination(row, names),
-                   (row.flags & kL2Static) != 0 ? "static" : "dynamic"});
+    const PortNames names = unit_ports(call.unit());
+    Rows rows(kL2Columns);
+    for (const bcm_l2_addr_t &row : found) {
+        const bool is_static = (row.flags & kL2Static) != 0;
+        rows.row({mac_text(row.mac), row.vid, destination(row, names),
+                  is_static ? "static" : "dynamic", row.port, row.modid, row.tgid, row.flags});
     }
-    table.print();
-    print_count(rows.size());
+    rows.note(count_text(found.size()));
+    rows.show();
     return kOk;
 }
 
-cmd_result_t l2_add(int unit, args_t *args) {
-    L2Options options;
-    cmd_result_t result = kOk;
-    if (!read_options(unit, *args, options, result)) return result;
-    bool one_place = options.port.has_value() + options.trunk.has_value() + options.discard == 1;
-    if (!options.mac || !vlan_ok(options.vlan) || !one_place) return kUsage;
+cmd_result_t l2_add(Call &call) {
+    MacBytes mac = call["mac"].mac;
     bcm_l2_addr_t row{};
-    bcm_l2_addr_t_init(&row, options.mac->data(), static_cast<bcm_vlan_t>(*options.vlan));
-    if (options.is_static) row.flags |= kL2Static;
-    if (options.discard) row.flags |= kL2BlackHole;
-    if (options.port) row.port = *options.port;
-    if (options.trunk) {
+    bcm_l2_addr_t_init(&row, mac.data(), static_cast<bcm_vlan_t>(call.number("vlan")));
+    if (call.flag("static")) row.flags |= kL2Static;
+    if (call.flag("discard")) row.flags |= kL2BlackHole;
+    if (call.has("port")) row.port = call.number("port");
+    if (call.has("trunk")) {
         row.flags |= kL2Trunk;
-        row.tgid = *options.trunk;
+        row.tgid = call.number("trunk");
     }
-    return report(*args, bcm_l2_addr_add(unit, &row));
+    return report(call, bcm_l2_addr_add(call.unit(), &row));
 }
 
-cmd_result_t l2_delete(int unit, args_t *args) {
-    L2Options options;
-    cmd_result_t result = kOk;
-    if (!read_options(unit, *args, options, result)) return result;
-    bool more = options.port || options.trunk || options.is_static || options.discard;
-    if (!options.mac || !vlan_ok(options.vlan) || more) return kUsage;
-    auto vlan = static_cast<bcm_vlan_t>(*options.vlan);
-    return report(*args, bcm_l2_addr_delete(unit, options.mac->data(), vlan));
+cmd_result_t l2_delete(Call &call) {
+    MacBytes mac = call["mac"].mac;
+    const auto vlan = static_cast<bcm_vlan_t>(call.number("vlan"));
+    return report(call, bcm_l2_addr_delete(call.unit(), mac.data(), vlan));
 }
 
 // Rows go one by one, since several options may pick them together.
-cmd_result_t l2_clear(int unit, args_t *args) {
+cmd_result_t l2_clear(Call &call) {
     std::vector<bcm_l2_addr_t> rows;
-    cmd_result_t result = pick_rows(unit, *args, rows);
+    const cmd_result_t result = pick_rows(call, rows);
     int status = BCM_E_NONE;
     for (bcm_l2_addr_t &row : rows)
-        if (status >= 0) status = bcm_l2_addr_delete(unit, row.mac, row.vid);
-    return result == kOk ? report(*args, status) : result;
+        if (status >= 0) status = bcm_l2_addr_delete(call.unit(), row.mac, row.vid);
+    return result == kOk ? report(call, status) : result;
 }
 
-cmd_result_t l2_count(int unit, args_t *args) {
+cmd_result_t l2_count(Call &call) {
     std::vector<bcm_l2_addr_t> rows;
-    cmd_result_t result = pick_rows(unit, *args, rows);
-    if (result != kOk) return result;
-    print_count(rows.size());
-    return kOk;
+    const cmd_result_t result = pick_rows(call, rows);
+    if (result == kOk) out(count_text(rows.size()) + '\n');
+    return result;
 }
 
-// The next word as the number of a VLAN or a spanning tree.
-std::optional<std::int32_t> take_number(args_t &args) {
-    std::optional<std::string> word = args.take();
-    std::optional<std::int32_t> number = read_i32(word.value_or(""));
-    if (!number || *number < 0 || *number > 0xffff) return std::nullopt;
-    return number;
-}
+constexpr Column kVlanColumns[] = {{"vlan_tag", ">VLAN", CellKind::kNumber},
+                                   {"stg", ">STG", CellKind::kNumber},
+                                   {"port_bitmap", "Ports", CellKind::kNumbers},
+                                   {"ut_port_bitmap", "Untagged", CellKind::kNumbers}};
 
-// The same for a command that may end without; false for anything else.
-bool take_last_number(args_t &args, std::optional<std::int32_t> &number) {
-    if (!args.empty() && !(number = take_number(args))) return false;
-    return args.empty();
-}
-
-cmd_result_t vlan_show(int unit, args_t *args) {
-    std::optional<std::int32_t> wanted;
-    if (!take_last_number(*args, wanted)) return kUsage;
+cmd_result_t vlan_show(Call &call) {
     bcm_vlan_data_t *list = nullptr;
     int count = 0;
-    int status = bcm_vlan_list(unit, &list, &count);
-    if (status < 0) return report(*args, status);
-    PortNames names = unit_ports(unit);
-    Table table({">VLAN", ">STG", "Ports", "Untagged"});
+    const int status = bcm_vlan_list(call.unit(), &list, &count);
+    if (status < 0) return report(call, status);
+    const PortNames names = unit_ports(call.unit());
+    Rows rows(kVlanColumns);
     for (int at = 0; at < count; ++at) {
         const bcm_vlan_data_t &row = list[at];
-        if (wanted && row.vlan_tag != *wanted) continue;
+        if (call.has("VLAN") && row.vlan_tag != call.number("VLAN")) continue;
         bcm_stg_t stg = 0;
-        int stg_status = bcm_vlan_stg_get(unit, row.vlan_tag, &stg);
-        table.row({std::to_string(row.vlan_tag), cell(stg_status, stg),
-                   port_list_text(port_set_of(row.port_bitmap), names),
-                   port_list_text(port_set_of(row.ut_port_bitmap), names)});
+        const int stg_status = bcm_vlan_stg_get(call.unit(), row.vlan_tag, &stg);
+        rows.row({row.vlan_tag, cell(stg_status, stg),
+                  ports_cell(port_set_of(row.port_bitmap), names),
+                  ports_cell(port_set_of(row.ut_port_bitmap), names)});
     }
-    bcm_vlan_list_destroy(unit, list, count);
-    if (wanted && table.size() == 0) return report(*args, BCM_E_NOT_FOUND);
-    table.print();
+    bcm_vlan_list_destroy(call.unit(), list, count);
+    if (call.has("VLAN") && rows.size() == 0) return report(call, BCM_E_NOT_FOUND);
+    rows.show();
     return kOk;
 }
 
-enum class VlanOptions { kNone, kPorts, kUntagged };  // each with those before it
+bcm_vlan_t vlan_of(const Call &call) { return static_cast<bcm_vlan_t>(call.number("VLAN")); }
 
-// Runs `call` with the VLAN that the next word names and the ports of the options.
-template <class Call>
-cmd_result_t on_vlan(int unit, args_t &args, VlanOptions options, Call &&call) {
-    std::optional<std::int32_t> vlan = take_number(args);
-    if (!vlan) return kUsage;
-    std::optional<PortSet> ports;
-    std::optional<PortSet> untagged;
-    parse_table_s table(unit);
-    if (options >= VlanOptions::kPorts) table.add("ports", ports);
-    if (options >= VlanOptions::kUntagged) table.add("untagged", untagged);
-    cmd_result_t result = kOk;
-    if (!parse_all(args, table, result)) return result;
-    PortSet members = ports.value_or(PortSet()) | untagged.value_or(PortSet());
-    return report(args, call(static_cast<bcm_vlan_t>(*vlan), pbmp_of(members),
-                             pbmp_of(untagged.value_or(PortSet()))));
+// Untagged ports are members without being named twice.
+int add_ports(const Call &call) {
+    const PortSet untagged = call.given_ports("untagged");
+    const PortSet members = call.given_ports("ports") | untagged;
+    return bcm_vlan_port_add(call.unit(), vlan_of(call), pbmp_of(members), pbmp_of(untagged));
 }
 
-cmd_result_t vlan_create(int unit, args_t *args) {
-    return on_vlan(unit, *args, VlanOptions::kUntagged, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t untagged) {
-        int status = bcm_vlan_create(unit, vlan);
-        if (status < 0 || port_set_of(ports).none()) return status;
-        return bcm_vlan_port_add(unit, vlan, ports, untagged);
-    });
+cmd_result_t vlan_create(Call &call) {
+    int status = bcm_vlan_create(call.unit(), vlan_of(call));
+    if (status >= 0 && (call.has("ports") || call.has("untagged"))) status = add_ports(call);
+    return report(call, status);
 }
 
-cmd_result_t vlan_destroy(int unit, args_t *args) {
-    return on_vlan(unit, *args, VlanOptions::kNone, [&](bcm_vlan_t vlan, bcm_pbmp_t, bcm_pbmp_t) {
-        return bcm_vlan_destroy(unit, vlan);
-    });
+cmd_result_t vlan_destroy(Call &call) {
+    return report(call, bcm_vlan_destroy(call.unit(), vlan_of(call)));
 }
 
-cmd_result_t vlan_add(int unit, args_t *args) {
-    return on_vlan(unit, *args, VlanOptions::kUntagged, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t untagged) {
-        return bcm_vlan_port_add(unit, vlan, ports, untagged);
-    });
+cmd_result_t vlan_add(Call &call) { return report(call, add_ports(call)); }
+
+cmd_result_t vlan_remove(Call &call) {
+    const bcm_pbmp_t ports = pbmp_of(call.given_ports("ports"));
+    return report(call, bcm_vlan_port_remove(call.unit(), vlan_of(call), ports));
 }
 
-cmd_result_t vlan_remove(int unit, args_t *args) {
-    return on_vlan(unit, *args, VlanOptions::kPorts, [&](bcm_vlan_t vlan, bcm_pbmp_t ports, bcm_pbmp_t) {
-        return bcm_vlan_port_remove(unit, vlan, ports);
-    });
+cmd_result_t vlan_default(Call &call) {
+    return report(call, bcm_vlan_default_set(call.unit(), vlan_of(call)));
 }
 
-constexpr std::array kStates = {"disable", "block", "listen", "learn", "forward"};
-static_assert(kStates.size() == BCM_STG_STP_COUNT);
-
-std::optional<int> state_of(std::string_view text) {
-    for (std::size_t at = 0; at < kStates.size(); ++at)
-        if (same_word(kStates[at], text)) return static_cast<int>(at);
-    return std::nullopt;
-}
+constexpr const char *kStates[] = {"disable", "block", "listen", "learn", "forward"};
+static_assert(std::size(kStates) == BCM_STG_STP_COUNT);
 
 // The ports of a tree in each state that occurs: "forward: xe0-xe3; block: xe4".
 std::string states_text(int unit, int stg, const PortNames &names) {
-    std::array<PortSet, kStates.size()> ports;
+    std::array<PortSet, BCM_STG_STP_COUNT> ports;
     for (const PortName &entry : names) {
         int state = -1;
         if (bcm_stg_stp_get(unit, stg, entry.port, &state) < 0) continue;
@@ -241,7 +186,7 @@ std::string states_text(int unit, int stg, const PortNames &names) {
         ports[static_cast<std::size_t>(state)].set(static_cast<std::size_t>(entry.port));
     }
     std::string text;
-    for (std::size_t at = kStates.size(); at-- > 0;) {
+    for (std::size_t at = std::size(kStates); at-- > 0;) {
         if (ports[at].none()) continue;
         text += text.empty() ? "" : "; ";
         text += std::string(kStates[at]) + ": " + port_list_text(ports[at], names);
@@ -249,109 +194,147 @@ std::string states_text(int unit, int stg, const PortNames &names) {
     return text;
 }
 
-std::string vlans_text(int unit, int stg) {
+Cell::Numbers vlans_of(int unit, int stg) {
     bcm_vlan_t *list = nullptr;
     int count = 0;
-    if (bcm_stg_vlan_list(unit, stg, &list, &count) < 0) return "-";
-    std::string text;
-    for (int at = 0; at < count; ++at) text += (text.empty() ? "" : ",") + std::to_string(list[at]);
+    if (bcm_stg_vlan_list(unit, stg, &list, &count) < 0) return {};
+    Cell::Numbers numbers(list, list + count);
     bcm_stg_vlan_list_destroy(unit, list, count);
-    return text.empty() ? "none" : text;
+    return numbers;
 }
 
-cmd_result_t stg_show(int unit, args_t *args) {
-    std::optional<std::int32_t> wanted;
-    if (!take_last_number(*args, wanted)) return kUsage;
+constexpr Column kStgColumns[] = {{"stg", ">STG", CellKind::kNumber},
+                                  {"vlans", "VLANs", CellKind::kNumbers},
+                                  {"ports", "Ports", CellKind::kText}};
+
+cmd_result_t stg_show(Call &call) {
     bcm_stg_t *list = nullptr;
     int count = 0;
-    int status = bcm_stg_list(unit, &list, &count);
-    if (status < 0) return report(*args, status);
-    PortNames names = unit_ports(unit);
-    Table table({">STG", "VLANs", "Ports"});
+    const int status = bcm_stg_list(call.unit(), &list, &count);
+    if (status < 0) return report(call, status);
+    const PortNames names = unit_ports(call.unit());
+    Rows rows(kStgColumns);
     for (int at = 0; at < count; ++at) {
-        if (wanted && list[at] != *wanted) continue;
-        table.row({std::to_string(list[at]), vlans_text(unit, list[at]),
-                   states_text(unit, list[at], names)});
+        if (call.has("STG") && list[at] != call.number("STG")) continue;
+        rows.row({list[at], Cell(vlans_of(call.unit(), list[at]), ""),
+                  states_text(call.unit(), list[at], names)});
     }
-    bcm_stg_list_destroy(unit, list, count);
-    if (wanted && table.size() == 0) return report(*args, BCM_E_NOT_FOUND);
-    table.print();
+    bcm_stg_list_destroy(call.unit(), list, count);
+    if (call.has("STG") && rows.size() == 0) return report(call, BCM_E_NOT_FOUND);
+    rows.show();
     return kOk;
 }
 
-cmd_result_t stg_create(int unit, args_t *args) {
-    std::optional<std::int32_t> wanted;
-    if (!take_last_number(*args, wanted)) return kUsage;
-    if (wanted) return report(*args, bcm_stg_create_id(unit, *wanted));
+cmd_result_t stg_create(Call &call) {
+    if (call.has("STG")) return report(call, bcm_stg_create_id(call.unit(), call.number("STG")));
     bcm_stg_t stg = 0;
-    int status = bcm_stg_create(unit, &stg);
+    const int status = bcm_stg_create(call.unit(), &stg);
     if (status >= 0) outf("%d\n", stg);
-    return report(*args, status);
+    return report(call, status);
 }
 
-cmd_result_t stg_destroy(int unit, args_t *args) {
-    std::optional<std::int32_t> stg = take_number(*args);
-    if (!stg || !args->empty()) return kUsage;
-    return report(*args, bcm_stg_destroy(unit, *stg));
+cmd_result_t stg_destroy(Call &call) {
+    return report(call, bcm_stg_destroy(call.unit(), call.number("STG")));
 }
 
-// `stg add N VLAN` and `stg remove N VLAN`.
-cmd_result_t stg_vlan(int unit, args_t &args, int (*call)(int, bcm_stg_t, bcm_vlan_t)) {
-    std::optional<std::int32_t> stg = take_number(args);
-    std::optional<std::int32_t> vlan = take_number(args);
-    if (!stg || !vlan || !args.empty()) return kUsage;
-    return report(args, call(unit, *stg, static_cast<bcm_vlan_t>(*vlan)));
+cmd_result_t stg_add(Call &call) {
+    return report(call, bcm_stg_vlan_add(call.unit(), call.number("STG"), vlan_of(call)));
 }
 
-cmd_result_t stg_add(int unit, args_t *args) { return stg_vlan(unit, *args, bcm_stg_vlan_add); }
-
-cmd_result_t stg_remove(int unit, args_t *args) {
-    return stg_vlan(unit, *args, bcm_stg_vlan_remove);
+cmd_result_t stg_remove(Call &call) {
+    return report(call, bcm_stg_vlan_remove(call.unit(), call.number("STG"), vlan_of(call)));
 }
 
-cmd_result_t stg_stp(int unit, args_t *args) {
-    std::optional<std::int32_t> stg = take_number(*args);
-    if (!stg) return kUsage;
-    PortNames names = unit_ports(unit);
-    std::optional<PortSet> ports = take_ports(unit, *args, names);
-    if (!ports) return kFail;
-    std::optional<int> state = state_of(args->take().value_or(""));
-    if (!state || !args->empty()) return kUsage;
-    return for_ports(
-        *ports, [&](int port) { return report(*args, bcm_stg_stp_set(unit, *stg, port, *state)); });
+cmd_result_t stg_default(Call &call) {
+    return report(call, bcm_stg_default_set(call.unit(), call.number("STG")));
 }
+
+cmd_result_t stg_stp(Call &call) {
+    return for_ports(call.ports("PORTS"), [&](int port) {
+        return report(call,
+                      bcm_stg_stp_set(call.unit(), call.number("STG"), port, call.number("STATE")));
+    });
+}
+
+constexpr Param kVlanOption = option("vlan", kFirstVlan, kLastVlan, "The VLAN").there(list_vlans);
+constexpr Param kPortOption = option("port", Kind::kPort, "The port behind which it is");
+constexpr Param kTrunkOption =
+    option("trunk", 0, 255, "The trunk behind which it is").there(list_trunks);
+constexpr Param kMacOption = option("mac", Kind::kMac, "The address");
+constexpr Param kL2Pick[] = {kMacOption,
+                             kVlanOption,
+                             kPortOption,
+                             kTrunkOption,
+                             flag("static", "Those that do not age"),
+                             flag("discard", "Those whose frames are dropped")};
+constexpr Param kL2Add[] = {kMacOption.need(),
+                            kVlanOption.need(),
+                            kPortOption.need().among('a'),
+                            kTrunkOption.need().among('a'),
+                            flag("discard", "Frames to it are dropped").need().among('a'),
+                            flag("static", "It does not age")};
+constexpr Param kL2Delete[] = {kMacOption.need(), kVlanOption.need()};
+constexpr Form kL2Forms[] = {
+    {"show", "The rows that all the options pick", "l2 show vlan=10 static", l2_show, kL2Pick,
+     kL2Columns},
+    {"add", "Add an address, or move it", "l2 add mac=02:00:00:00:00:0a vlan=10 port=xe3", l2_add,
+     kL2Add},
+    {"delete", "Take an address out", "l2 delete mac=02:00:00:00:00:0a vlan=10", l2_delete,
+     kL2Delete},
+    {"clear", "Take out the rows that all the options pick", "l2 clear port=xe3", l2_clear,
+     kL2Pick},
+    {"count", "How many rows the options pick", "l2 count vlan=10", l2_count, kL2Pick}};
+constexpr Command kL2 = {"l2", "The MAC table", kL2Forms, "show"};
+
+constexpr Param kVlan = place("VLAN", kFirstVlan, kLastVlan, "The VLAN").there(list_vlans);
+constexpr Param kMembers = option("ports", Kind::kPortList, "Its members");
+constexpr Param kUntagged =
+    option("untagged", Kind::kPortList, "Members whose frames go out without a tag");
+constexpr Param kVlanShow[] = {kVlan};
+constexpr Param kVlanOnly[] = {kVlan.need()};
+constexpr Param kVlanCreate[] = {place("VLAN", kFirstVlan, kLastVlan, "The VLAN").need(), kMembers,
+                                 kUntagged};
+constexpr Param kVlanAdd[] = {kVlan.need(), kMembers, kUntagged};
+constexpr Param kVlanRemove[] = {kVlan.need(), kMembers.need()};
+constexpr Form kVlanForms[] = {
+    {"show", "The VLANs and their ports", "vlan show 10", vlan_show, kVlanShow, kVlanColumns},
+    {"create", "Make a VLAN", "vlan create 10 ports=xe1-xe4 untagged=xe2", vlan_create,
+     kVlanCreate},
+    {"destroy", "Remove a VLAN", "vlan destroy 10", vlan_destroy, kVlanOnly},
+    {"add", "Add ports to a VLAN", "vlan add 10 ports=xe5", vlan_add, kVlanAdd},
+    {"remove", "Take ports out of a VLAN", "vlan remove 10 ports=xe5", vlan_remove, kVlanRemove},
+    {"default", "Choose the VLAN that frames without one are in", "vlan default 10", vlan_default,
+     kVlanOnly}};
+constexpr Command kVlanCommand = {
+    "vlan",     "VLANs and their ports",
+    kVlanForms, "show",
+    false,      "Untagged ports are members without being named twice."};
+
+constexpr Param kStg =
+    place("STG", kFirstStg, kLastStg, "The spanning tree group").there(list_stgs);
+constexpr Param kStgShow[] = {kStg};
+constexpr Param kStgCreate[] = {place("STG", kFirstStg, kLastStg, "The spanning tree group")};
+constexpr Param kStgOnly[] = {kStg.need()};
+constexpr Param kStgVlan[] = {kStg.need(), kVlan.need()};
+constexpr Param kStgStp[] = {kStg.need(), place("PORTS", Kind::kPortList, "The ports").need(),
+                             place("STATE", kStates, "What they do with frames").need()};
+constexpr Form kStgForms[] = {
+    {"show", "The groups, their VLANs and the states of their ports", "stg show 5", stg_show,
+     kStgShow, kStgColumns},
+    {"create", "Make a group; without a number the shell prints the one it got", "stg create 5",
+     stg_create, kStgCreate},
+    {"destroy", "Remove a group", "stg destroy 5", stg_destroy, kStgOnly},
+    {"add", "Move a VLAN into a group", "stg add 5 10", stg_add, kStgVlan},
+    {"remove", "Move a VLAN back to the default group", "stg remove 5 10", stg_remove, kStgVlan},
+    {"stp", "Set the state of ports in a group", "stg stp 5 xe1-xe2 block", stg_stp, kStgStp},
+    {"default", "Choose the group of new VLANs", "stg default 5", stg_default, kStgOnly}};
+constexpr Command kStgCommand = {"stg", "Spanning trees", kStgForms, "show"};
+
+constexpr const Command *kCommands[] = {&kL2, &kStgCommand, &kVlanCommand};
+static_assert(complete(kCommands));
 
 }  // namespace
 
-cmd_result_t cmd_l2(int unit, args_t *args) {
-    return run_subcommand(unit, *args,
-                          {{"show", l2_show},
-                           {"add", l2_add},
-                           {"delete", l2_delete},
-                           {"clear", l2_clear},
-                           {"count", l2_count}},
-                          "show");
-}
-
-cmd_result_t cmd_vlan(int unit, args_t *args) {
-    return run_subcommand(unit, *args,
-                          {{"show", vlan_show},
-                           {"create", vlan_create},
-                           {"destroy", vlan_destroy},
-                           {"add", vlan_add},
-                           {"remove", vlan_remove}},
-                          "show");
-}
-
-cmd_result_t cmd_stg(int unit, args_t *args) {
-    return run_subcommand(unit, *args,
-                          {{"show", stg_show},
-                           {"create", stg_create},
-                           {"destroy", stg_destroy},
-                           {"add", stg_add},
-                           {"remove", stg_remove},
-                           {"stp", stg_stp}},
-                          "show");
-}
+std::span<const Command *const> switch_commands() { return kCommands; }
 
 }  // namespace standin

@@ -3,190 +3,244 @@
 #include "sdk/sal/config.h"
 #include "standin/base/config_store.h"
 #include "standin/base/log.h"
-#include "standin/base/number_text.h"
 #include "standin/base/output.h"
+#include "standin/base/rows.h"
 #include "standin/base/scan.h"
 #include "standin/shell/commands.h"
+#include "standin/shell/values.h"
 
 namespace standin {
 namespace {
 
-cmd_result_t config_show(int, args_t *args) {
-    std::string pattern = args->take().value_or("");
-    if (!args->empty()) return kUsage;
-    for (const ConfigEntry &entry : config_entries())
-        if (name_matches(entry.name, pattern)) out(format_config_line(entry.name, entry.value));
+constexpr Column kConfigColumns[] = {{"name", nullptr, CellKind::kText},
+                                     {"value", nullptr, CellKind::kText},
+                                     {"setting", "Setting", CellKind::kText}};
+
+cmd_result_t config_show(Call &call) {
+    Rows rows(kConfigColumns, "{setting}");
+    for (const ConfigEntry &entry : config_entries()) {
+        if (!name_matches(entry.name, call.text("PATTERN"))) continue;
+        std::string line = format_config_line(entry.name, entry.value);
+        line.pop_back();
+        rows.row({entry.name, entry.value, line});
+    }
+    rows.show();
     return kOk;
 }
 
-cmd_result_t config_get_one(int, args_t *args) {
-    std::optional<std::string> name = args->take();
-    if (!name || !args->empty()) return kUsage;
-    std::optional<std::string> value = config_get(*name);
-    if (!value) return refuse(*args, "no setting '" + *name + '\'');
+cmd_result_t config_get_one(Call &call) {
+    const std::optional<std::string> value = config_get(call.text("NAME"));
+    if (!value) return refuse(call, "no setting '" + call.text("NAME") + '\'');
     out(*value + '\n');
     return kOk;
 }
 
-cmd_result_t config_change(int, args_t *args) {
-    if (args->empty()) return kUsage;
+cmd_result_t config_change(Call &call) {
     std::vector<std::pair<std::string, std::string>> settings;
-    while (std::optional<std::string> word = args->take()) {
+    for (const Value *word : call.all("NAME=VALUE")) {
         std::string_view name;
         std::string_view value;
-        if (!cut(*word, '=', name, value)) return kUsage;
+        cut(word->text, '=', name, value);
         std::string fault;
         if (!config_setting_ok(name, value, fault))
-            return refuse(*args, "bad setting '" + *word + "': " + fault);
+            return refuse(call, "bad setting '" + word->text + "': " + fault);
         settings.emplace_back(name, value);
     }
     for (const auto &[name, value] : settings) config_set(name, value);
     return kOk;
 }
 
-cmd_result_t config_delete(int, args_t *args) {
-    if (args->empty()) return kUsage;
-    std::vector<std::string> names;
-    while (std::optional<std::string> name = args->take()) {
-        if (!config_get(*name)) return refuse(*args, "no setting '" + *name + '\'');
-        names.push_back(*name);
-    }
-    for (const std::string &name : names) config_remove(name);
+cmd_result_t config_delete(Call &call) {
+    for (const Value *word : call.all("NAME"))
+        if (!config_get(word->text)) return refuse(call, "no setting '" + word->text + '\'');
+    for (const Value *word : call.all("NAME")) config_remove(word->text);
     return kOk;
 }
 
-cmd_result_t config_write(int unit, args_t *args) {
-    std::optional<std::string> file;
-    std::optional<std::string> pattern;
-    bool append = false;
-    parse_table_s table(unit);
-    table.add("file", file);
-    table.add("pattern", pattern);
-    table.add_flag("append", append);
-    cmd_result_t result = kOk;
-    if (!parse_all(*args, table, result)) return result;
-    return report(*args,
-                  config_save(file.value_or(config_files().file), pattern.value_or(""), append));
+cmd_result_t config_write(Call &call) {
+    const std::string file = call.has("file") ? call.text("file") : config_files().file;
+    return report(call, config_save(file, call.text("pattern"), call.flag("append")));
 }
 
-// Without a file the store takes what the configuration file says, and nothing else.
-cmd_result_t config_read(int, args_t *args) {
-    std::optional<std::string> file = args->take();
-    if (!args->empty()) return kUsage;
-    if (!file) return report(*args, sal_config_refresh());
-    return report(*args, config_load(*file, false));
+// Without a file the store takes what the configuration file says, and nothing else. Lines that
+// could not be read are told here too: whoever loads a file may not see the log.
+cmd_result_t config_read(Call &call) {
+    const std::string file = call.has("FILE") ? call.text("FILE") : config_files().file;
+    std::string text;
+    ConfigText read;
+    if (read_file(file, text)) read = parse_config_text(text);
+    const int status = call.has("FILE") ? config_load(file, false) : sal_config_refresh();
+    for (const ConfigFault &fault : read.faults)
+        out_fault(text_of("%s:%d: %s", file.c_str(), fault.line, fault.text.c_str()));
+    return report(call, status);
 }
 
-cmd_result_t config_empty(int, args_t *args) {
-    if (!args->empty()) return kUsage;
+cmd_result_t config_empty(Call &) {
     config_clear();
     return kOk;
 }
 
-cmd_result_t config_table(int, args_t *args) {
-    if (!args->empty()) return kUsage;
+cmd_result_t config_table(Call &) {
     sal_config_dump();
     return kOk;
 }
 
-cmd_result_t trace_show(int, args_t *args) {
-    if (!args->empty()) return kUsage;
-    Table table({"Layer", "Source", "Level"});
+constexpr Column kTraceColumns[] = {{"layer", "Layer", CellKind::kText},
+                                    {"source", "Source", CellKind::kText},
+                                    {"level", "Level", CellKind::kText}};
+
+cmd_result_t trace_show(Call &) {
+    Rows rows(kTraceColumns);
     for (int layer = 0; layer < kLayers; ++layer) {
         for (int source = 0; source < kSources; ++source) {
-            int level = log_level(layer, source);
+            const int level = log_level(layer, source);
             if (level == kSeverityWarning) continue;
-            table.row({layer_name(layer), source_name(source), severity_name(level)});
+            rows.row({layer_name(layer), source_name(source), severity_name(level)});
         }
     }
-    outf("capture %s, to log %s, bus %s\n", trace_capture() ? "on" : "off",
-         trace_to_log() ? "on" : "off", bde_trace() ? "on" : "off");
-    if (table.size() == 0) {
-        out("every level is warning\n");
-    } else {
-        table.print();
-        out("every other level is warning\n");
-    }
+    rows.before(text_of("capture %s, to log %s, bus %s", trace_capture() ? "on" : "off",
+                        trace_to_log() ? "on" : "off", bde_trace() ? "on" : "off"));
+    if (rows.size() > 0) rows.note("every other level is warning");
+    rows.instead("every level is warning");
+    rows.show();
     return kOk;
 }
 
-// `trace level LAYER SOURCE SEVERITY`, '*' for every layer or source.
-cmd_result_t trace_level(int, args_t *args) {
-    std::string layer_word = args->take().value_or("");
-    std::string source_word = args->take().value_or("");
-    std::optional<int> severity = severity_of(args->take().value_or(""));
-    std::optional<int> layer = layer_word == "*" ? kEvery : layer_of(layer_word);
-    std::optional<int> source = source_word == "*" ? kEvery : source_of(source_word);
-    if (!layer || !source || !severity || !args->empty()) return kUsage;
-    return log_level_set(*layer, *source, *severity) ? kOk : kUsage;
+std::vector<Candidate> list_names(int count, const char *(*name)(int)) {
+    std::vector<Candidate> all;
+    for (int at = 0; at < count; ++at) all.push_back({name(at), ""});
+    return all;
 }
 
-// A switch that is on or off.
-cmd_result_t flip(args_t &args, void (*set)(bool)) {
-    std::optional<bool> truth = read_truth(args.take().value_or(""));
-    if (!truth || !args.empty()) return kUsage;
-    set(*truth);
+std::vector<Candidate> list_layers(int) {
+    std::vector<Candidate> all = list_names(kLayers, layer_name);
+    all.push_back({"*", "every layer"});
+    return all;
+}
+
+std::vector<Candidate> list_sources(int) {
+    std::vector<Candidate> all = list_names(kSources, source_name);
+    all.push_back({"*", "every source"});
+    return all;
+}
+
+std::vector<Candidate> list_severities(int) { return list_names(kSeverities, severity_name); }
+
+// '*' for every layer or source.
+cmd_result_t trace_level(Call &call) {
+    const auto number = [](const std::string &word, std::optional<int> (*of)(std::string_view)) {
+        return word == "*" ? std::optional(kEvery) : of(word);
+    };
+    const auto wrong = [&](const char *word, const std::vector<Candidate> &right) {
+        std::vector<std::string> words;
+        for (const Candidate &one : right) words.push_back(one.word);
+        out_fault(call.name() + ' ' + call.text(word) + ": " + list_text(words));
+        return kUsage;
+    };
+    const std::optional<int> layer = number(call.text("LAYER"), layer_of);
+    if (!layer) return wrong("LAYER", list_layers(call.unit()));
+    const std::optional<int> source = number(call.text("SOURCE"), source_of);
+    if (!source) return wrong("SOURCE", list_sources(call.unit()));
+    const std::optional<int> severity = severity_of(call.text("SEVERITY"));
+    if (!severity) return wrong("SEVERITY", list_severities(call.unit()));
+    log_level_set(*layer, *source, *severity);
     return kOk;
 }
 
-cmd_result_t trace_capture_flip(int, args_t *args) { return flip(*args, trace_capture_set); }
-
-cmd_result_t trace_log_flip(int, args_t *args) { return flip(*args, trace_to_log_set); }
-
-cmd_result_t trace_bus_flip(int, args_t *args) {
-    return flip(*args, [](bool enable) { bde_trace_set(enable, {}); });
+cmd_result_t trace_capture_flip(Call &call) {
+    trace_capture_set(call.flag("ON"));
+    return kOk;
 }
 
-cmd_result_t trace_print(int, args_t *args) {
-    if (!args->empty()) return kUsage;
+cmd_result_t trace_log_flip(Call &call) {
+    trace_to_log_set(call.flag("ON"));
+    return kOk;
+}
+
+cmd_result_t trace_bus_flip(Call &call) {
+    bde_trace_set(call.flag("ON"), {});
+    return kOk;
+}
+
+cmd_result_t trace_print(Call &) {
     out(trace_text());
     return kOk;
 }
 
-cmd_result_t pw_start(int unit, args_t *args) {
-    if (!args->empty()) return kUsage;
-    if (sh_check_attached("pw start", unit) != BCM_E_NONE) return kFail;
-    Shell::instance().watching_set(unit, true);
+cmd_result_t pw_start(Call &call) {
+    if (sh_check_attached("pw start", call.unit()) != BCM_E_NONE) return kFail;
+    Shell::instance().watching_set(call.unit(), true);
     return kOk;
 }
 
-cmd_result_t pw_end(int unit, args_t *args) { return args->empty() ? pw_stop(unit, 1) : kUsage; }
+cmd_result_t pw_end(Call &call) { return pw_stop(call.unit(), 1); }
 
-cmd_result_t pw_show(int unit, args_t *args) {
-    if (!args->empty()) return kUsage;
-    outf("the packet watcher of unit %d is %s\n", unit, pw_running(unit) != 0 ? "on" : "off");
+cmd_result_t pw_show(Call &call) {
+    outf("the packet watcher of unit %d is %s\n", call.unit(),
+         pw_running(call.unit()) != 0 ? "on" : "off");
     return kOk;
 }
+
+constexpr Param kPatternPlace =
+    place("PATTERN", Kind::kConfig, "A part of the name, or a pattern with '*'");
+constexpr Param kShow[] = {kPatternPlace};
+constexpr Param kGet[] = {place("NAME", Kind::kConfig, "The setting").need()};
+constexpr Param kChange[] = {
+    place("NAME=VALUE", Kind::kSettings, "The setting, and what it shall be").need().many()};
+constexpr Param kDelete[] = {place("NAME", Kind::kConfig, "The setting").need().many()};
+constexpr Param kSave[] = {option("file", Kind::kFile, "Another file than the configuration file"),
+                           option("pattern", Kind::kConfig, "Only those whose names match"),
+                           flag("append", "Behind what the file has")};
+constexpr Param kLoad[] = {place("FILE", Kind::kFile, "The file, whose settings are added")};
+constexpr Form kConfigForms[] = {
+    {"show", "The settings", "config show speed", config_show, kShow, kConfigColumns},
+    {"get", "The value of a setting", "config get port_speed.1", config_get_one, kGet},
+    {"set", "Set settings, all or none", "config set port_speed.1=25000", config_change, kChange},
+    {"delete", "Remove settings, all or none", "config delete port_speed.1", config_delete,
+     kDelete},
+    {"save", "Write a file", "config save file=speeds pattern=port_speed*", config_write, kSave},
+    {"load", "Read a file", "config load speeds", config_read, kLoad},
+    {"clear", "Remove every setting", "config clear", config_empty},
+    {"dump", "The settings, with the lines where they stood", "config dump", config_table}};
+constexpr Command kConfig = {
+    "config",
+    "Settings of the configuration store",
+    kConfigForms,
+    "show",
+    false,
+    "'load' without a file reads the configuration file again and drops what it does not say.\n"
+    "'save' without a file writes the configuration file. A change counts from the next call on."};
+
+constexpr Param kLevel[] = {
+    place("LAYER", Kind::kText, "The layer").need().there(list_layers),
+    place("SOURCE", Kind::kText, "The source").need().there(list_sources),
+    place("SEVERITY", Kind::kText, "What is still told").need().there(list_severities)};
+constexpr Param kOn[] = {place("ON", Kind::kTruth, "On or off").need()};
+constexpr Form kTraceForms[] = {
+    {"show",
+     "Levels of the log, and where the trace goes",
+     "trace show",
+     trace_show,
+     {},
+     kTraceColumns},
+    {"level", "Set a level of the log", "trace level bcm l2 debug", trace_level, kLevel},
+    {"capture", "Collect the trace, or stop", "trace capture on", trace_capture_flip, kOn},
+    {"log", "Send the trace to the log, or stop", "trace log on", trace_log_flip, kOn},
+    {"bus", "Trace the accesses at bus level, or stop", "trace bus on", trace_bus_flip, kOn},
+    {"text", "What was collected", "trace text", trace_print}};
+constexpr Command kTrace = {"trace", "Levels of the log, and the trace",     kTraceForms, "show",
+                            false,   "'*' stands for every layer or source."};
+
+constexpr Form kPwForms[] = {{"start", "Start the packet watcher", "pw start", pw_start},
+                             {"stop", "Stop it", "pw stop", pw_end},
+                             {"show", "Whether it runs", "pw show", pw_show}};
+constexpr Command kPw = {"pw", "The packet watcher of the unit", kPwForms, "show"};
+
+constexpr const Command *kCommands[] = {&kConfig, &kPw, &kTrace};
+static_assert(complete(kCommands));
 
 }  // namespace
 
-cmd_result_t cmd_config(int unit, args_t *args) {
-    return run_subcommand(unit, *args,
-                          {{"show", config_show},
-                           {"get", config_get_one},
-                           {"set", config_change},
-                           {"delete", config_delete},
-                           {"save", config_write},
-                           {"load", config_read},
-                           {"clear", config_empty},
-                           {"dump", config_table}},
-                          "show");
-}
-
-cmd_result_t cmd_trace(int unit, args_t *args) {
-    return run_subcommand(unit, *args,
-                          {{"show", trace_show},
-                           {"level", trace_level},
-                           {"capture", trace_capture_flip},
-                           {"log", trace_log_flip},
-                           {"bus", trace_bus_flip},
-                           {"text", trace_print}},
-                          "show");
-}
-
-cmd_result_t cmd_pw(int unit, args_t *args) {
-    return run_subcommand(unit, *args, {{"start", pw_start}, {"stop", pw_end}, {"show", pw_show}},
-                          "show");
-}
+std::span<const Command *const> system_commands() { return kCommands; }
 
 }  // namespace standin

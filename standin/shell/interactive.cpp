@@ -1,27 +1,16 @@
 // The prompt, its loop over the lines of a person, and the end of input.
 #include "standin/shell/interactive.h"
 
-#include <cstdio>
-
 #include "sdk/variables.h"
 #include "standin/base/output.h"
 #include "standin/shell/interrupt.h"
 #include "standin/shell/reader.h"
+#include "standin/shell/terminal.h"
 
 namespace standin {
 namespace {
 
 constexpr int kMostEnds = 3;  // in a row, before the input is taken to be gone
-
-// Asks whether the rest of a long text is wanted.
-bool ask_more() {
-    std::fputs("-- more, 'q' to stop: ", stdout);
-    std::fflush(stdout);
-    int first = std::getc(stdin);
-    for (int sign = first; sign != '\n' && sign != EOF;) sign = std::getc(stdin);
-    std::clearerr(stdin);  // an end or a signal is the pager's, not the next line's
-    return first != EOF && first != 'q' && first != 'Q';
-}
 
 // A line with all that continues it.
 LineEnd read_whole(LineSource &source, const std::string &prompt, std::string &line) {
@@ -34,16 +23,16 @@ LineEnd read_whole(LineSource &source, const std::string &prompt, std::string &l
     return end;
 }
 
-// Turns the pager on for the time of one shell.
-class PagerScope {
+// The terminal is there for the time of one shell.
+class ScreenScope {
   public:
-    explicit PagerScope(bool terminal) : on_(terminal) {}
-    ~PagerScope() { out_pager_set(0, nullptr); }
-    PagerScope(const PagerScope &) = delete;
-    PagerScope &operator=(const PagerScope &) = delete;
+    explicit ScreenScope(bool terminal) : on_(terminal) {}
+    ~ScreenScope() { out_screen_set({}); }
+    ScreenScope(const ScreenScope &) = delete;
+    ScreenScope &operator=(const ScreenScope &) = delete;
 
-    // Before each command, since the setting may have changed.
-    void renew() const { out_pager_set(on_ ? sh_set_more_lines : 0, ask_more); }
+    // Before each command, since the window and the setting may have changed.
+    void renew() const { out_screen_set(on_ ? terminal_screen(sh_set_more_lines) : Screen{}); }
 
   private:
     bool on_;
@@ -53,7 +42,7 @@ class PagerScope {
 
 cmd_result_t interact(LineSource &source, int unit, const std::string &prefix, bool end_exits) {
     InterruptScope interrupts(true);
-    PagerScope pager(source.terminal());
+    ScreenScope screen(source.terminal());
     Shell &shell = Shell::instance();
     shell.unit_set(unit);
     for (int ends = 0; ends < kMostEnds;) {
@@ -71,13 +60,13 @@ cmd_result_t interact(LineSource &source, int unit, const std::string &prefix, b
             continue;
         }
         ends = 0;
-        pager.renew();
-        cmd_result_t result = shell.run(shell.unit(), line.c_str());
+        screen.renew();
+        cmd_result_t result = shell.run_typed(shell.unit(), line);
         if (result == kExit) return kExit;
         // A signal that came too late for the command, or at its pager, is done with as well.
         if (interrupted() || result == kInterrupted) {
             interrupt_take();
-            out_pager_set(0, nullptr);
+            out_screen_set({});
             out("interrupted\n");
         }
     }

@@ -2,7 +2,9 @@
 #include "standin/shell/interrupt.h"
 
 #include <atomic>
+#include <chrono>
 #include <mutex>
+#include <thread>
 #include <vector>
 
 namespace standin {
@@ -43,6 +45,13 @@ InterruptScope::~InterruptScope() {
 }
 
 bool interrupted() { return blocked == 0 && pending; }
+
+bool wait_seconds(int seconds) {
+    constexpr int kStep = 50;
+    for (int left = seconds * 1000; left > 0 && !interrupted(); left -= kStep)
+        std::this_thread::sleep_for(std::chrono::milliseconds(kStep));
+    return !interrupted();
+}
 
 bool interrupt_take() { return pending.exchange(false); }
 

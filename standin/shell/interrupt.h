@@ -27,6 +27,9 @@ class InterruptScope {
 
 // Whether a signal came that is neither taken nor blocked.
 bool interrupted();
+
+// Lets time pass; false as soon as there is an interrupt.
+bool wait_seconds(int seconds);
 // Takes it: true if there was one.
 bool interrupt_take();
 // A blocked signal waits until as many calls with false have come as with true.

@@ -22,7 +22,7 @@ class WordReader {
         while (at_ < text_.size() && !out.fault) {
             char sign = text_[at_];
             if (is_blank(sign)) {
-                end_word(out.words);
+                end_word(out);
                 ++at_;
             } else if (sign == '#' && !open_) {
                 break;
@@ -30,19 +30,24 @@ class WordReader {
                 take(sign, out.fault);
             }
         }
-        end_word(out.words);
+        end_word(out);
         return out;
     }
 
   private:
-    void end_word(std::vector<std::string> &words) {
-        if (open_) words.push_back(std::move(word_));
+    void end_word(Words &out) {
+        if (open_) {
+            bool plain = text_.substr(begin_, at_ - begin_) == word_;
+            out.words.push_back(std::move(word_));
+            out.places.push_back({begin_, at_, plain});
+        }
         word_.clear();
         open_ = false;
     }
 
     // Takes one sign, quoted text or variable into the word.
     void take(char sign, std::optional<ShellFault> &fault) {
+        if (!open_) begin_ = at_;
         open_ = true;
         if (sign == '\'')
             take_literal(fault);
@@ -105,6 +110,7 @@ class WordReader {
     std::string_view text_;
     const VariableLookup &lookup_;
     std::size_t at_ = 0;
+    std::size_t begin_ = 0;  // of the word
     std::string word_;
     bool open_ = false;  // a word has begun, maybe an empty one in quotes
 };

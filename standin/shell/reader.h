@@ -41,8 +41,16 @@ std::optional<UnitPrefix> take_unit_prefix(std::string_view &command);
 
 using VariableLookup = std::function<std::string(std::string_view name)>;
 
+// Where a word stands in its command.
+struct WordPlace {
+    std::size_t begin;
+    std::size_t end;
+    bool plain;  // no quote, backslash or variable in it: `|` and `>` are signs then
+};
+
 struct Words {
     std::vector<std::string> words;
+    std::vector<WordPlace> places;  // of each
     std::optional<ShellFault> fault;
 };
 Words read_command_words(std::string_view command, const VariableLookup &lookup);

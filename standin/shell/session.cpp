@@ -1,9 +1,12 @@
 // Running lines, files and single commands, and the variables of each unit.
 #include "standin/shell/session.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
+#include <cerrno>
 #include <chrono>
+#include <cstring>
 
 #include "sdk/bcm/init.h"
 #include "sdk/diag/shell.h"
@@ -13,9 +16,10 @@
 #include "standin/base/number_text.h"
 #include "standin/base/output.h"
 #include "standin/base/scan.h"
-#include "standin/shell/args.h"
+#include "standin/model/refusal.h"
 #include "standin/shell/interrupt.h"
-#include "standin/shell/reader.h"
+#include "standin/shell/matcher.h"
+#include "standin/shell/pipe.h"
 
 namespace standin {
 namespace {
@@ -105,71 +109,76 @@ Shell &Shell::instance() {
 }
 
 cmd_result_t Shell::run(int unit, const char *line) {
-    return line == nullptr ? kFail : run_line(unit, line, false);
+    return line == nullptr ? kFail : run_line(unit, line, Manner::kPlain);
+}
+
+cmd_result_t Shell::run_typed(int unit, const std::string &line) {
+    return run_line(unit, line, Manner::kTyped);
 }
 
 cmd_result_t Shell::run_checked(int unit, const char *line) {
     if (line == nullptr) return kFail;
     if (sh_check_attached(nullptr, unit) != BCM_E_NONE) return kFail;
-    return run_line(unit, line, true);
+    return run_line(unit, line, Manner::kChecked);
 }
 
-cmd_result_t Shell::run_line(int unit, std::string_view line, bool checked) {
+cmd_result_t Shell::run_line(int unit, std::string_view line, Manner manner) {
     if (depth >= kCommandDepth) {
-        out("commands are nested too deeply\n");
+        out_fault("commands are nested too deeply");
         return kFail;
     }
     CommandLevel level;
     InterruptScope interrupts;
     SplitLine split = split_commands(line);
     if (split.fault) {
-        out(split.fault->text + '\n');
+        out_fault(split.fault->text);
         return kUsage;
     }
     cmd_result_t result = kOk;
     for (const std::string &command : split.commands) {
         if (command.empty()) continue;
-        result = interrupted() ? kInterrupted : run_command(unit, command);
+        result =
+            interrupted() ? kInterrupted : run_command(unit, command, manner == Manner::kTyped);
         result_ = result;
-        if (ends_line(result) || (checked && result != kOk)) break;
+        if (ends_line(result) || (manner == Manner::kChecked && result != kOk)) break;
     }
     return result;
 }
 
-cmd_result_t Shell::run_command(int unit, std::string_view text) {
+cmd_result_t Shell::run_command(int unit, std::string_view text, bool typed) {
     std::optional<UnitPrefix> prefix = take_unit_prefix(text);
-    if (!prefix) return run_on_units(std::string(text), unit);
+    if (!prefix) return run_words(std::string(text), unit, typed);
     if (!prefix->every && sh_check_attached(nullptr, prefix->unit) != BCM_E_NONE) return kFail;
     if (text.empty() && !prefix->every) {
         unit_ = prefix->unit;
         return kOk;
     }
-    if (!prefix->every) return run_on_units(std::string(text), prefix->unit);
+    if (!prefix->every) return run_words(std::string(text), prefix->unit, typed);
     cmd_result_t result = kOk;
     for (int each : attached_units()) {
         outf("unit %d\n", each);
-        cmd_result_t one = run_on_units(std::string(text), each);
+        cmd_result_t one = run_words(std::string(text), each, typed);
         if (ends_line(one)) return one;
         if (result == kOk) result = one;
     }
     return result;
 }
 
-cmd_result_t Shell::run_on_units(const std::string &text, int unit) {
+cmd_result_t Shell::run_words(const std::string &text, int unit, bool typed) {
     Words words = read_command_words(text, [&](std::string_view name) {
         if (name == "?") return std::to_string(result_);
         return name == "unit" ? std::to_string(unit) : variable(name);
     });
     if (words.fault) {
-        out(words.fault->text + '\n');
+        out_fault(words.fault->text);
         return kUsage;
     }
     if (words.words.empty()) return kOk;
-    std::string name = words.words.front();
     auto start = std::chrono::steady_clock::now();
-    cmd_result_t result = call(unit, std::move(words.words));
+    cmd_result_t result = run_piped(unit, words, text, typed);
     if (trace_wanted())
         trace("shell u" + std::to_string(unit) + ": " + text + ": " + result_name(result));
+    const std::string &name = words.words.front();
     report_result(name, result);
     if (sh_set_report_time != 0 && depth == 1) {
         std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
@@ -178,17 +187,51 @@ cmd_result_t Shell::run_on_units(const std::string &text, int unit) {
     return result;
 }
 
-cmd_result_t Shell::call(int unit, std::vector<std::string> words) {
-    const cmd_t *command = find_command(words.front());
-    if (command == nullptr) {
-        outf("%s: no such command; 'help' lists them\n", words.front().c_str());
-        return kNotFound;
+// A command with what stands behind it. What it printed while it failed is no table of it.
+cmd_result_t Shell::run_piped(int unit, const Words &words, const std::string &text, bool typed) {
+    const std::string &first = words.words.front();
+    if (words.places.front().plain && (first == "|" || first == ">" || first == ">>")) {
+        out_fault(first + ": no command before it");
+        return kUsage;
     }
-    args_s args;
-    args.command = words.front();
-    args.words.assign(words.begin() + 1, words.end());
-    cmd_result_t result = command->c_f(unit, &args);
-    if (result == kUsage) outf("usage: %s\n", command->c_usage);
+    const Command *const command = find_command(first, typed);
+    if (command == nullptr || takes_rest(*command)) return call(unit, words, text, typed);
+    const Pipe pipe = read_pipe(words, command->compares, typed);
+    if (!pipe.fault.empty()) {
+        out_fault(pipe.fault);
+        return kUsage;
+    }
+    Words own = words;
+    own.words.resize(pipe.words);
+    own.places.resize(pipe.words);
+    if (pipe.empty()) return call(unit, own, text, typed);
+    std::vector<RowCatcher::Item> items;
+    cmd_result_t result = kOk;
+    {
+        RowCatcher catcher;
+        result = call(unit, own, text, typed);
+        items = catcher.take();
+    }
+    const bool rows = std::any_of(items.begin(), items.end(), [](const RowCatcher::Item &item) {
+        return std::holds_alternative<Rows>(item);
+    });
+    if (result != kOk && !rows) {
+        for (const RowCatcher::Item &item : items) out(std::get<std::string>(item));
+        return result;
+    }
+    return run_pipe(pipe, std::move(items)) || result != kOk ? result : kFail;
+}
+
+cmd_result_t Shell::call(int unit, const Words &words, const std::string &text, bool typed) {
+    Match match(unit, typed, words, text);
+    if (const std::optional<MatchFault> &fault = match.whole()) {
+        out_fault(fault->text);
+        if (fault->usage) outf("usage: %s\n", usage_of(*fault->command, *fault->form).c_str());
+        return fault->result;
+    }
+    forget_refusal();
+    cmd_result_t result = match.form()->run(match.call());
+    if (result == kUsage) outf("usage: %s\n", usage_of(*match.command(), *match.form()).c_str());
     return result;
 }
 
@@ -197,7 +240,8 @@ cmd_result_t Shell::run_file(int unit, const std::string &path,
     std::string name = add_rc && !path.ends_with(".rc") ? path + ".rc" : path;
     std::string text;
     if (!read_file(name, text)) {
-        outf("%s: cannot be read\n", name.c_str());
+        out_fault("rcload " + name + ": " +
+                  (errno == ENOENT ? "no such file" : std::strerror(errno)));
         return kNotFound;
     }
     if (files.size() >= kFileDepth) {
@@ -216,7 +260,7 @@ cmd_result_t Shell::run_lines(int unit, const std::string &name, std::string_vie
             outf("%s:%d: %s\n", name.c_str(), line.number, line.text.c_str());
             continue;
         }
-        result = run_line(unit, line.text, sh_set_rcerror != 0);
+        result = run_line(unit, line.text, sh_set_rcerror != 0 ? Manner::kChecked : Manner::kPlain);
         if (result == kOk) continue;
         if (result == kExit) return kOk;  // `exit` leaves the file, no more
         if (result == kInterrupted) return result;

@@ -13,7 +13,9 @@
 //   sh_set_lperror        the same for `loop` and `for`
 //   sh_set_iferror        not 0: `if` with a bad condition fails; 0: it counts as false
 //   sh_set_rctest         not 0: the commands of files are printed, not run
-//   sh_set_more_lines     lines that a terminal shows before it asks to go on; 0 never asks
+//   sh_set_more_lines     lines that a terminal shows before it asks to go on; 0 never asks, below
+//   0
+//                         after what its window holds
 //   sh_set_report_time    not 0: prints how long each command of the user took
 //   sh_set_report_status  not 0: prints the result of each command that did not end in CMD_OK
 //   sh_rcload_depth       how many files are being run, one inside the other; at most 16
@@ -31,6 +33,7 @@
 #include "native/values.h"
 #include "sdk/constants.h"
 #include "sdk/diag/shell_types.h"
+#include "standin/shell/reader.h"
 
 namespace standin {
 
@@ -55,6 +58,9 @@ class Shell {
 
     // Runs a line, `unit` where it names none. A null line is CMD_FAIL.
     cmd_result_t run(int unit, const char *line);
+
+    // The same for a line that a person typed: words may be cut short to what is unique.
+    cmd_result_t run_typed(int unit, const std::string &line);
 
     // Runs a line as far as its first command that fails, and answers that result; CMD_FAIL
     // without a word run for a unit that is not attached.
@@ -87,11 +93,13 @@ class Shell {
 
   private:
     Shell() = default;
-    cmd_result_t run_line(int unit, std::string_view line, bool checked);
-    cmd_result_t run_command(int unit, std::string_view text);
-    cmd_result_t run_on_units(const std::string &text, int unit);
+    enum class Manner : std::uint8_t { kPlain, kChecked, kTyped };
+    cmd_result_t run_line(int unit, std::string_view line, Manner manner);
+    cmd_result_t run_command(int unit, std::string_view text, bool typed);
+    cmd_result_t run_words(const std::string &text, int unit, bool typed);
     cmd_result_t run_lines(int unit, const std::string &name, std::string_view text);
-    cmd_result_t call(int unit, std::vector<std::string> words);
+    cmd_result_t run_piped(int unit, const Words &words, const std::string &text, bool typed);
+    cmd_result_t call(int unit, const Words &words, const std::string &text, bool typed);
 
     std::atomic<int> unit_ = 0;
     std::atomic<int> result_ = CMD_OK;
@@ -107,10 +115,5 @@ class Shell {
 bool unit_attached(int unit);
 // The attached units, ascending.
 std::vector<int> attached_units();
-
-// The commands, by name; ends with a row of nulls.
-extern const cmd_t shell_commands[];
-// The row of a name or an alias, or null.
-const cmd_t *find_command(std::string_view name);
 
 }  // namespace standin

@@ -75,7 +75,8 @@ Lumo::String sdc(int unit, char *command) {
 cmd_result_t sh_rcload_file(int u, args_t *args, char *f, int add_rc) {
     if (f == nullptr) return kFail;
     std::vector<std::string> words;
-    while (args != nullptr && !args->empty()) words.push_back(*args->take());
+    while (args != nullptr && args->next < args->words.size())
+        words.push_back(args->words[args->next++]);
     return Shell::instance().run_file(u, f, words, add_rc != 0);
 }
 

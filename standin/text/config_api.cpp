@@ -7,6 +7,7 @@
 #include "standin/base/faults.h"
 #include "standin/base/log.h"
 #include "standin/base/output.h"
+#include "standin/base/rows.h"
 #include "standin/base/scan.h"
 #include "standin/text/unit_ports.h"
 
@@ -19,7 +20,6 @@ std::string text_or(const char *text, const std::string &fallback) {
 }
 
 // Where a setting shows its place in the file; 0 stands for one that was set by a call.
-std::string origin_text(int line) { return line > 0 ? std::to_string(line) : "-"; }
 
 }  // namespace
 
@@ -97,11 +97,14 @@ void sal_config_show(void) {
 }
 
 void sal_config_dump(void) {
-    Table table({"Name", "Value", ">Line"});
+    static constexpr Column kColumns[] = {{"name", "Name", CellKind::kText},
+                                          {"value", "Value", CellKind::kText},
+                                          {"line", ">Line", CellKind::kNumber}};
+    Rows rows(kColumns);
     for (const ConfigEntry &entry : config_entries())
-        table.row({entry.name, entry.value, origin_text(entry.line)});
-    outf("file %s, %zu settings\n", config_files().file.c_str(), table.size());
-    table.print();
+        rows.row({entry.name, entry.value, entry.line > 0 ? Cell(entry.line) : Cell()});
+    rows.before(text_of("file %s, %zu settings", config_files().file.c_str(), rows.size()));
+    rows.show();
 }
 
 pbmp_t soc_property_get_bcm_pbmp(int unit, char const *name, int defneg) {

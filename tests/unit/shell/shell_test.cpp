@@ -4,6 +4,7 @@
 #include <atomic>
 #include <csignal>
 #include <cstdlib>
+#include <nlohmann/json.hpp>
 #include <thread>
 
 #include "diag_fixture.h"
@@ -20,8 +21,11 @@
 #include "standin/base/config_store.h"
 #include "standin/base/output.h"
 #include "standin/chapters/hooks.h"
+#include "standin/shell/complete.h"
+#include "standin/shell/history.h"
 #include "standin/shell/interactive.h"
 #include "standin/shell/interrupt.h"
+#include "standin/shell/manual.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
@@ -61,15 +65,35 @@ class ShellTest : public ::testing::Test {
     Directory directory_;
 };
 
-// Runs the commands of a session file, which stand behind "$ ", and gives the session as it went.
+// Runs the lines of a session file and gives the session as it went:
+//   $ a command, as a program gives it      > as a person types it, prefixes and all
+//   ? what may stand behind these words     + what Tab adds to these, in brackets
+//   @ the shortest beginnings of commands   # a comment
 std::string replay(const std::string &session) {
     std::string went;
     for (std::size_t at = 0; at < session.size();) {
         std::size_t end = session.find('\n', at);
         std::string line = session.substr(at, end - at);
         at = end == std::string::npos ? session.size() : end + 1;
+        const std::string words = line.size() < 2 ? line : line.substr(2);
+        const auto typed = [&] {
+            Capture capture;
+            Shell::instance().run_typed(0, words);
+            return capture.text();
+        };
         if (line.starts_with("$ "))
-            went += line + '\n' + sdc(0, Text(line.substr(2))).stdString();
+            went += line + '\n' + sdc(0, Text(words)).stdString();
+        else if (line.starts_with("> "))
+            went += line + '\n' + typed();
+        else if (line.starts_with("? "))
+            went += line + '\n' + completion_text(complete_line(words, 0), 0);
+        else if (line.starts_with("+ "))
+            went += "+ " + words.substr(0, words.find("[")) + '[' +
+                    common_end(complete_line(words.substr(0, words.find("[")), 0),
+                               words.substr(0, words.find("["))) +
+                    "]\n";
+        else if (line.starts_with("@ "))
+            went += line + '\n' + prefixes_text();
         else if (line.starts_with("# "))
             went += line + '\n';
     }
@@ -92,7 +116,87 @@ TEST_P(ShellSession, GoesAsItDidBefore) {
 
 INSTANTIATE_TEST_SUITE_P(Golden, ShellSession,
                          ::testing::Values("language", "ports", "switching", "registers", "system",
-                                           "help", "refusals"));
+                                           "help", "refusals", "filters", "typing"));
+
+// Each example of a form is read, and each table keeps the kinds of its columns in JSON.
+TEST_F(ShellTest, EveryFormTakesItsExampleAndEveryTableIsJson) {
+    static const char *const kLeaves[] = {"exit",        "rcload", "config save",
+                                          "config load", "watch",  "trace log"};
+    run("vlan create 10 ports=xe1-xe4; l2 add mac=02:00:00:00:00:0a vlan=10 port=xe3 static; "
+        "stg create 5; setenv uplink ce64; trace level bcm l2 debug; config set port_speed.1=1; "
+        "pw start");
+    for (const Command *command : all_commands()) {
+        for (const Form &form : command->forms) {
+            const std::string example = form.example;
+            if (std::any_of(std::begin(kLeaves), std::end(kLeaves),
+                            [&](const char *one) { return example.starts_with(one); }))
+                continue;
+            Capture capture;
+            const int result = run(form.example);
+            EXPECT_TRUE(result == CMD_OK || result == CMD_FAIL) << example << capture.text();
+            if (form.columns.empty() || result != CMD_OK) continue;
+            const std::string words = example.substr(0, example.find(" | "));
+            const auto rows = nlohmann::json::parse(output((words + " | json").c_str()));
+            for (const auto &row : rows) {
+                for (const auto &[key, value] : row.items()) {
+                    const auto column =
+                        std::find_if(form.columns.begin(), form.columns.end(),
+                                     [&](const Column &one) { return key == one.key; });
+                    if (column == form.columns.end() || value.is_null()) continue;
+                    const bool kinds[] = {value.is_number(), value.is_string(), value.is_boolean(),
+                                          value.is_array()};
+                    EXPECT_TRUE(kinds[static_cast<int>(column->kind)]) << words << ' ' << key;
+                }
+            }
+        }
+    }
+    run("trace level * * warning; trace capture off; trace bus off; trace log off");
+}
+
+TEST_F(ShellTest, FiltersWriteFilesAndJson) {
+    const std::string file = directory_.file("out");
+    EXPECT_EQ(output(("echo one > " + file + "; echo two >> " + file).c_str()), "");
+    EXPECT_EQ(content(file), "one\ntwo\n");
+    EXPECT_EQ(output("config set x='\x1b\xff'; config show | columns value,name"),
+              "value     name\n--------  ----\n\\x1b\\xff  x\n");
+    EXPECT_EQ(output("config show | json"),
+              "[\n {\"name\":\"x\",\"value\":\"\\u001b\\ufffd\","
+              "\"setting\":\"x=\\\"\\\\x1b\\\\xff\\\"\"}\n]\n");
+    EXPECT_EQ(run("echo x > /nowhere/x"), CMD_FAIL);
+    EXPECT_EQ(run("vlan destroy 99 | json"), CMD_FAIL);
+}
+
+TEST_F(ShellTest, HistoryIsKeptAndPutIn) {
+    const std::string file = directory_.file("history");
+    config_set("diag_shell_history_file", file);
+    config_set("diag_shell_history", "2");
+    LineHistory first;
+    EXPECT_EQ(first.expand("!!"), "");
+    for (const char *line : {"ps xe1", "ps xe1", " secret", "", "vlan", "l2"}) first.add(line);
+    EXPECT_EQ(content(file), "ps xe1\nvlan\nl2\n");
+    LineHistory second;
+    EXPECT_EQ(second.lines(), (std::vector<std::string>{"vlan", "l2"}));
+    EXPECT_EQ(second.expand("!! | count"), "l2 | count");
+    EXPECT_FALSE(second.expand("echo '!!' \\!!"));
+    for (const char *line : {"a", "b", "c"}) second.add(line);
+    EXPECT_EQ(LineHistory().lines(), (std::vector<std::string>{"b", "c"}));
+    EXPECT_EQ(content(file), "b\nc\n");
+}
+
+TEST(Rows, WidthsAreThoseOfTheTerminal) {
+    EXPECT_EQ(text_width("a\u00e4\u4e2d\u0065\u0301\xff"), 6u);
+    static constexpr Column kColumns[] = {{"a", "A", CellKind::kText},
+                                          {"b", ">B", CellKind::kNumber}};
+    Rows rows(kColumns);
+    rows.row({"\u4e2d\u4e2d\u4e2d\u4e2d\u4e2d", 1});
+    rows.row({"b\n", 20});
+    EXPECT_EQ(rows.text(),
+              "A            B\n----------  --\n"
+              "\u4e2d\u4e2d\u4e2d\u4e2d\u4e2d   1\nb\\x0a       20\n");
+    EXPECT_EQ(rows.text(12),
+              "A          B\n--------  --\n"
+              "\u4e2d\u4e2d...    1\nb\\x0a     20\n");
+}
 
 TEST_F(ShellTest, ResultCodes) {
     EXPECT_EQ(run(""), CMD_OK);
@@ -141,7 +245,7 @@ TEST_F(ShellTest, FilesStopAtAnErrorOnlyWhenTold) {
     EXPECT_EQ(output(("rcload " + file).c_str()),
               "nonsense: no such command; 'help' lists them\n" + file + ":1: CMD_NFND\non\n");
     sh_set_rcerror = 1;
-    EXPECT_EQ(run(("rcload " + file + " > x").c_str()), CMD_NFND);
+    EXPECT_EQ(run(("rcload " + file).c_str()), CMD_NFND);
     sh_set_rctest = 1;
     EXPECT_EQ(output(("rcload " + file).c_str()), file + ":1: nonsense\n" + file + ":2: echo on\n");
 }
