@@ -140,15 +140,16 @@ std::string Cell::text() const {
     return escaped(words_.empty() ? std::visit(Writer{}, value_) : words_);
 }
 
-Rows::Rows(std::span<const Column> columns, const char *line) : columns_(columns), line_(line) {}
+Rows::Rows(std::span<const RowColumn> columns, const char *line) : columns_(columns), line_(line) {}
 
 void Rows::row(std::vector<Cell> cells) { rows_.push_back(std::move(cells)); }
 
 bool Rows::choose(std::span<const std::string> keys) {
     std::vector<std::size_t> wanted;
     for (const std::string &key : keys) {
-        const auto found = std::find_if(columns_.begin(), columns_.end(),
-                                        [&](const Column &one) { return same_word(one.key, key); });
+        const auto found =
+            std::find_if(columns_.begin(), columns_.end(),
+                         [&](const RowColumn &one) { return same_word(one.key, key); });
         if (found == columns_.end()) return false;
         wanted.push_back(static_cast<std::size_t>(found - columns_.begin()));
     }
@@ -159,7 +160,7 @@ bool Rows::choose(std::span<const std::string> keys) {
 
 bool Rows::sort(std::string_view key, bool downwards) {
     const auto found = std::find_if(columns_.begin(), columns_.end(),
-                                    [&](const Column &one) { return same_word(one.key, key); });
+                                    [&](const RowColumn &one) { return same_word(one.key, key); });
     if (found == columns_.end()) return false;
     const auto at = static_cast<std::size_t>(found - columns_.begin());
     std::stable_sort(rows_.begin(), rows_.end(), [&](const auto &left, const auto &right) {
@@ -227,7 +228,7 @@ std::string Rows::text(int width, bool bold) const {
             for (std::size_t at : shown()) lines.back().push_back(cells[at].text());
         }
         for (std::size_t at : shown()) {
-            const Column &column = columns_[at];
+            const RowColumn &column = columns_[at];
             std::string heading = column.heading == nullptr ? column.key : column.heading;
             right.push_back(column.heading != nullptr ? heading.starts_with('>')
                                                       : column.kind == CellKind::kNumber);

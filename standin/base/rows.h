@@ -23,7 +23,7 @@ namespace standin {
 
 enum class CellKind : std::uint8_t { kNumber, kText, kTruth, kNumbers };
 
-struct Column {
+struct RowColumn {
     const char *key;      // "vid": the field of the Python structure
     const char *heading;  // "VLAN"; with '>' before it set to the right; null: only when asked for
     CellKind kind;
@@ -63,7 +63,7 @@ class Rows {
   public:
     // With `line` each row is that line, `{key}` in it a cell, and there are no headings.
     // REQUIRES: both outlive the rows.
-    explicit Rows(std::span<const Column> columns, const char *line = nullptr);
+    explicit Rows(std::span<const RowColumn> columns, const char *line = nullptr);
 
     // REQUIRES: as many cells as columns, each of its column's kind.
     void row(std::vector<Cell> cells);
@@ -74,7 +74,7 @@ class Rows {
     void instead(std::string sentence) { instead_ = std::move(sentence); }
 
     std::size_t size() const { return rows_.size(); }
-    std::span<const Column> columns() const { return columns_; }
+    std::span<const RowColumn> columns() const { return columns_; }
     const std::vector<std::size_t> &chosen() const { return chosen_; }
     const std::vector<std::vector<Cell>> &rows() const { return rows_; }
 
@@ -97,7 +97,7 @@ class Rows {
     std::vector<std::size_t> shown() const;
     std::string line_of(const std::vector<Cell> &cells) const;
 
-    std::span<const Column> columns_;
+    std::span<const RowColumn> columns_;
     const char *line_;
     std::vector<std::size_t> chosen_;  // empty until choose
     std::vector<std::vector<Cell>> rows_;

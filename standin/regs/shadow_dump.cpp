@@ -25,7 +25,7 @@ std::string memory_text(const Unit &unit) {
     text += text_of("# PCI configuration shadow: %s\n", policy.pci_configured ? "on" : "off");
     if (!policy.constraints_file.empty())
         text += "# copy engine constraints: " + policy.constraints_file + '\n';
-    static constexpr Column kColumns[] = {
+    static constexpr RowColumn kColumns[] = {
         {"memory", "Memory", CellKind::kText},   {"number", ">Number", CellKind::kNumber},
         {"block", "Block", CellKind::kText},     {"array", ">Array", CellKind::kNumber},
         {"base", "Base", CellKind::kText},       {"entries", ">Entries", CellKind::kNumber},
@@ -63,11 +63,11 @@ std::string parity_errors(const Unit &unit, const Block &block) {
 
 std::string parity_text(const Unit &unit) {
     std::string text = text_of("# unit %d: parity and ECC\n", unit.number);
-    static constexpr Column kColumns[] = {{"memory", "Memory", CellKind::kText},
-                                          {"block", "Block", CellKind::kText},
-                                          {"protection", "Protection", CellKind::kText},
-                                          {"check_bits", ">Check bits", CellKind::kNumber},
-                                          {"block_errors", ">Block errors", CellKind::kText}};
+    static constexpr RowColumn kColumns[] = {{"memory", "Memory", CellKind::kText},
+                                             {"block", "Block", CellKind::kText},
+                                             {"protection", "Protection", CellKind::kText},
+                                             {"check_bits", ">Check bits", CellKind::kNumber},
+                                             {"block_errors", ">Block errors", CellKind::kText}};
     Rows table(kColumns);
     for (const MemoryLayout &layout : all_memories()) {
         // An entry of one word has a parity bit, a wider one 7 bits of ECC for each word.

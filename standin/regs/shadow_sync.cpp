@@ -106,11 +106,11 @@ std::string sync_text(int unit, const SyncRecord &record) {
     std::string text =
         text_of("# unit %d: %u registers compared, %u different%s\n", unit, record.compared,
                 record.differing, record.repaired ? ", shadow repaired" : "");
-    static constexpr Column kColumns[] = {{"register", "Register", CellKind::kText},
-                                          {"address", "Address", CellKind::kText},
-                                          {"word", ">Word", CellKind::kNumber},
-                                          {"shadow", ">Shadow", CellKind::kText},
-                                          {"hardware", ">Hardware", CellKind::kText}};
+    static constexpr RowColumn kColumns[] = {{"register", "Register", CellKind::kText},
+                                             {"address", "Address", CellKind::kText},
+                                             {"word", ">Word", CellKind::kNumber},
+                                             {"shadow", ">Shadow", CellKind::kText},
+                                             {"hardware", ">Hardware", CellKind::kText}};
     Rows table(kColumns);
     for (const Difference &one : record.differences) {
         table.row({element_text(*one.layout, one.instance, one.index),

@@ -5,42 +5,42 @@
 
 namespace standin {
 
-Call::Call(int unit, const Command &command, const Form &form)
+CommandCall::CommandCall(int unit, const Command &command, const Form &form)
     : unit_(unit), form_(form), name_(command.name) {
     if (*form.name != '\0') name_ += ' ' + std::string(form.name);
 }
 
-const Value *Call::find(std::string_view param) const {
+const Value *CommandCall::find(std::string_view param) const {
     const Value *last = nullptr;
     for (const auto &[given, value] : values_)
         if (param == given->name) last = &value;
     return last;
 }
 
-const Value &Call::operator[](std::string_view param) const {
+const Value &CommandCall::operator[](std::string_view param) const {
     static const Value &none = *new Value;
     const Value *const found = find(param);
     return found == nullptr ? none : *found;
 }
 
-std::vector<const Value *> Call::all(std::string_view param) const {
+std::vector<const Value *> CommandCall::all(std::string_view param) const {
     std::vector<const Value *> every;
     for (const auto &[given, value] : values_)
         if (param == given->name) every.push_back(&value);
     return every;
 }
 
-int Call::number(std::string_view param, int fallback) const {
+int CommandCall::number(std::string_view param, int fallback) const {
     const Value *const found = find(param);
     return found == nullptr ? fallback : static_cast<int>(found->number);
 }
 
-std::string Call::text(std::string_view param, const char *fallback) const {
+std::string CommandCall::text(std::string_view param, const char *fallback) const {
     const Value *const found = find(param);
     return found == nullptr ? fallback : found->text;
 }
 
-PortSet Call::ports(std::string_view param) const {
+PortSet CommandCall::ports(std::string_view param) const {
     if (has(param)) return given_ports(param);
     PortSet all;
     for (const PortName &one : unit_ports(unit_)) all.set(static_cast<std::size_t>(one.port));

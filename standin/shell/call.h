@@ -29,9 +29,9 @@ constexpr int plain_port(std::int32_t port) {
     return gport_type(port) == kLocalGport.type ? port & kLocalGport.mask : port;
 }
 
-class Call {
+class CommandCall {
   public:
-    Call(int unit, const Command &command, const Form &form);
+    CommandCall(int unit, const Command &command, const Form &form);
 
     int unit() const { return unit_; }
     const Form &form() const { return form_; }

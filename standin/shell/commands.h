@@ -20,9 +20,9 @@ std::span<const Command *const> register_commands();  // registers and memories
 std::span<const Command *const> system_commands();    // configuration, log, packet watcher
 
 // kOk for a good status; else prints "<command>: BCM_E_...: <meaning>" and gives kFail.
-cmd_result_t report(const Call &call, int status);
+cmd_result_t report(const CommandCall &call, int status);
 // Prints "<command>: <text>" and gives kFail.
-cmd_result_t refuse(const Call &call, const std::string &text);
+cmd_result_t refuse(const CommandCall &call, const std::string &text);
 // "BCM_E_PARAM"
 std::string status_text(int status);
 // "BCM_E_PARAM: a bad parameter", with the model's own sentence where it has one.

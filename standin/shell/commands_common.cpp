@@ -50,11 +50,11 @@ std::string status_meaning(int status) {
     return at == std::string::npos ? text : text + "; " + refusal.substr(at + brief.size());
 }
 
-cmd_result_t report(const Call &call, int status) {
+cmd_result_t report(const CommandCall &call, int status) {
     return status >= 0 ? kOk : refuse(call, status_meaning(status));
 }
 
-cmd_result_t refuse(const Call &call, const std::string &text) {
+cmd_result_t refuse(const CommandCall &call, const std::string &text) {
     out_fault(call.name() + ": " + text);
     return kFail;
 }

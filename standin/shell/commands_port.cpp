@@ -57,7 +57,7 @@ Cell loopback(int unit, int port) {
     return {std::int64_t{mode}, known ? kLoopbacks[mode] : std::to_string(mode)};
 }
 
-constexpr Column kPortColumns[] = {
+constexpr RowColumn kPortColumns[] = {
     {"port", "Port", CellKind::kNumber},        {"name", "Name", CellKind::kText},
     {"enable", "Admin", CellKind::kTruth},      {"linkstatus", "Link", CellKind::kTruth},
     {"speed", ">Speed", CellKind::kNumber},     {"duplex", "Duplex", CellKind::kTruth},
@@ -65,7 +65,7 @@ constexpr Column kPortColumns[] = {
     {"learn", "Learn", CellKind::kNumber},      {"frame_max", ">Frame", CellKind::kNumber},
     {"loopback", "Loopback", CellKind::kNumber}};
 
-cmd_result_t do_ps(Call &call) {
+cmd_result_t do_ps(CommandCall &call) {
     const int unit = call.unit();
     const PortNames names = unit_ports(unit);
     if (names.empty()) return refuse(call, "unit " + std::to_string(unit) + " has no ports");
@@ -124,7 +124,7 @@ int first_too_slow(int unit, const PortSet &ports, int speed) {
     return slow;
 }
 
-cmd_result_t do_port(Call &call) {
+cmd_result_t do_port(CommandCall &call) {
     const PortNames names = unit_ports(call.unit());
     const bool show = std::none_of(std::begin(kChanges), std::end(kChanges),
                                    [&](const Change &one) { return call.has(one.option); });
@@ -146,12 +146,12 @@ cmd_result_t do_port(Call &call) {
     });
 }
 
-constexpr Column kUnitColumns[] = {
+constexpr RowColumn kUnitColumns[] = {
     {"unit", ">Unit", CellKind::kNumber},   {"device", "Device", CellKind::kNumber},
     {"rev", ">Rev", CellKind::kNumber},     {"state", "State", CellKind::kText},
     {"ports", ">Ports", CellKind::kNumber}, {"current", "", CellKind::kTruth}};
 
-cmd_result_t do_unit(Call &call) {
+cmd_result_t do_unit(CommandCall &call) {
     if (call.has("UNIT")) {
         Shell::instance().unit_set(call.number("UNIT"));
         return kOk;
@@ -171,18 +171,18 @@ cmd_result_t do_unit(Call &call) {
     return kOk;
 }
 
-cmd_result_t do_init(Call &call) { return report(call, soc_init(call.unit())); }
+cmd_result_t do_init(CommandCall &call) { return report(call, soc_init(call.unit())); }
 
-constexpr Column kCounterColumns[] = {{"port", "Port", CellKind::kNumber},
-                                      {"counter", "Counter", CellKind::kText},
-                                      {"value", ">Value", CellKind::kNumber}};
+constexpr RowColumn kCounterColumns[] = {{"port", "Port", CellKind::kNumber},
+                                         {"counter", "Counter", CellKind::kText},
+                                         {"value", ">Value", CellKind::kNumber}};
 
-cmd_result_t do_counters_clear(Call &call) {
+cmd_result_t do_counters_clear(CommandCall &call) {
     return for_ports(call.ports("PORTS"),
                      [&](int port) { return report(call, bcm_stat_clear(call.unit(), port)); });
 }
 
-cmd_result_t do_counters(Call &call) {
+cmd_result_t do_counters(CommandCall &call) {
     const PortNames names = unit_ports(call.unit());
     if (names.empty()) return refuse(call, "unit " + std::to_string(call.unit()) + " has no ports");
     static const NameFamily &counters = *new NameFamily("snmp");
@@ -204,15 +204,15 @@ cmd_result_t do_counters(Call &call) {
     return kOk;
 }
 
-constexpr Column kPhyColumns[] = {{"port", "Port", CellKind::kNumber},
-                                  {"phy", "PHY", CellKind::kText},
-                                  {"linkstatus", "Link", CellKind::kTruth}};
-constexpr Column kPhyRegisterColumns[] = {{"port", "Port", CellKind::kNumber},
-                                          {"register", "Register", CellKind::kNumber},
-                                          {"value", ">Value", CellKind::kNumber},
-                                          {"status", nullptr, CellKind::kText}};
+constexpr RowColumn kPhyColumns[] = {{"port", "Port", CellKind::kNumber},
+                                     {"phy", "PHY", CellKind::kText},
+                                     {"linkstatus", "Link", CellKind::kTruth}};
+constexpr RowColumn kPhyRegisterColumns[] = {{"port", "Port", CellKind::kNumber},
+                                             {"register", "Register", CellKind::kNumber},
+                                             {"value", ">Value", CellKind::kNumber},
+                                             {"status", nullptr, CellKind::kText}};
 
-cmd_result_t do_phy_register(Call &call) {
+cmd_result_t do_phy_register(CommandCall &call) {
     const PortNames names = unit_ports(call.unit());
     const auto reg = static_cast<uint32>(call["REGISTER"].number);
     const auto hex = [](uint32 value) { return text_of("0x%04x", value); };
@@ -239,7 +239,7 @@ cmd_result_t do_phy_register(Call &call) {
     return kOk;
 }
 
-cmd_result_t do_phy(Call &call) {
+cmd_result_t do_phy(CommandCall &call) {
     const PortNames names = unit_ports(call.unit());
     if (names.empty()) return refuse(call, "unit " + std::to_string(call.unit()) + " has no ports");
     if (call.has("REGISTER")) return do_phy_register(call);

@@ -39,7 +39,7 @@ struct Registers {
 };
 
 // Finds the registers that a call names; kOk, or what the command ends with.
-cmd_result_t find_registers(const Call &call, Registers &registers) {
+cmd_result_t find_registers(const CommandCall &call, Registers &registers) {
     const std::optional<RegisterRef> ref =
         read_register_ref(call.text("REGISTER"), unit_ports(call.unit()));
     if (!ref) return kUsage;
@@ -99,14 +99,14 @@ unsigned bits_of(const soc_regaddrinfo_t &at, bool by_address) {
     return by_address || layout == nullptr ? kWordBits : layout->bits;
 }
 
-constexpr Column kRegisterList[] = {{"name", "Name", CellKind::kText},
-                                    {"number", ">Number", CellKind::kNumber},
-                                    {"bytes", ">Bytes", CellKind::kNumber}};
-constexpr Column kMemoryList[] = {{"name", "Name", CellKind::kText},
-                                  {"number", ">Number", CellKind::kNumber},
-                                  {"block", "Block", CellKind::kText}};
+constexpr RowColumn kRegisterList[] = {{"name", "Name", CellKind::kText},
+                                       {"number", ">Number", CellKind::kNumber},
+                                       {"bytes", ">Bytes", CellKind::kNumber}};
+constexpr RowColumn kMemoryList[] = {{"name", "Name", CellKind::kText},
+                                     {"number", ">Number", CellKind::kNumber},
+                                     {"block", "Block", CellKind::kText}};
 
-cmd_result_t list(const Call &call, Identifier kind, std::span<const Column> columns,
+cmd_result_t list(const CommandCall &call, Identifier kind, std::span<const RowColumn> columns,
                   const std::function<Cell(int)> &detail) {
     const std::string pattern = call.text("PATTERN");
     Rows rows(columns);
@@ -118,21 +118,21 @@ cmd_result_t list(const Call &call, Identifier kind, std::span<const Column> col
     return kOk;
 }
 
-cmd_result_t do_listreg(Call &call) {
+cmd_result_t do_listreg(CommandCall &call) {
     return list(call, Identifier::kRegister, kRegisterList, [&](int reg) {
         const int bytes = soc_reg_bytes(call.unit(), reg);
         return cell(bytes, bytes);
     });
 }
 
-cmd_result_t do_listmem(Call &call) {
+cmd_result_t do_listmem(CommandCall &call) {
     return list(call, Identifier::kMemory, kMemoryList, [](int memory) {
         std::string name = identifier_text(Identifier::kMemory, memory);
         return Cell(name.substr(0, name.find('_')));
     });
 }
 
-constexpr Column kRegisterColumns[] = {
+constexpr RowColumn kRegisterColumns[] = {
     {"register", "Register", CellKind::kText}, {"address", "Address", CellKind::kNumber},
     {"field", "Field", CellKind::kText},       {"bits", "Bits", CellKind::kNumber},
     {"value", "Value", CellKind::kText},       {"line", nullptr, CellKind::kText}};
@@ -151,7 +151,7 @@ void add_fields(int unit, const soc_regaddrinfo_t &at, const std::string &name, 
     }
 }
 
-cmd_result_t do_getreg(Call &call) {
+cmd_result_t do_getreg(CommandCall &call) {
     Registers registers;
     const cmd_result_t result = find_registers(call, registers);
     if (result != kOk) return result;
@@ -173,7 +173,7 @@ cmd_result_t do_getreg(Call &call) {
     return kOk;
 }
 
-cmd_result_t do_setreg(Call &call) {
+cmd_result_t do_setreg(CommandCall &call) {
     Registers registers;
     const cmd_result_t result = find_registers(call, registers);
     if (result != kOk) return result;
@@ -188,7 +188,7 @@ cmd_result_t do_setreg(Call &call) {
     return kOk;
 }
 
-cmd_result_t do_modreg(Call &call) {
+cmd_result_t do_modreg(CommandCall &call) {
     Registers registers;
     const cmd_result_t result = find_registers(call, registers);
     if (result != kOk) return result;
@@ -214,11 +214,11 @@ cmd_result_t do_modreg(Call &call) {
     return kOk;
 }
 
-constexpr Column kEntryColumns[] = {{"memory", "Memory", CellKind::kText},
-                                    {"index", "Index", CellKind::kNumber},
-                                    {"value", "Value", CellKind::kText}};
+constexpr RowColumn kEntryColumns[] = {{"memory", "Memory", CellKind::kText},
+                                       {"index", "Index", CellKind::kNumber},
+                                       {"value", "Value", CellKind::kText}};
 
-cmd_result_t do_dump(Call &call) {
+cmd_result_t do_dump(CommandCall &call) {
     const std::optional<MemoryRef> ref = read_memory_ref(call.text("MEMORY"));
     if (!ref) return kUsage;
     const int first = call.number("INDEX");
@@ -239,7 +239,7 @@ cmd_result_t do_dump(Call &call) {
     return kOk;
 }
 
-cmd_result_t do_write(Call &call) {
+cmd_result_t do_write(CommandCall &call) {
     const std::optional<MemoryRef> ref = read_memory_ref(call.text("MEMORY"));
     if (!ref) return kUsage;
     std::array<uint32, kEntryWords> entry{};

@@ -113,10 +113,10 @@ cmd_result_t turn(int unit, const std::string &command, bool &go_on) {
     return result;
 }
 
-constexpr Column kHelpColumns[] = {{"command", "Command", CellKind::kText},
-                                   {"help", "What it does", CellKind::kText}};
+constexpr RowColumn kHelpColumns[] = {{"command", "Command", CellKind::kText},
+                                      {"help", "What it does", CellKind::kText}};
 
-cmd_result_t do_help(Call &call) {
+cmd_result_t do_help(CommandCall &call) {
     if (!call.has("COMMAND")) {
         Rows rows(kHelpColumns);
         for (const Command *command : all_commands()) rows.row({command->name, command->help});
@@ -141,12 +141,12 @@ cmd_result_t do_help(Call &call) {
     return found ? kOk : refuse(call, "no '" + wanted + "' of '" + command->name + '\'');
 }
 
-cmd_result_t do_version(Call &call) {
+cmd_result_t do_version(CommandCall &call) {
     sh_print_version(call.flag("verbose") ? 1 : 0);
     return kOk;
 }
 
-cmd_result_t do_echo(Call &call) {
+cmd_result_t do_echo(CommandCall &call) {
     std::string text;
     bool newline = true;
     bool first = true;
@@ -162,9 +162,9 @@ cmd_result_t do_echo(Call &call) {
     return kOk;
 }
 
-constexpr Column kSettingColumns[] = {{"setting", "Setting", CellKind::kText},
-                                      {"value", ">Value", CellKind::kNumber},
-                                      {"help", "Meaning", CellKind::kText}};
+constexpr RowColumn kSettingColumns[] = {{"setting", "Setting", CellKind::kText},
+                                         {"value", ">Value", CellKind::kNumber},
+                                         {"help", "Meaning", CellKind::kText}};
 
 std::vector<Candidate> list_knobs(int) {
     std::vector<Candidate> all;
@@ -172,7 +172,7 @@ std::vector<Candidate> list_knobs(int) {
     return all;
 }
 
-cmd_result_t do_set(Call &call) {
+cmd_result_t do_set(CommandCall &call) {
     if (!call.has("SETTING")) {
         Rows rows(kSettingColumns);
         for (const Knob &knob : kKnobs) rows.row({knob.name, *knob.value, knob.help});
@@ -202,22 +202,22 @@ cmd_result_t do_set(Call &call) {
     return kOk;
 }
 
-cmd_result_t do_setenv(Call &call) {
+cmd_result_t do_setenv(CommandCall &call) {
     std::string text;
     for (const Value *word : call.all("VALUE")) text += (text.empty() ? "" : " ") + word->text;
     Shell::instance().variable_set(call.text("NAME"), text);
     return kOk;
 }
 
-cmd_result_t do_unsetenv(Call &call) {
+cmd_result_t do_unsetenv(CommandCall &call) {
     bool was_there = Shell::instance().variable_remove(call.text("NAME"));
     return was_there ? kOk : refuse(call, "no variable '" + call.text("NAME") + '\'');
 }
 
-constexpr Column kVariableColumns[] = {{"name", "Name", CellKind::kText},
-                                       {"value", "Value", CellKind::kText}};
+constexpr RowColumn kVariableColumns[] = {{"name", "Name", CellKind::kText},
+                                          {"value", "Value", CellKind::kText}};
 
-cmd_result_t do_printenv(Call &call) {
+cmd_result_t do_printenv(CommandCall &call) {
     Rows rows(kVariableColumns, "{name}={value}");
     for (const auto &[name, value] : Shell::instance().variables())
         if (name_matches(name, call.text("PATTERN"))) rows.row({name, value});
@@ -225,7 +225,7 @@ cmd_result_t do_printenv(Call &call) {
     return kOk;
 }
 
-cmd_result_t do_if(Call &call) {
+cmd_result_t do_if(CommandCall &call) {
     std::vector<const Value *> words = call.all("CONDITION");
     const std::size_t size = words.size() > 1 && is_operator(words[1]->text) ? 3 : 1;
     if (words.size() != size + 1 && words.size() != size + 2) return kUsage;
@@ -242,7 +242,7 @@ cmd_result_t do_if(Call &call) {
     return commands.size() == 2 ? shell.run(call.unit(), commands[1]->text.c_str()) : kOk;
 }
 
-cmd_result_t do_for(Call &call) {
+cmd_result_t do_for(CommandCall &call) {
     std::string_view name;
     std::string_view list;
     const std::string head = call.text("NAME=LIST");
@@ -259,7 +259,7 @@ cmd_result_t do_for(Call &call) {
     return result;
 }
 
-cmd_result_t do_loop(Call &call) {
+cmd_result_t do_loop(CommandCall &call) {
     cmd_result_t result = kOk;
     bool go_on = true;
     for (std::int64_t at = 0; at < call["COUNT"].number && go_on; ++at)
@@ -268,7 +268,7 @@ cmd_result_t do_loop(Call &call) {
 }
 
 // Ends by an interrupt, or after `times`; without a terminal nobody would see the turns pass.
-cmd_result_t do_watch(Call &call) {
+cmd_result_t do_watch(CommandCall &call) {
     const bool terminal = out_screen().width > 0;
     if (!call.has("times") && !terminal)
         return refuse(call, "times=N is needed where there is no terminal");
@@ -284,14 +284,14 @@ cmd_result_t do_watch(Call &call) {
     return result;
 }
 
-cmd_result_t do_rcload(Call &call) {
+cmd_result_t do_rcload(CommandCall &call) {
     std::vector<std::string> words;
     for (const Value *word : call.all("WORDS")) words.push_back(word->text);
     return Shell::instance().run_file(call.unit(), call.text("FILE"), words, false);
 }
 
 // Reached only by what leads nowhere.
-cmd_result_t do_show(Call &call) {
+cmd_result_t do_show(CommandCall &call) {
     std::vector<std::string> topics;
     for (const Candidate &one : show_topics()) topics.push_back(one.word);
     const std::string word = call.text("TOPIC");
@@ -301,7 +301,7 @@ cmd_result_t do_show(Call &call) {
     return kUsage;
 }
 
-cmd_result_t do_exit(Call &) { return kExit; }
+cmd_result_t do_exit(CommandCall &) { return kExit; }
 
 constexpr Param kHelpParams[] = {
     place("COMMAND", Kind::kCommand, "The command"),

@@ -16,7 +16,7 @@
 namespace standin {
 namespace {
 
-bool picked(const bcm_l2_addr_t &row, const Call &call) {
+bool picked(const bcm_l2_addr_t &row, const CommandCall &call) {
     const bool trunk_row = (row.flags & kL2Trunk) != 0;
     const MacBytes &mac = call["mac"].mac;
     if (call.has("mac") && !std::equal(mac.begin(), mac.end(), row.mac)) return false;
@@ -34,7 +34,7 @@ int collect_row(int, bcm_l2_addr_t *row, void *user_data) {
 }
 
 // Fills in the rows that the options of a command pick.
-cmd_result_t pick_rows(const Call &call, std::vector<bcm_l2_addr_t> &rows) {
+cmd_result_t pick_rows(const CommandCall &call, std::vector<bcm_l2_addr_t> &rows) {
     const int status = bcm_l2_traverse(call.unit(), collect_row, &rows);
     std::erase_if(rows, [&](const bcm_l2_addr_t &row) { return !picked(row, call); });
     return report(call, status);
@@ -50,16 +50,16 @@ std::string count_text(std::size_t count) {
     return text_of("%zu address%s", count, count == 1 ? "" : "es");
 }
 
-constexpr Column kL2Columns[] = {{"mac", "MAC address", CellKind::kText},
-                                 {"vid", ">VLAN", CellKind::kNumber},
-                                 {"destination", "Destination", CellKind::kText},
-                                 {"kind", "Kind", CellKind::kText},
-                                 {"port", nullptr, CellKind::kNumber},
-                                 {"modid", nullptr, CellKind::kNumber},
-                                 {"tgid", nullptr, CellKind::kNumber},
-                                 {"flags", nullptr, CellKind::kNumber}};
+constexpr RowColumn kL2Columns[] = {{"mac", "MAC address", CellKind::kText},
+                                    {"vid", ">VLAN", CellKind::kNumber},
+                                    {"destination", "Destination", CellKind::kText},
+                                    {"kind", "Kind", CellKind::kText},
+                                    {"port", nullptr, CellKind::kNumber},
+                                    {"modid", nullptr, CellKind::kNumber},
+                                    {"tgid", nullptr, CellKind::kNumber},
+                                    {"flags", nullptr, CellKind::kNumber}};
 
-cmd_result_t l2_show(Call &call) {
+cmd_result_t l2_show(CommandCall &call) {
     std::vector<bcm_l2_addr_t> found;
     const cmd_result_t result = pick_rows(call, found);
     if (result != kOk) return result;
@@ -79,7 +79,7 @@ cmd_result_t l2_show(Call &call) {
     return kOk;
 }
 
-cmd_result_t l2_add(Call &call) {
+cmd_result_t l2_add(CommandCall &call) {
     MacBytes mac = call["mac"].mac;
     bcm_l2_addr_t row{};
     bcm_l2_addr_t_init(&row, mac.data(), static_cast<bcm_vlan_t>(call.number("vlan")));
@@ -93,14 +93,14 @@ cmd_result_t l2_add(Call &call) {
     return report(call, bcm_l2_addr_add(call.unit(), &row));
 }
 
-cmd_result_t l2_delete(Call &call) {
+cmd_result_t l2_delete(CommandCall &call) {
     MacBytes mac = call["mac"].mac;
     const auto vlan = static_cast<bcm_vlan_t>(call.number("vlan"));
     return report(call, bcm_l2_addr_delete(call.unit(), mac.data(), vlan));
 }
 
 // Rows go one by one, since several options may pick them together.
-cmd_result_t l2_clear(Call &call) {
+cmd_result_t l2_clear(CommandCall &call) {
     std::vector<bcm_l2_addr_t> rows;
     const cmd_result_t result = pick_rows(call, rows);
     int status = BCM_E_NONE;
@@ -109,19 +109,19 @@ cmd_result_t l2_clear(Call &call) {
     return result == kOk ? report(call, status) : result;
 }
 
-cmd_result_t l2_count(Call &call) {
+cmd_result_t l2_count(CommandCall &call) {
     std::vector<bcm_l2_addr_t> rows;
     const cmd_result_t result = pick_rows(call, rows);
     if (result == kOk) out(count_text(rows.size()) + '\n');
     return result;
 }
 
-constexpr Column kVlanColumns[] = {{"vlan_tag", ">VLAN", CellKind::kNumber},
-                                   {"stg", ">STG", CellKind::kNumber},
-                                   {"port_bitmap", "Ports", CellKind::kNumbers},
-                                   {"ut_port_bitmap", "Untagged", CellKind::kNumbers}};
+constexpr RowColumn kVlanColumns[] = {{"vlan_tag", ">VLAN", CellKind::kNumber},
+                                      {"stg", ">STG", CellKind::kNumber},
+                                      {"port_bitmap", "Ports", CellKind::kNumbers},
+                                      {"ut_port_bitmap", "Untagged", CellKind::kNumbers}};
 
-cmd_result_t vlan_show(Call &call) {
+cmd_result_t vlan_show(CommandCall &call) {
     bcm_vlan_data_t *list = nullptr;
     int count = 0;
     const int status = bcm_vlan_list(call.unit(), &list, &count);
@@ -143,33 +143,33 @@ cmd_result_t vlan_show(Call &call) {
     return kOk;
 }
 
-bcm_vlan_t vlan_of(const Call &call) { return static_cast<bcm_vlan_t>(call.number("VLAN")); }
+bcm_vlan_t vlan_of(const CommandCall &call) { return static_cast<bcm_vlan_t>(call.number("VLAN")); }
 
 // Untagged ports are members without being named twice.
-int add_ports(const Call &call) {
+int add_ports(const CommandCall &call) {
     const PortSet untagged = call.given_ports("untagged");
     const PortSet members = call.given_ports("ports") | untagged;
     return bcm_vlan_port_add(call.unit(), vlan_of(call), pbmp_of(members), pbmp_of(untagged));
 }
 
-cmd_result_t vlan_create(Call &call) {
+cmd_result_t vlan_create(CommandCall &call) {
     int status = bcm_vlan_create(call.unit(), vlan_of(call));
     if (status >= 0 && (call.has("ports") || call.has("untagged"))) status = add_ports(call);
     return report(call, status);
 }
 
-cmd_result_t vlan_destroy(Call &call) {
+cmd_result_t vlan_destroy(CommandCall &call) {
     return report(call, bcm_vlan_destroy(call.unit(), vlan_of(call)));
 }
 
-cmd_result_t vlan_add(Call &call) { return report(call, add_ports(call)); }
+cmd_result_t vlan_add(CommandCall &call) { return report(call, add_ports(call)); }
 
-cmd_result_t vlan_remove(Call &call) {
+cmd_result_t vlan_remove(CommandCall &call) {
     const bcm_pbmp_t ports = pbmp_of(call.given_ports("ports"));
     return report(call, bcm_vlan_port_remove(call.unit(), vlan_of(call), ports));
 }
 
-cmd_result_t vlan_default(Call &call) {
+cmd_result_t vlan_default(CommandCall &call) {
     return report(call, bcm_vlan_default_set(call.unit(), vlan_of(call)));
 }
 
@@ -203,11 +203,11 @@ Cell::Numbers vlans_of(int unit, int stg) {
     return numbers;
 }
 
-constexpr Column kStgColumns[] = {{"stg", ">STG", CellKind::kNumber},
-                                  {"vlans", "VLANs", CellKind::kNumbers},
-                                  {"ports", "Ports", CellKind::kText}};
+constexpr RowColumn kStgColumns[] = {{"stg", ">STG", CellKind::kNumber},
+                                     {"vlans", "VLANs", CellKind::kNumbers},
+                                     {"ports", "Ports", CellKind::kText}};
 
-cmd_result_t stg_show(Call &call) {
+cmd_result_t stg_show(CommandCall &call) {
     bcm_stg_t *list = nullptr;
     int count = 0;
     const int status = bcm_stg_list(call.unit(), &list, &count);
@@ -225,7 +225,7 @@ cmd_result_t stg_show(Call &call) {
     return kOk;
 }
 
-cmd_result_t stg_create(Call &call) {
+cmd_result_t stg_create(CommandCall &call) {
     if (call.has("STG")) return report(call, bcm_stg_create_id(call.unit(), call.number("STG")));
     bcm_stg_t stg = 0;
     const int status = bcm_stg_create(call.unit(), &stg);
@@ -233,23 +233,23 @@ cmd_result_t stg_create(Call &call) {
     return report(call, status);
 }
 
-cmd_result_t stg_destroy(Call &call) {
+cmd_result_t stg_destroy(CommandCall &call) {
     return report(call, bcm_stg_destroy(call.unit(), call.number("STG")));
 }
 
-cmd_result_t stg_add(Call &call) {
+cmd_result_t stg_add(CommandCall &call) {
     return report(call, bcm_stg_vlan_add(call.unit(), call.number("STG"), vlan_of(call)));
 }
 
-cmd_result_t stg_remove(Call &call) {
+cmd_result_t stg_remove(CommandCall &call) {
     return report(call, bcm_stg_vlan_remove(call.unit(), call.number("STG"), vlan_of(call)));
 }
 
-cmd_result_t stg_default(Call &call) {
+cmd_result_t stg_default(CommandCall &call) {
     return report(call, bcm_stg_default_set(call.unit(), call.number("STG")));
 }
 
-cmd_result_t stg_stp(Call &call) {
+cmd_result_t stg_stp(CommandCall &call) {
     return for_ports(call.ports("PORTS"), [&](int port) {
         return report(call,
                       bcm_stg_stp_set(call.unit(), call.number("STG"), port, call.number("STATE")));

@@ -12,11 +12,11 @@
 namespace standin {
 namespace {
 
-constexpr Column kConfigColumns[] = {{"name", nullptr, CellKind::kText},
-                                     {"value", nullptr, CellKind::kText},
-                                     {"setting", "Setting", CellKind::kText}};
+constexpr RowColumn kConfigColumns[] = {{"name", nullptr, CellKind::kText},
+                                        {"value", nullptr, CellKind::kText},
+                                        {"setting", "Setting", CellKind::kText}};
 
-cmd_result_t config_show(Call &call) {
+cmd_result_t config_show(CommandCall &call) {
     Rows rows(kConfigColumns, "{setting}");
     for (const ConfigEntry &entry : config_entries()) {
         if (!name_matches(entry.name, call.text("PATTERN"))) continue;
@@ -28,14 +28,14 @@ cmd_result_t config_show(Call &call) {
     return kOk;
 }
 
-cmd_result_t config_get_one(Call &call) {
+cmd_result_t config_get_one(CommandCall &call) {
     const std::optional<std::string> value = config_get(call.text("NAME"));
     if (!value) return refuse(call, "no setting '" + call.text("NAME") + '\'');
     out(*value + '\n');
     return kOk;
 }
 
-cmd_result_t config_change(Call &call) {
+cmd_result_t config_change(CommandCall &call) {
     std::vector<std::pair<std::string, std::string>> settings;
     for (const Value *word : call.all("NAME=VALUE")) {
         std::string_view name;
@@ -50,21 +50,21 @@ cmd_result_t config_change(Call &call) {
     return kOk;
 }
 
-cmd_result_t config_delete(Call &call) {
+cmd_result_t config_delete(CommandCall &call) {
     for (const Value *word : call.all("NAME"))
         if (!config_get(word->text)) return refuse(call, "no setting '" + word->text + '\'');
     for (const Value *word : call.all("NAME")) config_remove(word->text);
     return kOk;
 }
 
-cmd_result_t config_write(Call &call) {
+cmd_result_t config_write(CommandCall &call) {
     const std::string file = call.has("file") ? call.text("file") : config_files().file;
     return report(call, config_save(file, call.text("pattern"), call.flag("append")));
 }
 
 // Without a file the store takes what the configuration file says, and nothing else. Lines that
 // could not be read are told here too: whoever loads a file may not see the log.
-cmd_result_t config_read(Call &call) {
+cmd_result_t config_read(CommandCall &call) {
     const std::string file = call.has("FILE") ? call.text("FILE") : config_files().file;
     std::string text;
     ConfigText read;
@@ -75,21 +75,21 @@ cmd_result_t config_read(Call &call) {
     return report(call, status);
 }
 
-cmd_result_t config_empty(Call &) {
+cmd_result_t config_empty(CommandCall &) {
     config_clear();
     return kOk;
 }
 
-cmd_result_t config_table(Call &) {
+cmd_result_t config_table(CommandCall &) {
     sal_config_dump();
     return kOk;
 }
 
-constexpr Column kTraceColumns[] = {{"layer", "Layer", CellKind::kText},
-                                    {"source", "Source", CellKind::kText},
-                                    {"level", "Level", CellKind::kText}};
+constexpr RowColumn kTraceColumns[] = {{"layer", "Layer", CellKind::kText},
+                                       {"source", "Source", CellKind::kText},
+                                       {"level", "Level", CellKind::kText}};
 
-cmd_result_t trace_show(Call &) {
+cmd_result_t trace_show(CommandCall &) {
     Rows rows(kTraceColumns);
     for (int layer = 0; layer < kLayers; ++layer) {
         for (int source = 0; source < kSources; ++source) {
@@ -127,7 +127,7 @@ std::vector<Candidate> list_sources(int) {
 std::vector<Candidate> list_severities(int) { return list_names(kSeverities, severity_name); }
 
 // '*' for every layer or source.
-cmd_result_t trace_level(Call &call) {
+cmd_result_t trace_level(CommandCall &call) {
     const auto number = [](const std::string &word, std::optional<int> (*of)(std::string_view)) {
         return word == "*" ? std::optional(kEvery) : of(word);
     };
@@ -147,35 +147,35 @@ cmd_result_t trace_level(Call &call) {
     return kOk;
 }
 
-cmd_result_t trace_capture_flip(Call &call) {
+cmd_result_t trace_capture_flip(CommandCall &call) {
     trace_capture_set(call.flag("ON"));
     return kOk;
 }
 
-cmd_result_t trace_log_flip(Call &call) {
+cmd_result_t trace_log_flip(CommandCall &call) {
     trace_to_log_set(call.flag("ON"));
     return kOk;
 }
 
-cmd_result_t trace_bus_flip(Call &call) {
+cmd_result_t trace_bus_flip(CommandCall &call) {
     bde_trace_set(call.flag("ON"), {});
     return kOk;
 }
 
-cmd_result_t trace_print(Call &) {
+cmd_result_t trace_print(CommandCall &) {
     out(trace_text());
     return kOk;
 }
 
-cmd_result_t pw_start(Call &call) {
+cmd_result_t pw_start(CommandCall &call) {
     if (sh_check_attached("pw start", call.unit()) != BCM_E_NONE) return kFail;
     Shell::instance().watching_set(call.unit(), true);
     return kOk;
 }
 
-cmd_result_t pw_end(Call &call) { return pw_stop(call.unit(), 1); }
+cmd_result_t pw_end(CommandCall &call) { return pw_stop(call.unit(), 1); }
 
-cmd_result_t pw_show(Call &call) {
+cmd_result_t pw_show(CommandCall &call) {
     outf("the packet watcher of unit %d is %s\n", call.unit(),
          pw_running(call.unit()) != 0 ? "on" : "off");
     return kOk;

@@ -58,7 +58,7 @@ void add_matching(std::vector<Candidate> &all, std::string_view begun, std::stri
 
 // Behind `|` or `>`.
 void complete_pipe(const Words &words, std::size_t from, std::string_view begun,
-                   std::span<const Column> columns, Completion &made) {
+                   std::span<const RowColumn> columns, Completion &made) {
     std::size_t sign = words.words.size();
     while (sign > from && !(words.places[sign - 1].plain &&
                             (words.words[sign - 1] == "|" || words.words[sign - 1].front() == '>')))
@@ -77,7 +77,7 @@ void complete_pipe(const Words &words, std::size_t from, std::string_view begun,
     if (filter != "columns" && filter != "sort") return;
     const std::size_t comma = begun.rfind(',');
     const std::string head(begun.substr(0, comma == std::string_view::npos ? 0 : comma + 1));
-    for (const Column &column : columns) {
+    for (const RowColumn &column : columns) {
         std::string_view heading = view_of(column.heading);
         if (heading.starts_with('>')) heading.remove_prefix(1);
         add_matching(made.candidates, begun, head + column.key, std::string(heading));
@@ -128,9 +128,9 @@ void complete_command(std::string_view text, std::string_view begun, int unit, C
         }
     }
     if (pipe.words < words.words.size()) {
-        complete_pipe(words, pipe.words, begun,
-                      match.form() == nullptr ? std::span<const Column>() : match.form()->columns,
-                      made);
+        complete_pipe(
+            words, pipe.words, begun,
+            match.form() == nullptr ? std::span<const RowColumn>() : match.form()->columns, made);
         return;
     }
     if (match.fault()) {
@@ -187,8 +187,8 @@ std::string common_end(const Completion &completion, std::string_view line) {
 
 std::string completion_text(const Completion &completion, int width) {
     constexpr std::size_t kMost = 200;
-    static constexpr Column kColumns[] = {{"word", "", CellKind::kText},
-                                          {"help", "", CellKind::kText}};
+    static constexpr RowColumn kColumns[] = {{"word", "", CellKind::kText},
+                                             {"help", "", CellKind::kText}};
     if (!completion.fault.empty()) return completion.fault + '\n';
     Rows rows(kColumns);
     std::string advice;

@@ -19,7 +19,7 @@
 
 namespace standin {
 
-class Call;
+class CommandCall;
 
 // What a word can be. values.cpp has a row for each: how it is read, what is right, what there is.
 enum class Kind : std::uint8_t {
@@ -124,15 +124,15 @@ constexpr Param option(const char *name, std::span<const char *const> words, con
     return one;
 }
 
-using Handler = cmd_result_t (*)(Call &call);
+using CommandHandler = cmd_result_t (*)(CommandCall &call);
 
 struct Form {
     const char *name;  // "create", "entry create"; "" for the command alone
     const char *help;
     const char *example;
-    Handler run;
+    CommandHandler run;
     std::span<const Param> params{};
-    std::span<const Column> columns{};  // of the table that it shows
+    std::span<const RowColumn> columns{};  // of the table that it shows
 };
 
 struct Command {

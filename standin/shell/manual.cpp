@@ -19,9 +19,9 @@ std::string what_of(const Param &param) {
     return right_there(param);
 }
 
-std::string join_keys(std::span<const Column> columns) {
+std::string join_keys(std::span<const RowColumn> columns) {
     std::string keys;
-    for (const Column &column : columns)
+    for (const RowColumn &column : columns)
         keys += (keys.empty() ? "`" : ", `") + std::string(column.key) + '`';
     return keys;
 }
@@ -74,10 +74,10 @@ std::string usage_of(const Command &command, const Form &form) {
 }
 
 std::string help_of(const Command &command, const Form &form) {
-    static constexpr Column kColumns[] = {{"word", "Word", CellKind::kText},
-                                          {"help", "What it is", CellKind::kText},
-                                          {"values", "What may stand there", CellKind::kText},
-                                          {"example", "Example", CellKind::kText}};
+    static constexpr RowColumn kColumns[] = {{"word", "Word", CellKind::kText},
+                                             {"help", "What it is", CellKind::kText},
+                                             {"values", "What may stand there", CellKind::kText},
+                                             {"example", "Example", CellKind::kText}};
     std::string text = std::string(form.help) + "\nusage: " + usage_of(command, form) +
                        "\nexample: " + form.example + '\n';
     if (form.params.empty()) return text;
@@ -92,8 +92,8 @@ std::string help_of(const Command &command) {
         std::string text = help_of(command, command.forms.front());
         return command.more == nullptr ? text : text + command.more + '\n';
     }
-    static constexpr Column kColumns[] = {{"form", "Form", CellKind::kText},
-                                          {"help", "What it does", CellKind::kText}};
+    static constexpr RowColumn kColumns[] = {{"form", "Form", CellKind::kText},
+                                             {"help", "What it does", CellKind::kText}};
     Rows rows(kColumns);
     for (const Form &form : command.forms) rows.row({usage_of(command, form), form.help});
     std::string text = std::string(command.help) + '\n' + rows.text(out_screen().width);

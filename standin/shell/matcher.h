@@ -32,7 +32,7 @@ class Match {
     const std::optional<MatchFault> &fault() const { return fault_; }
     // The fault of the whole command, to which nothing is added any more.
     const std::optional<MatchFault> &whole();
-    Call &call() { return *call_; }
+    CommandCall &call() { return *call_; }
 
     // What may stand behind all of these words; without a fault only.
     std::vector<Candidate> next(std::string_view begun) const;
@@ -62,7 +62,7 @@ class Match {
     std::size_t topic_ = 0;  // how many words chose the form
     const Command *command_ = nullptr;
     const Form *form_ = nullptr;
-    std::optional<Call> call_;
+    std::optional<CommandCall> call_;
     std::vector<const Param *> given_;
     std::optional<std::size_t> rest_from_;
     std::optional<MatchFault> fault_;

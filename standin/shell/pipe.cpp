@@ -22,7 +22,7 @@ constexpr Filter kFilters[] = {
     {"json", nullptr, "A list of objects, for programs", "l2 | json"},
     {"sort", "KEY", "Rows by a column, '-' before it for the greatest first", "ps | sort -speed"},
 };
-constexpr Column kLines[] = {{"line", "Line", CellKind::kText}};
+constexpr RowColumn kLines[] = {{"line", "Line", CellKind::kText}};
 
 Rows table_of_lines(std::string_view text) {
     Rows lines(kLines, "{line}");
@@ -62,7 +62,7 @@ struct Flow {
 
 std::string keys_of(const Rows &rows) {
     std::vector<std::string> keys;
-    for (const Column &column : rows.columns()) keys.emplace_back(column.key);
+    for (const RowColumn &column : rows.columns()) keys.emplace_back(column.key);
     return list_text(keys);
 }
 
@@ -107,7 +107,7 @@ bool store(const Pipe &pipe, const std::string &text) {
     std::string before;
     if (pipe.append) read_file(pipe.file, before);
     if (write_file(pipe.file, {}, before + text)) return true;
-    out_fault("> " + pipe.file + ": " + std::strerror(errno));
+    out_fault(pipe.file + ": " + std::strerror(errno));
     return false;
 }
 
@@ -130,7 +130,7 @@ Pipe read_pipe(const Words &words, bool compares, bool prefix) {
         const bool file = is_file(at);
         pipe.append = is(at, ">>");
         if (++at == words.words.size()) {
-            pipe.fault = file ? "> needs a file" : "| needs a filter";
+            pipe.fault = file ? "'>' needs a file" : "| needs a filter";
             return pipe;
         }
         const std::string &word = words.words[at++];

@@ -12,8 +12,8 @@ namespace standin {
 
 struct Context {
     int unit = 0;
-    bool prompt = false;         // a person types: unique prefixes count
-    const Call *call = nullptr;  // what has been read before
+    bool prompt = false;                // a person types: unique prefixes count
+    const CommandCall *call = nullptr;  // what has been read before
 };
 
 struct ValueFault {

@@ -97,9 +97,9 @@ void sal_config_show(void) {
 }
 
 void sal_config_dump(void) {
-    static constexpr Column kColumns[] = {{"name", "Name", CellKind::kText},
-                                          {"value", "Value", CellKind::kText},
-                                          {"line", ">Line", CellKind::kNumber}};
+    static constexpr RowColumn kColumns[] = {{"name", "Name", CellKind::kText},
+                                             {"value", "Value", CellKind::kText},
+                                             {"line", ">Line", CellKind::kNumber}};
     Rows rows(kColumns);
     for (const ConfigEntry &entry : config_entries())
         rows.row({entry.name, entry.value, entry.line > 0 ? Cell(entry.line) : Cell()});

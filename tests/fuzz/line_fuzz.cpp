@@ -10,8 +10,8 @@ using namespace standin;
 
 namespace {
 
-constexpr Column kColumns[] = {{"number", ">Number", CellKind::kNumber},
-                               {"text", "Text", CellKind::kText}};
+constexpr RowColumn kColumns[] = {{"number", ">Number", CellKind::kNumber},
+                                  {"text", "Text", CellKind::kText}};
 
 void complete(std::string_view line) {
     const Completion made = complete_line(line, 0);

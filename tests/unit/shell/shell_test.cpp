@@ -141,7 +141,7 @@ TEST_F(ShellTest, EveryFormTakesItsExampleAndEveryTableIsJson) {
                 for (const auto &[key, value] : row.items()) {
                     const auto column =
                         std::find_if(form.columns.begin(), form.columns.end(),
-                                     [&](const Column &one) { return key == one.key; });
+                                     [&](const RowColumn &one) { return key == one.key; });
                     if (column == form.columns.end() || value.is_null()) continue;
                     const bool kinds[] = {value.is_number(), value.is_string(), value.is_boolean(),
                                           value.is_array()};
@@ -185,8 +185,8 @@ TEST_F(ShellTest, HistoryIsKeptAndPutIn) {
 
 TEST(Rows, WidthsAreThoseOfTheTerminal) {
     EXPECT_EQ(text_width("a\u00e4\u4e2d\u0065\u0301\xff"), 6u);
-    static constexpr Column kColumns[] = {{"a", "A", CellKind::kText},
-                                          {"b", ">B", CellKind::kNumber}};
+    static constexpr RowColumn kColumns[] = {{"a", "A", CellKind::kText},
+                                             {"b", ">B", CellKind::kNumber}};
     Rows rows(kColumns);
     rows.row({"\u4e2d\u4e2d\u4e2d\u4e2d\u4e2d", 1});
     rows.row({"b\n", 20});
