@@ -96,6 +96,7 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
         {"rows_helpers.cpp", emit_helpers},
         {"constant_names.cpp", emit_constant_names},
         {"standin_calls.txt", emit_standin_calls},
+        {"standin_layouts.cpp", emit_layouts},
         {"standin_required.txt", emit_standin_required},
         {"_OmbraSdkV2Classes.py", emit_proxy},
         {"_OmbraSdkV2Manual.py", emit_manual},

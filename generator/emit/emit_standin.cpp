@@ -319,17 +319,6 @@ std::string proofs_of(const Shapes &shapes, const Function &function, const Plan
     return text;
 }
 
-// "port", or "map.gport" for a field behind an address.
-std::string bound_name(const Shapes &shapes, const Function &function, const PlanBinding &binding) {
-    const Variable &parameter = function.parameters[binding.argument];
-    const Shape shape = shapes.of(parameter);
-    std::string name = name_of(parameter, binding.argument);
-    if (shape.record == nullptr || binding.size == shape.size) return name;
-    for (const auto &field : shape.record->fields)
-        if (field.offset == binding.at) return name + "." + field.name;
-    return name;
-}
-
 GeneratedAnswer answer_by_rule(const Shapes &shapes, const Function &function, const Plan &plan) {
     GeneratedAnswer answer{plan.layer, plan.family, "", ""};
     for (const auto &binding : plan.bindings) {

@@ -35,6 +35,9 @@ struct GeneratedAnswer {
 // REQUIRES: the function is one of the model's.
 GeneratedAnswer generated_answer(const Model &model, const Function &function);
 
+// How structures and rows of generic tables lie in memory, for the stand-in.
+std::string emit_layouts(const Model &model);
+
 // A row's whole way, for people: from its declaration to who answers it. Empty for an unknown name.
 std::string explain(const Model &model, const std::string &name);
 // The rows whose names are nearest, nearest first.

@@ -226,4 +226,15 @@ const std::vector<Plan> &plans_of(const Model &model) {
     return plans;
 }
 
+std::string bound_name(const Shapes &shapes, const Function &function, const PlanBinding &binding) {
+    const Variable &parameter = function.parameters[binding.argument];
+    const Shape shape = shapes.of(parameter);
+    std::string name =
+        parameter.name.empty() ? "arg" + std::to_string(binding.argument + 1) : parameter.name;
+    if (shape.record == nullptr || binding.size == shape.size) return name;
+    for (const auto &field : shape.record->fields)
+        if (field.offset == binding.at) return name + "." + field.name;
+    return name;
+}
+
 }  // namespace generator

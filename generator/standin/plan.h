@@ -107,6 +107,10 @@ void plan_references(const Model &model, const Shapes &shapes, std::vector<Plan>
 // is resolved; all callers share the plans.
 const std::vector<Plan> &plans_of(const Model &model);
 
+// What the rows of a family call what a binding puts there: "port", or "map.gport" for a field
+// behind an address.
+std::string bound_name(const Shapes &shapes, const Function &function, const PlanBinding &binding);
+
 // Looks at the stand-in's table: its words, the fields that it names, and that each line is needed.
 void check_standin(const Model &model, Faults &faults);
 

@@ -186,4 +186,21 @@ std::string decimal_text(std::uint64_t number, bool comma) {
     return out;
 }
 
+std::string hex_text(const void *bytes, std::size_t size) {
+    constexpr const char *kDigits = "0123456789abcdef";
+    std::string text;
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto byte = static_cast<const unsigned char *>(bytes)[i];
+        text += kDigits[byte >> 4];
+        text += kDigits[byte & 0xf];
+    }
+    return text;
+}
+
+std::string mac_text(const std::uint8_t *mac) {
+    std::string text;
+    for (int i = 0; i < 6; ++i) text += (i == 0 ? "" : ":") + hex_text(mac + i, 1);
+    return text;
+}
+
 }  // namespace standin

@@ -7,6 +7,7 @@
 // and a '-' or '+' before it where the parser says so. A leading 0 does not mean octal.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -44,5 +45,11 @@ std::string spec_words_text(std::span<const std::uint32_t> words);
 
 // Decimal digits, with a ',' between groups of three or without; at most 26 characters.
 std::string decimal_text(std::uint64_t number, bool comma);
+
+// "0a0b": two digits a byte.
+std::string hex_text(const void *bytes, std::size_t size);
+
+// "02:00:00:00:00:0a"
+std::string mac_text(const std::uint8_t *bytes);
 
 }  // namespace standin

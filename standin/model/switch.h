@@ -18,10 +18,8 @@
 
 namespace standin {
 
-struct Switch {
-    Switch() { link_first_day(*this); }
-
-    int unit = -1;
+// What is saved and loaded (state.h).
+struct SwitchState {
     Ports ports;
     Vlans vlans;
     L2Chapter l2;
@@ -31,11 +29,17 @@ struct Switch {
     GenericTables generic;  // of the calls that have no model of their own
     GenericIndex row_index;
     Slots layers;
-    Events events;
     Linkscan linkscan;
     std::uint64_t now = 0;  // microseconds that have passed
     References references;
     std::set<std::string> stopped;  // chapters after their `_detach`, as "bcm_l2_"
+};
+
+struct Switch : SwitchState {
+    Switch() { link_first_day(*this); }
+
+    int unit = -1;
+    Events events;
 };
 
 template <class T>

@@ -90,6 +90,9 @@ struct Phys {
     int divisor = 128;
 };
 
+void visit_state(const Phys &phys, StateVisitor &to);
+void keep_state(Phys &copy, const Phys &present);  // the callbacks
+
 // A PHY, while the model's lock is held.
 struct PhyView {
     int number;  // of its port

@@ -47,6 +47,8 @@ struct RegisterFile {
     SyncRecord last_sync;
 };
 
+void visit_state(const RegisterFile &file, StateVisitor &to);
+
 struct RegisterSnoop {
     soc_reg_snoop_cb_t call = nullptr;
     void *user = nullptr;

@@ -87,11 +87,6 @@ std::optional<MacBytes> read_mac(std::string_view text) {
     return bytes;
 }
 
-std::string mac_text(const std::uint8_t *bytes) {
-    return text_of("%02x:%02x:%02x:%02x:%02x:%02x", bytes[0], bytes[1], bytes[2], bytes[3],
-                   bytes[4], bytes[5]);
-}
-
 std::string gport_text(std::int32_t gport) {
     if (gport == kBlackHole) return "blackhole";
     for (const auto &[word, type] : kGportTypes)

@@ -9,6 +9,8 @@
 
 #include "standin/text/port_text.h"
 
+#include "standin/base/number_text.h"
+
 namespace standin {
 
 using MacBytes = std::array<std::uint8_t, 6>;
@@ -23,8 +25,6 @@ std::string ip_mask_text(std::uint32_t address, std::uint32_t mask);
 
 // Six bytes of one or two hexadecimal digits, joined by ':' or '-'.
 std::optional<MacBytes> read_mac(std::string_view text);
-// "02:00:00:00:00:0a"
-std::string mac_text(const std::uint8_t *bytes);
 
 // A global port number: "local.5", "trunk.7", "blackhole", "sysport.300", else "0x18000003".
 // read_gport reads these, any number, and the names of ports, which stand for local ports.
