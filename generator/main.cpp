@@ -96,6 +96,8 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
         {"rows_helpers.cpp", emit_helpers},
         {"constant_names.cpp", emit_constant_names},
         {"standin_calls.txt", emit_standin_calls},
+        {"standin_gate_names.h", emit_gate_names},
+        {"standin_gates.cpp", emit_gate_table},
         {"standin_layouts.cpp", emit_layouts},
         {"standin_required.txt", emit_standin_required},
         {"_OmbraSdkV2Classes.py", emit_proxy},
@@ -115,6 +117,8 @@ std::vector<std::pair<std::string, Emitter>> outputs(const Model &model) {
             list.emplace_back(recording_file(header), [header](const Model &whole) {
                 return emit_recording(whole, header);
             });
+            list.emplace_back(gates_file(header),
+                              [header](const Model &whole) { return emit_gates(whole, header); });
             list.emplace_back(standin_file(header),
                               [header](const Model &whole) { return emit_standin(whole, header); });
         }

@@ -403,7 +403,7 @@ std::string emit_standin_required(const Model &model) {
     std::string text;
     for (const auto &function : model.functions)
         if (!function.modelled.file.empty() && !function.place.file.ends_with("_cxx.h"))
-            text += "--require-defined=" + function.native + "\n";
+            text += "--require-defined=real_" + function.native + "\n";
     return text;
 }
 

@@ -35,6 +35,12 @@ struct GeneratedAnswer {
 // REQUIRES: the function is one of the model's.
 GeneratedAnswer generated_answer(const Model &model, const Function &function);
 
+// The gates of a header's functions, the names behind them, and the table of all functions.
+std::string emit_gates(const Model &model, const std::string &header);
+std::string emit_gate_names(const Model &model);
+std::string emit_gate_table(const Model &model);
+std::string gates_file(const std::string &header);  // "gates_sdk_bcm_l2.cpp"
+
 // How structures and rows of generic tables lie in memory, for the stand-in.
 std::string emit_layouts(const Model &model);
 

@@ -29,7 +29,7 @@ struct Setting {
 struct Store {
     std::shared_mutex lock;
     std::map<std::string, Setting, std::less<>> settings;
-    std::atomic<std::uint64_t> generation{1};
+    std::atomic<bool> has_faults{false};
     ConfigFiles files{std::string(kConfigFile), {}};
 };
 
@@ -37,6 +37,20 @@ struct Store {
 Store &store() {
     static Store &the_store = *new Store;
     return the_store;
+}
+
+// After each change. REQUIRES: the lock is held.
+void touch(Store &all) {
+    constexpr std::string_view kFault = "fault.";
+    const auto first = all.settings.lower_bound(kFault);
+    all.has_faults = first != all.settings.end() && first->first.starts_with(kFault);
+    set_gates();
+}
+
+void put(Store &all, std::string_view name, std::string_view value) {
+    const std::unique_lock hold(all.lock);
+    all.settings.insert_or_assign(std::string(name), Setting{std::string(value), 0});
+    touch(all);
 }
 
 struct Default {
@@ -77,16 +91,14 @@ std::optional<std::string> config_get(std::string_view name) {
     return found->second.value;
 }
 
-std::uint64_t config_generation() { return store().generation.load(std::memory_order_acquire); }
-
 bool config_setting_ok(std::string_view name, std::string_view value, std::string &fault) {
-    std::optional<std::string> word = fault_misread(name, value);
+    std::optional<std::string> misread = fault_misread(name, value);
     if (!config_name_ok(name))
         fault = "bad name '" + std::string(name) + '\'';
     else if (value.find('\0') != std::string_view::npos)
         fault = "a zero byte";
-    else if (word)
-        fault = "no fault is '" + *word + '\'';
+    else if (misread)
+        fault = *misread;
     else
         return true;
     return false;
@@ -95,12 +107,14 @@ bool config_setting_ok(std::string_view name, std::string_view value, std::strin
 bool config_set(std::string_view name, std::string_view value) {
     std::string fault;
     if (!config_setting_ok(name, value, fault)) return false;
-    Store &all = store();
-    std::unique_lock hold(all.lock);
-    all.settings.insert_or_assign(std::string(name), Setting{std::string(value), 0});
-    ++all.generation;
+    put(store(), name, value);
+    note_fault(name, value);
     return true;
 }
+
+void config_count(std::string_view name, std::string_view value) { put(store(), name, value); }
+
+bool config_has_faults() { return store().has_faults.load(std::memory_order_acquire); }
 
 bool config_remove(std::string_view name) {
     Store &all = store();
@@ -108,7 +122,7 @@ bool config_remove(std::string_view name) {
     auto found = all.settings.find(name);
     if (found == all.settings.end()) return false;
     all.settings.erase(found);
-    ++all.generation;
+    touch(all);
     return true;
 }
 
@@ -116,7 +130,7 @@ void config_clear() {
     Store &all = store();
     std::unique_lock hold(all.lock);
     all.settings.clear();
-    ++all.generation;
+    touch(all);
 }
 
 std::vector<ConfigEntry> config_entries(std::string_view pattern) {
@@ -141,7 +155,7 @@ void config_load_defaults() {
     std::unique_lock hold(all.lock);
     for (const Default &entry : kDefaults)
         all.settings.try_emplace(std::string(entry.name), Setting{std::string(entry.value), 0});
-    ++all.generation;
+    touch(all);
 }
 
 int config_load(const std::string &path, bool replace) {
@@ -164,8 +178,9 @@ int config_load(const std::string &path, bool replace) {
         if (replace) all.settings.clear();
         for (ConfigEntry &entry : parsed.entries)
             all.settings.insert_or_assign(entry.name, Setting{entry.value, entry.line});
-        ++all.generation;
+        touch(all);
     }
+    for (const ConfigEntry &entry : parsed.entries) note_fault(entry.name, entry.value);
     for (const ConfigFault &fault : parsed.faults) report(path, fault.line, fault.text);
     return parsed.faults.empty() ? BCM_E_NONE : BCM_E_CONFIG;
 }

@@ -26,15 +26,17 @@ inline constexpr std::string_view kConfigFile = "config.ombra";  // until anothe
 // The value of `name`, or nothing. An empty value is a value.
 std::optional<std::string> config_get(std::string_view name);
 
-// Grows with every change of any setting, so that a reader can keep what it has worked out.
-std::uint64_t config_generation();
-
-// Whether a setting can be; else `fault` says why: its name, a zero byte, or a fault with a word
-// that is not understood.
+// Whether a setting can be; else `fault` says why: its name, a zero byte, or a fault that means
+// nothing (faults.h).
 bool config_setting_ok(std::string_view name, std::string_view value, std::string &fault);
 
 // Sets `name`; false, and no change, where config_setting_ok says so.
 bool config_set(std::string_view name, std::string_view value);
+
+// For a fault that counts down: the setting is that of before, with other numbers.
+void config_count(std::string_view name, std::string_view value);
+// Whether a setting of a fault is there.
+bool config_has_faults();
 
 // False when there was no such setting.
 bool config_remove(std::string_view name);

@@ -72,7 +72,7 @@ int settle_destination(bcm_l2_addr_t &entry) {
 
 int walk_l2(const char *function, int unit, const L2Match &match,
             const std::function<int(bcm_l2_addr_t &)> &visit) {
-    if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;
+    if (const int fault = fault_check(function, unit); fault != BCM_E_NONE) return fault;
     L2Table::Cursor cursor;
     for (;;) {
         bcm_l2_addr_t entry;
@@ -87,7 +87,9 @@ int walk_l2(const char *function, int unit, const L2Match &match,
             if (row == nullptr) return BCM_E_NONE;
             entry = row->entry;
         }
-        if (const int answer = visit(entry); answer < 0) return answer;
+        int answer = callback_fault_check(function, unit);
+        if (answer == 0) answer = visit(entry);
+        if (answer < 0) return answer;
     }
 }
 

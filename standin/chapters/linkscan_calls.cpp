@@ -1,5 +1,6 @@
 // The calls of the link scanning chapter, and the scans.
 #include "sdk/bcm/linkscan.h"
+#include "sdk/bcm/port.h"
 
 #include "standin/base/output.h"
 #include "standin/chapters/linkscan.h"

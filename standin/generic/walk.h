@@ -8,6 +8,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "standin/base/faults.h"
 #include "standin/generic/call.h"
 
 namespace standin {
@@ -62,7 +63,9 @@ int walk(const Call &call, const Column (&columns)[kColumns], int unit,
     for (const std::string &row : rows) {
         CallbackArguments source(row, columns, kColumns, user);
         std::tuple<A...> values{source.template next<A>()...};
-        const int result = std::apply([&](A... value) { return visit(unit, value...); }, values);
+        int result = callback_fault_check(call.name, unit);
+        if (result == 0)
+            result = std::apply([&](A... value) { return visit(unit, value...); }, values);
         if (result < 0) return result;
     }
     return 0;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "sdk/constants.h"
+#include "standin/base/faults.h"
 #include "standin/model/device_table.h"
 #include "standin/model/model.h"
 
@@ -82,7 +83,8 @@ void Events::raise(Registration row, Tell tell) {
         std::uint64_t at = 0;
         while (const auto next = next_handler(unit, row, at, last)) {
             at = next->number;
-            tell(unit, *next);
+            const char *const function = registrations()[static_cast<std::size_t>(row)].function;
+            if (callback_fault_check(function, unit) == 0) tell(unit, *next);
         }
     });
 }

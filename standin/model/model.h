@@ -27,7 +27,7 @@ int unit_status(int unit);
 // Answers the call `function` on `unit` with `body(Switch&)`, which returns a status.
 template <class Body>
 int on_switch(const char *function, int unit, Body &&body) {
-    if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;
+    if (const int fault = fault_check(function, unit); fault != BCM_E_NONE) return fault;
     std::unique_lock<std::mutex> guard(model_lock());
     const CallRecord record(function, unit);
     int status = BCM_E_NONE;

@@ -97,7 +97,7 @@ typename Map::mapped_type *new_entry(Map &map, const Numbering<typename Map::key
 template <class Table, class Visit>
 int walk(const char *function, int unit, Table &&table, Visit &&visit) {
     using Map = std::remove_reference_t<decltype(table(std::declval<Switch &>()))>;
-    if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;
+    if (const int fault = fault_check(function, unit); fault != BCM_E_NONE) return fault;
     std::optional<typename Map::key_type> last;
     for (;;) {
         std::optional<std::pair<typename Map::key_type, typename Map::mapped_type>> at;
@@ -113,7 +113,9 @@ int walk(const char *function, int unit, Table &&table, Visit &&visit) {
             at.emplace(*next);
         }
         last = at->first;
-        if (const int answer = visit(at->first, at->second); answer < 0) return answer;
+        int answer = callback_fault_check(function, unit);
+        if (answer == 0) answer = visit(at->first, at->second);
+        if (answer < 0) return answer;
     }
 }
 

@@ -112,7 +112,7 @@ int unit_reachable(int unit, Need need);
 // on_switch for the calls of this chapter: fault, lock, unit, `body(Unit &)`.
 template <class Body>
 int on_unit(const char *function, int unit, Need need, Body &&body) {
-    if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;
+    if (const int fault = fault_check(function, unit); fault != BCM_E_NONE) return fault;
     const std::lock_guard<std::mutex> guard(model_lock());
     Device *const device = device_table().find(unit);
     if (device == nullptr) return BCM_E_UNIT;

@@ -4,8 +4,8 @@
 # the table has it, `>` as the objects have it, "made" for a generated answer.
 set -euo pipefail
 cd "$1"
-find standin/CMakeFiles -name '*.o' -exec nm -AC --defined-only {} + |
-    sed -nE 's#^standin/CMakeFiles/([^/]+)\.dir/([^:]+)\.o:[0-9a-f]+ T ([^(]+).*#\3\t\2#p' |
+find standin/CMakeFiles -name '*.o' ! -path '*/OmbraSdkV2Helper.dir/*' -exec nm -AC --defined-only {} + |
+    sed -nE 's#^standin/CMakeFiles/([^/]+)\.dir/([^:]+)\.o:[0-9a-f]+ T (real_)?([^(]+).*#\4\t\2#p' |
     sed -E 's#\t(__|\.\.)/made/.*#\tmade#; t; s#\t#\tstandin/#' |
     awk -F '\t' -v OFS='\t' 'NR == FNR { known[$1]; next } $1 in known' made/standin_calls.txt - |
     sort -u |
