@@ -1,5 +1,5 @@
 // What a test of an agent, or a test of the stand-in, may do that no agent can: let packets
-// arrive, time pass and links break. C linkage, so that `ctypes` reaches them too.
+// arrive, time pass and links break. From Python they are called by the bench.
 #pragma once
 #include "sdk/bcm/l2_types.h"
 

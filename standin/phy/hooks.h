@@ -1,4 +1,4 @@
-// What a test may do with external PHYs that no agent can. C linkage, for `ctypes`.
+// What a test may do with external PHYs that no agent can.
 //
 // standin_mdio_remove and standin_mdio_clear drop accessors. One that serves a Python object takes
 // the interpreter's lock for that by itself, so the caller may have it or not.

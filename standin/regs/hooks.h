@@ -1,4 +1,4 @@
-// What a test may do with registers and the shadow that no agent can. C linkage, for `ctypes`.
+// What a test may do with registers and the shadow that no agent can.
 #pragma once
 
 extern "C" {

@@ -29,10 +29,11 @@ row() {
 declare -A only=()
 for room in model read check standin emit; do only[generator/$room]=generator/; done
 row generator model read check standin emit
-row standin base model pipeline generic chapters regs phy text shell
-for room in base model pipeline generic chapters regs phy text shell; do
+row standin base model pipeline generic chapters regs phy text shell bench
+for room in base model pipeline generic chapters regs phy text shell bench; do
     may[standin/$room]+="|$outside"
 done
+may[standin/bench]+="|runtime"
 may[standin/toolkit]="standin/toolkit|$outside"
 
 status=0

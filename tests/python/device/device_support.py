@@ -3,11 +3,8 @@
 import ctypes
 import unittest
 
+import OmbraSdkV2Bench as bench
 import OmbraSdkV2Helper as sdk
-
-# The library under the module, with the hooks of the stand-in. Its calls keep
-# the interpreter lock, as those of the module do.
-hooks = ctypes.PyDLL('libOmbraSdkV2Helper.so.0')
 
 # Kind 3, the one that TesselApiSetExt84328MdioAccessWrapper installs for.
 KIND_84328 = 3
@@ -26,16 +23,12 @@ class DeviceTest(unittest.TestCase):
     """One device of its own, unit 0, which runs."""
 
     def setUp(self):
-        hooks.standin_mdio_clear()
-        hooks.standin_reset()
-        hooks.standin_shadow_reset()
+        bench.reset()
         sdk.check(sdk.addOmbraDevice(0, 1, 0, 0))
         sdk.check(sdk.soc_init(0))
 
     def tearDown(self):
-        hooks.standin_mdio_clear()
-        hooks.standin_reset()
-        hooks.standin_shadow_reset()
+        bench.reset()
 
     def assertStatus(self, expected, status):
         """Names both when they differ."""

@@ -6,7 +6,7 @@ import gc
 import unittest
 import weakref
 
-from device_support import (KIND_84328, DeviceTest, hooks, sdk)
+from device_support import KIND_84328, DeviceTest, bench, sdk
 
 UNIT = 0
 
@@ -24,9 +24,9 @@ class Bench(object):
         self.registers[device, register] = value
 
 
-def install(phy, bench):
-    """Makes the bench the external PHY of the port with that number."""
-    sdk.TesselApiSetExt84328MdioAccessWrapper(UNIT, phy, bench)
+def install(phy, phy_object):
+    """Makes an object the external PHY of the port with that number."""
+    sdk.TesselApiSetExt84328MdioAccessWrapper(UNIT, phy, phy_object)
 
 
 def port(number):
@@ -45,26 +45,26 @@ def reg_read(number, address):
 class MdioTest(DeviceTest):
 
     def test_an_object_that_answers(self):
-        bench = Bench()
-        install(7, bench)
+        phy_object = Bench()
+        install(7, phy_object)
         self.assertStatus(0, sdk.soc_phyctrl_reg_write(
             UNIT, port(7), 0, 3 << 16 | 0x8001, 0x1234))
-        self.assertEqual({(3, 0x8001): 0x1234}, bench.registers)
+        self.assertEqual({(3, 0x8001): 0x1234}, phy_object.registers)
         self.assertEqual((0, 0x1234), reg_read(7, 3 << 16 | 0x8001))
         self.assertEqual((0, 0), reg_read(8, 3 << 16 | 0x8001))
 
     def test_the_accessor_keeps_the_object_that_nobody_else_does(self):
-        bench = Bench()
-        gone = weakref.ref(bench)
-        install(7, bench)
-        del bench
+        phy_object = Bench()
+        gone = weakref.ref(phy_object)
+        install(7, phy_object)
+        del phy_object
         gc.collect()
         self.assertIsNotNone(gone())
         self.assertEqual((0, 0), reg_read(7, 1))
-        self.assertEqual(0, hooks.standin_mdio_remove(UNIT, 7, KIND_84328))
+        self.assertEqual(0, bench.mdio_remove(UNIT, 7, KIND_84328))
         self.assertIsNone(gone())
         self.assertEqual(sdk.BCM_E_NOT_FOUND,
-                         hooks.standin_mdio_remove(UNIT, 7, KIND_84328))
+                         bench.mdio_remove(UNIT, 7, KIND_84328))
 
 
 if __name__ == '__main__':

@@ -2,7 +2,7 @@
 
 import unittest
 
-from device_support import DeviceTest, hooks, references, sdk
+from device_support import DeviceTest, bench, references, sdk
 
 
 class ShadowTest(DeviceTest):
@@ -30,12 +30,12 @@ class ShadowTest(DeviceTest):
 
     def test_ten_thousand_holders_leave_nothing(self):
         shadow = sdk.getHwShadow(0)
-        before = references(shadow), hooks.standin_live_objects()
+        before = references(shadow), bench.live_objects()
         for _ in xrange(10000):
             sdk.getHwShadow(0)
         self.assertEqual(before,
-                         (references(shadow), hooks.standin_live_objects()))
-        hooks.standin_shadow_reset()
+                         (references(shadow), bench.live_objects()))
+        bench.shadow_reset()
         self.assertEqual(1, references(shadow))
 
 

@@ -47,7 +47,7 @@ class InstallTest(unittest.TestCase):
     def test_no_library_has_a_search_path(self):
         found = self.install()
         libraries = [path for path in found.values() if '.so' in path]
-        self.assertEqual(len(libraries), 6)
+        self.assertEqual(len(libraries), 7)
         for path in libraries:
             output = subprocess.check_output(['readelf', '-d', path])
             self.assertNotIn('RUNPATH', output)
