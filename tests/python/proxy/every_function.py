@@ -99,7 +99,7 @@ def make(argument, keep):
     raise ValueError('no argument for ' + kind)
 
 
-def arguments(row, keep):
+def arguments(row, keep, make=make):
     name, wanted = row['name'], row['arguments']
     made = [make(argument, keep) for argument in wanted]
     for index, argument in enumerate(wanted):
