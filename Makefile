@@ -22,7 +22,7 @@ compile_debug := cmake --build build/debug --parallel $(JOBS) $(quiet)
 python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
 have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
 
-.PHONY: help demo test build product debug bench docs docs-test race fuzz soak portable install \
+.PHONY: help demo test build product debug bench growth docs docs-test race fuzz soak portable install \
     install-standin uninstall deb deb-test root-test format tidy setup configure mutants clean
 
 demo: product ## install what is missing, build, and run the quick start
@@ -44,6 +44,9 @@ bench: product ## compare with hand-written extension code, ctypes, Cython and p
 	@setup/peers.sh build/peers
 	@cmake build --log-level=WARNING
 	@$(compile) --target bench
+
+growth: product ## count how the stand-in's operations grow with their tables
+	@$(compile) --target growth
 
 docs: product ## the reference, made from the declarations: build/reference/index.html
 	@$(compile) --target docs $(quiet)

@@ -27,14 +27,14 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 IMPORTS = ('_OmbraSdkV2Helper', '_ombra_floor_import')
 
 
-def counted(arguments):
-    """Runs count.py under callgrind: [(its line, instructions)]."""
+def counted(arguments, program='count.py'):
+    """Runs a program under callgrind: [(its line, instructions)]."""
     folder = tempfile.mkdtemp()
     try:
         out = os.path.join(folder, 'out')
         lines = subprocess.check_output(
             ['valgrind', '--tool=callgrind', '--quiet', '--dump-before=ombra_bench_mark',
-             '--callgrind-out-file=' + out, sys.executable, os.path.join(HERE, 'count.py')] +
+             '--callgrind-out-file=' + out, sys.executable, os.path.join(HERE, program)] +
             arguments, stderr=open(os.devnull, 'w')).splitlines()
         dumps = glob.glob(out + '.*')
         dumps.sort(key=lambda name: int(name.rsplit('.', 1)[1]))
