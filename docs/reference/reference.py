@@ -20,6 +20,7 @@ import _OmbraSdkV2Helper as native
 import _OmbraSdkV2Status as status_module
 import OmbraSdkV2Helper as sdk
 
+import standin
 import statuses
 from markup import Page, code, escaped, table
 
@@ -474,6 +475,10 @@ class Reference(object):
         self.write_variables()
         self.write_statuses()
         self.write_constants()
+        standin.StandinPage(self).write(self.page(
+            'standin', 'the stand-in', (
+                'Who answers each function where there is no chip, by '
+                'chapter.')))
         self.enter('index', 'row', ['SWIG_PyInstanceMethod_New'])
         self.write_index()
         if not os.path.isdir(out):
