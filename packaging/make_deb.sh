@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 . setup/lib.sh
 
 out=$PWD/${1:?usage: packaging/make_deb.sh DIR}
-version=$(sed -n 's/^project(.*VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+version=$(sed -n "s/^__version__ = '\(.*\)'/\1/p" python/OmbraSdkV2Helper.py)
 tree=$out/ombra-sdk-v2-helper-$version
 
 step "Debian packages: version $version, in $1"

@@ -18,8 +18,9 @@ functions of the SDK and of the platform, the constants, the variables in
 * ports(), which makes a port list that came out fit to go in again; gport()
   and gport_parts() for global port numbers; mem_field_set() for table entries;
 * describe() and find(), which know all functions, structures and constants;
-* started(), registered(), log_to() and trace_to(), blocks that put back what they set
-  up; callback_errors(), a hook for exceptions in callbacks.
+* started(), registered(), mdio_access(), log_to() and trace_to(), blocks that
+  put back what they set up; callback_errors(), a hook for exceptions in
+  callbacks.
 
 The plain functions take and return what they always did: a status is a number.
 
@@ -35,7 +36,12 @@ The plain functions take and return what they always did: a status is a number.
 """
 
 import sys as _sys
-from operator import index as _index
+
+# Python 3 gets this far.
+if _sys.version_info[0] != 2:
+    raise ImportError('OmbraSdkV2Helper is for Python 2.7: run it with '
+                      'python2.7 in the place of Python %d.%d'
+                      % _sys.version_info[:2])
 
 import _OmbraSdkV2Classes as _tables
 import _OmbraSdkV2Companion as _companion
@@ -43,11 +49,14 @@ import _OmbraSdkV2Helper as _native
 import _OmbraSdkV2Proxy as _proxy
 from _OmbraSdkV2Aids import (
     L2_FLAG_BLACKHOLE, L2_FLAG_STATIC, L2_FLAG_TRUNK, gport, gport_parts, log_to,
-    mem_field_get, mem_field_set, ports, registered, started, trace_to)
+    mdio_access, mem_field_get, mem_field_set, ports, registered, started,
+    trace_to, traverse)
 from _OmbraSdkV2Companion import (
     Array, bind, callback_errors, cookie, release, view)
 from _OmbraSdkV2Proxy import Struct, Value, box
 from _OmbraSdkV2Status import SdkError, call, check
+
+__version__ = '1.1.0'
 
 
 def describe(thing):
@@ -55,7 +64,7 @@ def describe(thing):
     to make a value of, what comes back, related calls. Takes it or its name.
     """
     import _OmbraSdkV2Guide
-    print _OmbraSdkV2Guide.description(thing)
+    _sys.stdout.write(_OmbraSdkV2Guide.description(thing) + '\n')
 
 
 def find(words):
@@ -63,44 +72,6 @@ def find(words):
     """
     import _OmbraSdkV2Guide
     return _OmbraSdkV2Guide.find(words)
-
-
-def traverse(function, *args):
-    """Calls a function that calls back for each entry, with a Python callable
-    in the place of its callback and without the cookie:
-
-        traverse(bcm_l2_traverse, unit, visit)      # visit(unit, info)
-
-    A callable that returns a negative number ends the walk; the result is the
-    function's status. An exception ends it as well and is raised here. What
-    the callable is given is gone when it returns: keep a copy().
-    """
-    if function.__name__ not in _tables.CALLBACKS:
-        raise TypeError('%s does not call back with a cookie'
-                        % function.__name__)
-    name, place, cookie_place = _tables.CALLBACKS[function.__name__]
-    visit = args[place]
-    raised = []
-
-    def guarded(*entry):
-        try:
-            answer = visit(*entry)
-            return None if answer is None else _index(answer)
-        except BaseException:
-            raised.append(_sys.exc_info())
-            return _native.BCM_E_FAIL
-
-    key = cookie(guarded)
-    args = list(args)
-    args[place] = getattr(_companion, name)
-    args.insert(cookie_place, key)
-    try:
-        result = function(*args)
-    finally:
-        release(key)
-    if raised:
-        raise raised[0][0], raised[0][1], raised[0][2]
-    return result
 
 
 if not _companion.in_first_interpreter():

@@ -1,6 +1,7 @@
 """Small helpers of OmbraSdkV2Helper: ports, flags, entries of tables, and
 blocks that put back what they set up."""
 
+import sys
 from operator import index
 
 import _OmbraSdkV2Classes as tables
@@ -102,6 +103,53 @@ def mem_field_set(unit, mem, entry, field, value):
         entry[word] = cleared | (value >> place & 1) << bit
 
 
+def traverse(function, *args):
+    """Calls a function that calls back for each entry, with a Python callable
+    in the place of its callback and without the cookie:
+
+        traverse(bcm_l2_traverse, unit, visit)      # visit(unit, info)
+
+    A callable that returns a negative number ends the walk; the result is the
+    function's status. An exception ends it as well and is raised here. What
+    the callable is given is gone when it returns: keep a copy().
+    """
+    if function.__name__ not in tables.CALLBACKS:
+        raise TypeError('%s does not call back with a cookie'
+                        % function.__name__)
+    name, place, cookie_place = tables.CALLBACKS[function.__name__]
+    visit = args[place]
+    raised = []
+
+    def guarded(*entry):
+        try:
+            answer = visit(*entry)
+            return None if answer is None else index(answer)
+        except BaseException:
+            raised.append(sys.exc_info())
+            return native.BCM_E_FAIL
+
+    key = companion.cookie(guarded)
+    args = list(args)
+    args[place] = getattr(companion, name)
+    args.insert(cookie_place, key)
+    try:
+        result = function(*args)
+    finally:
+        companion.release(key)
+    if raised:
+        raise raised[0][0], raised[0][1], raised[0][2]
+    return result
+
+
+def _leave(raised, function, *args):
+    """What ends a block: its refusal raises, but never hides what the block
+    has raised itself."""
+    if raised is None:
+        call(function, *args)
+    else:
+        function(*args)
+
+
 class started(object):
     """Starts a unit that was added, and stops it at the end of the block.
 
@@ -117,12 +165,12 @@ class started(object):
             for step in native.soc_init, native.soc_misc_init, native.bcm_init:
                 call(step, self.unit)
         except Exception:
-            self.__exit__()
+            native.soc_deinit(self.unit)
             raise
         return self.unit
 
-    def __exit__(self, *_):
-        native.soc_deinit(self.unit)
+    def __exit__(self, raised=None, *_):
+        _leave(raised, native.soc_deinit, self.unit)
 
 
 class registered(object):
@@ -132,30 +180,93 @@ class registered(object):
         with registered(bcm_l2_addr_register, bcm_l2_addr_unregister,
                         unit, heard):
             ...
+
+    A callback without a cookie, such as bcm_linkscan_handler_t, has one
+    callable in the process; the one before is bound again at the end.
     """
 
     def __init__(self, register, unregister, *args):
-        name, place, cookie_place = tables.CALLBACKS[register.__name__]
+        name = register.__name__
+        if name in tables.CALLBACKS:
+            callback, place, self.cookie_place = tables.CALLBACKS[name]
+        else:
+            callback, place = tables.BOUND[name]
+            self.cookie_place = None
         self.register = register
         self.unregister = unregister
         self.callable = args[place]
         self.args = list(args)
-        self.args[place] = getattr(companion, name)
-        self.cookie_place = cookie_place
+        self.args[place] = self.callback = getattr(companion, callback)
 
     def __enter__(self):
-        self.cookie = companion.cookie(self.callable)
         self.whole = list(self.args)
-        self.whole.insert(self.cookie_place, self.cookie)
+        if self.cookie_place is None:
+            self.before = companion.bind(self.callback, self.callable)
+        else:
+            self.cookie = companion.cookie(self.callable)
+            self.whole.insert(self.cookie_place, self.cookie)
         try:
             call(self.register, *self.whole)
         except Exception:
-            companion.release(self.cookie)
+            self._let_go()
             raise
 
+    def __exit__(self, raised=None, *_):
+        try:
+            _leave(raised, self.unregister, *self.whole)
+        finally:
+            self._let_go()
+
+    def _let_go(self):
+        if self.cookie_place is None:
+            companion.bind(self.callback, self.before)
+        else:
+            companion.release(self.cookie)
+
+
+class _NoMdio(object):
+    """What serves a PHY whose object has gone."""
+
+    def read(self, *_):
+        raise IOError('the MDIO object of this PHY has gone')
+
+    write = read
+
+
+_mdio = {}  # the objects of blocks, by unit, PHY and kind
+
+
+class mdio_access(object):
+    """Serves an external PHY by a Python object for the length of the block:
+    its read(bus, phy, device, register) gives a number of 16 bits, its
+    write(bus, phy, device, register, value) takes one. `kind` is that of
+    ManagedPhy.
+
+        with mdio_access(unit, phy, bench):
+            ...
+
+    Behind the block that of the block around it serves, or none: the SDK has
+    no call that takes an object away, so one that refuses is put there.
+    """
+
+    def __init__(self, unit, phy, served, kind=3):
+        self.place = unit, phy, kind
+        self.served = served
+
+    def _install(self, served):
+        unit, phy, kind = self.place
+        native.TesselApiSetExtMdioAccess(
+            unit, phy, _NoMdio() if served is None else served,
+            companion.new_value('Hardware::PhyBcm::ManagedPhy', kind))
+        _mdio[self.place] = served
+
+    def __enter__(self):
+        self.before = _mdio.get(self.place)
+        self._install(self.served)
+        return self.served
+
     def __exit__(self, *_):
-        call(self.unregister, *self.whole)
-        companion.release(self.cookie)
+        self._install(self.before)
 
 
 class log_to(object):

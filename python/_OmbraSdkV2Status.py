@@ -17,7 +17,7 @@ MEANINGS = {
     'BCM_E_': {
         'INTERNAL': 'the SDK found itself in a state that must not be',
         'MEMORY': 'out of memory',
-        'UNIT': 'there is no such unit',
+        'UNIT': 'there is no such unit; addOmbraDevice() adds one',
         'PARAM': 'a parameter is out of its range',
         'EMPTY': 'the table is empty',
         'FULL': 'the table is full',
@@ -31,7 +31,8 @@ MEANINGS = {
         'RESOURCE': 'no resources are left',
         'CONFIG': 'the configuration does not allow it',
         'UNAVAIL': 'this chip cannot do that',
-        'INIT': 'the chapter or the unit has not been initialised',
+        'INIT': 'the chapter or the unit has not been initialised; started() '
+                'and soc_init() start a unit',
         'PORT': 'there is no such port',
         'LIMIT': 'a limit is reached',
     },
@@ -121,7 +122,13 @@ def call(function, *args):
 
         call(bcm_vlan_create, unit, 100)
     """
-    result = function(*args)
+    try:
+        result = function(*args)
+    except TypeError as error:
+        if ' arguments, got ' not in str(error):
+            raise
+        # Mostly a unit that was forgotten.
+        raise TypeError('%s: it is %s' % (error, function.__doc__.strip()))
     name = function.__name__
     if result_type(function) == 'cmd_result_t':
         return _checked(result, name, 'CMD_')

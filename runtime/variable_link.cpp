@@ -68,6 +68,22 @@ int swig_varlink_print(PyObject *object, FILE *file, int) {
     return 0;
 }
 
+// What dir() and completion show. As an attribute it is no name of a variable.
+PyObject *swig_varlink_dir(PyObject *object, PyObject *) {
+    PyRef names(PyList_New(0));
+    const swig_varlink_entry *entry = as_link(object)->vars;
+    for (; entry != nullptr && names != nullptr; entry = entry->next) {
+        const PyRef name(PyString_FromString(entry->name));
+        if (name == nullptr || PyList_Append(names.get(), name.get()) != 0) return nullptr;
+    }
+    return names.release();
+}
+
+PyMethodDef methods[] = {
+    {"__dir__", swig_varlink_dir, METH_NOARGS, "the names of the variables"},
+    {nullptr, nullptr, 0, nullptr},
+};
+
 void swig_varlink_dealloc(PyObject *object) {
     SWIG_Python_droplinks(object, nullptr);
     PyObject_FREE(object);
@@ -87,6 +103,7 @@ PyTypeObject *swig_varlink_type() {
         type.tp_repr = swig_varlink_repr;
         type.tp_str = swig_varlink_str;
         type.tp_doc = "Swig var link object";
+        type.tp_methods = methods;
         filled = true;
     }
     return PyType_Ready(&type) < 0 ? nullptr : &type;

@@ -38,5 +38,8 @@ if [ -f "$tree/build.ninja" ] && [ "$(cat "$stamp" 2>/dev/null)" = "$wanted" ]; 
 fi
 step "Configuring the $1 build in $tree"
 rm -f "$stamp"
+# CMake refuses a tree that was configured before the checkout was moved.
+home=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$tree/CMakeCache.txt" 2>/dev/null || true)
+[ -z "$home" ] || [ "$home" -ef . ] || rm -rf "$tree/CMakeCache.txt" "$tree/CMakeFiles"
 cmake -S . -B "$tree" --no-warn-unused-cli "${options[@]}"
 printf '%s\n' "$wanted" > "$stamp"

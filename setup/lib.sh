@@ -44,20 +44,23 @@ require_root() {
 }
 
 # apt_get ARGUMENT...: apt-get that asks nothing, waits for another apt to finish,
-# and shows plain lines of progress.
+# and leaves what it says in a file.
+readonly apt_log=build/apt.log
 apt_get() {
+    mkdir -p build
     DEBIAN_FRONTEND=noninteractive apt-get -q -y \
-        -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 -o Acquire::Retries=3 "$@" >&2
+        -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 -o Acquire::Retries=3 "$@" >> "$apt_log" 2>&1
 }
 
 # update_lists: reads the package lists anew. One source that is out of order does not
 # end the script: what matters is whether the packages can be installed afterwards.
 # REQUIRES: root.
 update_lists() {
-    apt_get update || note "apt could not read all of its sources"
+    apt_get update || true
 }
 
-# install_packages NAME...: installs the packages and what they depend on, no more.
+# install_packages NAME...: installs the packages and what they depend on, no more; false when they
+# cannot be had.
 # REQUIRES: root, and package lists that know them.
 install_packages() {
     apt_get install --no-install-recommends "$@"

@@ -25,4 +25,5 @@ mapfile -t missing < <(missing_packages "${packages[@]}")
 require_root "installing ${missing[*]}"
 step "Packages: installing ${missing[*]}"
 update_lists
-install_packages "${missing[@]}"
+install_packages "${missing[@]}" ||
+    die "apt cannot install them, mostly for want of a network; $apt_log has what it says"

@@ -95,8 +95,8 @@ remove_source() {
 }
 
 # install_debian_python MARK: true when Debian's interpreter and its headers are there
-# in the end. The debug build may be missing then. MARK is a file that remembers a
-# vain attempt, so that the next run takes no time over it.
+# in the end. The debug build may be missing then. MARK is a file that remembers that
+# another interpreter serves, so that the next run takes no time over it.
 install_debian_python() {
     local missing
     mapfile -t missing < <(missing_packages "${packages[@]}")
@@ -109,9 +109,7 @@ install_debian_python() {
         install_packages "${missing[@]}"; then
         return 0
     else
-        note "${missing[*]} cannot be had from the suite $suite"
-        mkdir -p "$(dirname "$1")"
-        touch "$1"
+        note "${missing[*]} cannot be had from the suite $suite, see $apt_log"
     fi
     have_package "${packages[0]}"
 }
@@ -133,6 +131,7 @@ find_on_path() {
 }
 
 # find_release MARK: sets found_* to the interpreter to build for, or ends the script.
+# What serves in the place of Debian's is remembered by MARK.
 find_release() {
     if [ -n "${PYTHON27:-}" ]; then
         probe "$PYTHON27" || die "PYTHON27=$PYTHON27 is no Python 2.7 with its headers"
@@ -141,6 +140,8 @@ find_release() {
         :
     elif find_on_path; then
         note "using $found_executable in its place"
+        mkdir -p "$(dirname "$1")"
+        touch "$1"
     else
         die "no Python 2.7 with headers: run 'make setup' as root, or name one with PYTHON27=/path"
     fi

@@ -38,6 +38,10 @@ HOLDERS = (
 CALLBACKS = {
 @callbacks@}
 
+# Functions that call back without one: the callback and its place.
+BOUND = {
+@bound@}
+
 # Functions whose number is no status: counts, lengths, truth values, places.
 NUMBERS = frozenset((
 @numbers@))
@@ -117,7 +121,8 @@ std::string holder_lines(const Model &model) {
     return text;
 }
 
-std::string callback_lines(const Model &model) {
+// The lines of functions whose callback has a cookie, or of those where it has none.
+std::string callback_lines(const Model &model, bool with_cookie) {
     std::string text;
     for (const auto &function : model.functions) {
         const auto &parameters = function.visible;
@@ -126,11 +131,11 @@ std::string callback_lines(const Model &model) {
         });
         const auto cookie = std::find_if(callback, parameters.end(),
                                          [](auto &one) { return one.type == "void *"; });
-        if (cookie != parameters.end()) {
-            text += "    '" + function.row + "': ('" + callback->type + "', " +
-                    std::to_string(callback - parameters.begin()) + ", " +
-                    std::to_string(cookie - parameters.begin()) + "),\n";
-        }
+        if (callback == parameters.end() || (cookie != parameters.end()) != with_cookie) continue;
+        text += "    '" + function.row + "': ('" + callback->type + "', " +
+                std::to_string(callback - parameters.begin());
+        if (with_cookie) text += ", " + std::to_string(cookie - parameters.begin());
+        text += "),\n";
     }
     return text;
 }
@@ -170,7 +175,8 @@ std::string emit_proxy(const Model &model) {
                         {"boxes", box_lines(model)},
                         {"values", value_lines(model)},
                         {"holders", holder_lines(model)},
-                        {"callbacks", callback_lines(model)},
+                        {"callbacks", callback_lines(model, true)},
+                        {"bound", callback_lines(model, false)},
                         {"numbers", number_lines(model)}});
 }
 

@@ -157,6 +157,7 @@ class LinkTest(ConformanceTest):
             'bcm_l2_flags_count, bcm_l2_flags_str)'))
 
     def test_other_forms(self):
+        self.assertEqual(dir(cvar), sorted(v.name for v in VARIABLES))
         self.assertEqual(repr(cvar), '<Swig global variables>')
         self.assertEqual(type(cvar).__name__, 'swigvarlink')
         with tempfile.TemporaryFile() as output:

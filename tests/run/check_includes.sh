@@ -2,7 +2,7 @@
 # Includes go one way: a folder may include the folders below it, and nothing above. The rooms of
 # generator/ and standin/ stand in a row, and each sees itself and those before it (of the
 # generator's files only includes of its own count: the others are text that it writes). Every source
-# opens with a comment on what it is for. Prints each line that breaks this, and fails.
+# opens with a comment on what it is for, and keeps to what the oldest compiler knows. Prints each line that breaks this, and fails.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -50,6 +50,13 @@ for folder in "${!may[@]}"; do
         fi
     done < <(grep -rnE "^#include \"${only[$folder]:-}" --include='*.h' --include='*.cpp' --include='*.inc' "$folder")
 done
+
+# Debian 11 has g++ 10.
+if grep -rnE '^ *using enum |std::bit_cast|<format>|<source_location>' --include='*.cpp' --include='*.h' \
+    --exclude-dir='build*' .; then
+    echo "g++ 10 does not know that" >&2
+    status=1
+fi
 
 # The generator sees to the headers of platform/ itself.
 while IFS= read -r file; do

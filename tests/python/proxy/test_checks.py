@@ -4,6 +4,7 @@ import copy
 import logging
 import pickle
 import unittest
+import weakref
 
 import OmbraSdkV2Helper as sdk
 from proxy_support import started_unit
@@ -16,8 +17,7 @@ class CheckTest(unittest.TestCase):
             sdk.check(sdk.bcm_vlan_create(99, 1))
         error = caught.exception
         self.assertEqual((error.status, error.name), (-3, 'BCM_E_UNIT'))
-        self.assertEqual(str(error),
-                         'BCM_E_UNIT (-3): there is no such unit')
+        self.assertIn('BCM_E_UNIT (-3): there is no such unit', str(error))
 
     def test_every_status_of_the_sdk_has_a_meaning(self):
         for name, status in vars(sdk).iteritems():
@@ -50,9 +50,11 @@ class CheckTest(unittest.TestCase):
     def test_a_call_names_the_function_and_knows_what_it_returns(self):
         with self.assertRaises(sdk.SdkError) as caught:
             sdk.call(sdk.bcm_vlan_create, 99, 1)
-        self.assertEqual(str(caught.exception),
-                         'bcm_vlan_create: BCM_E_UNIT (-3): '
-                         'there is no such unit')
+        self.assertIn('bcm_vlan_create: BCM_E_UNIT (-3): there is no such unit',
+                      str(caught.exception))
+        with self.assertRaisesRegexp(TypeError, r'got 1: it is bcm_vlan_create'
+                                     r'\(unit, vid\)'):
+            sdk.call(sdk.bcm_vlan_create, 100)
         with self.assertRaises(sdk.SdkError) as caught:
             sdk.call(sdk.sh_process_command, started_unit(), 'no-such-word')
         self.assertTrue(caught.exception.name.startswith('CMD_'))
@@ -212,6 +214,54 @@ class AidTest(unittest.TestCase):
                 mac='0:0:0:0:0:1', vid=4, port=1))
         sdk.call(sdk.bcm_l2_addr_delete, unit, '0:0:0:0:0:1', 4)
         self.assertEqual(heard, [4])
+
+    def test_a_callback_without_a_cookie_is_bound_for_a_block(self):
+        unit = started_unit()
+        with sdk.registered(sdk.bcm_linkscan_register,
+                            sdk.bcm_linkscan_unregister, unit, max):
+            self.assertIs(sdk.bind(sdk.bcm_linkscan_handler_t, max), max)
+            with self.assertRaises(sdk.SdkError):
+                sdk.registered(sdk.bcm_linkscan_register, None, 99,
+                               min).__enter__()
+            self.assertIs(sdk.bind(sdk.bcm_linkscan_handler_t, max), max)
+        self.assertIsNone(sdk.bind(sdk.bcm_linkscan_handler_t, None))
+
+    def test_a_unit_is_started_for_a_block(self):
+        unit = started_unit()
+        with sdk.started(unit):
+            self.assertEqual(sdk.bcm_vlan_create(unit, 5), 0)
+        self.assertEqual(sdk.bcm_vlan_create(unit, 6), sdk.BCM_E_INIT)
+        with self.assertRaises(KeyError), sdk.started(unit):
+            sdk.soc_deinit(unit)
+            raise KeyError
+        with self.assertRaises(sdk.SdkError), sdk.started(unit):
+            sdk.soc_deinit(unit)
+        with self.assertRaises(sdk.SdkError), sdk.started(99):
+            pass
+
+    def test_an_mdio_object_serves_for_a_block(self):
+        class Mdio(object):
+            write = None
+
+            def __init__(self, value):
+                self.read = lambda *_: value
+
+        def read():
+            value = sdk.box('uint32')
+            status = sdk.soc_phyctrl_reg_read(unit, sdk.soc_port_t(9), 0, 1,
+                                              value)
+            return status or value.value
+
+        unit = started_unit()
+        sdk.call(sdk.soc_phy_init, unit)
+        with sdk.mdio_access(unit, 9, Mdio(7)) as outer:
+            with sdk.mdio_access(unit, 9, Mdio(8)):
+                self.assertEqual(read(), 8)
+            self.assertEqual(read(), 7)
+        gone = weakref.ref(outer)
+        del outer
+        self.assertIsNone(gone())
+        self.assertEqual(read(), sdk.BCM_E_FAIL)
 
     def test_trace_and_log_go_to_a_logger(self):
         unit = started_unit()

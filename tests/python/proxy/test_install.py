@@ -1,5 +1,6 @@
 """What is installed: enough to import, and nothing that points back here."""
 
+import distutils.spawn
 import os
 import shutil
 import subprocess
@@ -7,6 +8,9 @@ import sys
 import tempfile
 import unittest
 
+import OmbraSdkV2Helper as sdk
+
+ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), '..', '..', '..')
 BUILD = os.environ['OMBRA_BUILD']
 CMAKE = os.environ.get('OMBRA_CMAKE')
 
@@ -36,11 +40,14 @@ class InstallTest(unittest.TestCase):
             'LD_LIBRARY_PATH': os.path.dirname(found['liblumo.so.0'])}
         output = subprocess.check_output(
             [sys.executable, '-c', 'import OmbraSdkV2Helper as sdk;'
-             'print sdk.__file__, sdk.addOmbraDevice(0, 1, 0, 0)'],
+             'print sdk.__file__, sdk.addOmbraDevice(0, 1, 0, 0),'
+             'sdk.__version__'],
             cwd='/', env=environment)
         # Compiled already, under the place where it is going to be.
         self.assertEqual(output.split(),
-                         [found['OmbraSdkV2Helper.pyc'], '0'])
+                         [found['OmbraSdkV2Helper.pyc'], '0', sdk.__version__])
+        with open(found['ombra-shell.1']) as manual:
+            self.assertIn(sdk.__version__, manual.read())
         with open(found['OmbraSdkV2Helper.pyc'], 'rb') as compiled:
             self.assertNotIn(self.stage, compiled.read())
 
@@ -63,6 +70,32 @@ class InstallTest(unittest.TestCase):
              '_OmbraSdkV2Guide.py', '_OmbraSdkV2Helper.so',
              '_OmbraSdkV2Manual.py', '_OmbraSdkV2Proxy.py',
              '_OmbraSdkV2Status.py'])
+
+    def test_a_checkout_that_was_moved_is_configured_anew(self):
+        old, new = (os.path.join(self.stage, name) for name in ('a', 'b'))
+        shutil.copytree(os.path.join(ROOT, 'setup'), os.path.join(old, 'setup'))
+        os.mkdir(os.path.join(old, 'build'))
+        shutil.copy(os.path.join(BUILD, 'python27.env'),
+                    os.path.join(old, 'build'))
+        with open(os.path.join(old, 'CMakeLists.txt'), 'w') as lists:
+            lists.write('cmake_minimum_required(VERSION 3.18)\n'
+                        'project(moved NONE)\n')
+        configure = ['setup/configure.sh', 'release']
+        subprocess.check_output(configure, cwd=old, stderr=subprocess.STDOUT)
+        os.rename(old, new)
+        output = subprocess.check_output(configure, cwd=new,
+                                         stderr=subprocess.STDOUT)
+        self.assertIn('Configuring', output)
+        self.assertEqual('', subprocess.check_output(
+            configure, cwd=new, stderr=subprocess.STDOUT))
+
+    @unittest.skipUnless(distutils.spawn.find_executable('python3'),
+                         'there is no Python 3 here')
+    def test_another_python_is_told_which_one_serves(self):
+        child = subprocess.Popen(
+            ['python3', '-B', '-c', 'import OmbraSdkV2Helper'],
+            stderr=subprocess.PIPE, cwd=os.path.dirname(sdk.__file__))
+        self.assertIn('is for Python 2.7', child.communicate()[1])
 
 
 if __name__ == '__main__':
