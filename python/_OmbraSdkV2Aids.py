@@ -150,6 +150,11 @@ def _leave(raised, function, *args):
         function(*args)
 
 
+def _names(function):
+    """The names of a function's parameters."""
+    return function.__doc__.partition('(')[2].partition(')')[0].split(', ')
+
+
 class started(object):
     """Starts a unit that was added, and stops it at the end of the block.
 
@@ -189,9 +194,11 @@ class registered(object):
         name = register.__name__
         if name in tables.CALLBACKS:
             callback, place, self.cookie_place = tables.CALLBACKS[name]
-        else:
+        elif name in tables.BOUND:
             callback, place = tables.BOUND[name]
             self.cookie_place = None
+        else:
+            raise TypeError('%s takes no callback' % name)
         self.register = register
         self.unregister = unregister
         self.callable = args[place]
@@ -205,6 +212,9 @@ class registered(object):
         else:
             self.cookie = companion.cookie(self.callable)
             self.whole.insert(self.cookie_place, self.cookie)
+        # What ends it takes some of what began it, under the same names.
+        given = dict(zip(_names(self.register), self.whole))
+        self.last = [given[name] for name in _names(self.unregister)]
         try:
             call(self.register, *self.whole)
         except Exception:
@@ -213,7 +223,7 @@ class registered(object):
 
     def __exit__(self, raised=None, *_):
         try:
-            _leave(raised, self.unregister, *self.whole)
+            _leave(raised, self.unregister, *self.last)
         finally:
             self._let_go()
 

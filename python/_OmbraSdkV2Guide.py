@@ -81,6 +81,8 @@ def expression(declared):
         return '[1, 2]'
     if declared == 'bcm_mac_t':
         return "'00:11:22:33:44:55'"
+    if declared in ('char *', 'char const *'):
+        return "'text'"
     return 'box(%r)' % pointed if pointed in _boxes else ''
 
 
@@ -150,6 +152,16 @@ def related(name):
             if other != name]
 
 
+def taker(name):
+    """Which helper passes a Python callable to a function: 'registered',
+    'traverse' or ''."""
+    if name.endswith('_register'):
+        called = name in tables.CALLBACKS or name in tables.BOUND
+        return 'registered' if called else ''
+    walks = name.endswith(('traverse', '_age', '_iterate'))
+    return 'traverse' if walks and name in tables.CALLBACKS else ''
+
+
 def description(thing):
     """The text of describe()."""
     name = thing if isinstance(thing, str) else thing.__name__
@@ -172,9 +184,9 @@ def description(thing):
     others = related(name)
     if others:
         lines.append('    related      ' + ', '.join(others))
-    if name in tables.CALLBACKS:
-        lines.append('    calls back; traverse() and registered() pass a '
-                     'Python callable')
+    if taker(name):
+        lines.append('    calls back; %s() passes a Python callable'
+                     % taker(name))
     return '\n'.join(line.rstrip() for line in lines)
 
 

@@ -274,10 +274,9 @@ class Reference(object):
             guide.result_of(getattr(native, name), entry)))
         parts.append('<pre>%s</pre>' % self.linked(
             sample(name, parameters, entry)))
-        if calls_back:
-            parts.append('<p>Calls back: %s and %s pass a Python callable.</p>'
-                         % (code(self.link('traverse')),
-                            code(self.link('registered'))))
+        if guide.taker(name):
+            parts.append('<p>Calls back: %s passes a Python callable.</p>'
+                         % code(self.link(guide.taker(name))))
         others = guide.related(name)
         if others:
             parts.append('<p><b>Related</b> %s</p>' % self.links(others))
@@ -495,7 +494,9 @@ class Reference(object):
 def sample(name, parameters, entry):
     """Lines of Python that call a function."""
     lines, passed = [], []
-    callback = tables.CALLBACKS.get(name)
+    taker = guide.taker(name)
+    callback = taker and (tables.CALLBACKS.get(name)
+                          or tables.BOUND[name] + (None,))
     for place, declared in enumerate(entry.types):
         parameter = parameters[place]
         if callback and place == callback[2]:
@@ -506,10 +507,12 @@ def sample(name, parameters, entry):
         elif made:
             lines.append('%s = %s' % (parameter, made))
         passed.append(parameter)
-    verb = 'call'
-    if callback:
-        verb = 'traverse'
-    elif entry.name in tables.NUMBERS:
+    verb = taker or 'call'
+    if taker == 'registered':
+        twin = name[:-len('register')] + 'unregister'
+        return '\n'.join(lines + ['with registered(%s):' % ', '.join(
+            [name, twin] + passed), '    ...'])
+    if entry.name in tables.NUMBERS:
         verb = ''
     if verb:
         lines.append('%s(%s)' % (verb, ', '.join([name] + passed)))

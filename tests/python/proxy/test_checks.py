@@ -215,13 +215,39 @@ class AidTest(unittest.TestCase):
         sdk.call(sdk.bcm_l2_addr_delete, unit, '0:0:0:0:0:1', 4)
         self.assertEqual(heard, [4])
 
+    def test_each_registration_ends_with_its_block(self):
+        unit = started_unit()
+        ended = []
+        tables = dict(sdk._tables.CALLBACKS, **sdk._tables.BOUND)
+        for name, entry in tables.iteritems():
+            twin = getattr(sdk, name[:-8] + 'unregister', None)
+            register = getattr(sdk, name)
+            if not name.endswith('_register') or twin is None:
+                continue
+            names = register.__doc__.partition('(')[2].split(')')[0].split(', ')
+            family = 'cosq' if '_cosq_' in name else 'oam'
+            types = getattr(sdk, 'bcm_%s_event_types_t' % family)()
+            args = [{'unit': unit, 'port': 1, 'name': name,
+                     'event_types': types, 'reg': sdk.CLP_XMAC_PAUSE_CTRLr
+                     }.get(one, 0) for one in names]
+            args[entry[1]] = max
+            if len(entry) == 3:
+                del args[entry[2]]
+            try:
+                with sdk.registered(register, twin, *args):
+                    ended.append(name)
+            except sdk.SdkError as error:
+                self.assertEqual(error.function, name)
+        self.assertGreater(len(ended), 10, ended)
+
     def test_a_callback_without_a_cookie_is_bound_for_a_block(self):
         unit = started_unit()
         with sdk.registered(sdk.bcm_linkscan_register,
                             sdk.bcm_linkscan_unregister, unit, max):
             self.assertIs(sdk.bind(sdk.bcm_linkscan_handler_t, max), max)
             with self.assertRaises(sdk.SdkError):
-                sdk.registered(sdk.bcm_linkscan_register, None, 99,
+                sdk.registered(sdk.bcm_linkscan_register,
+                               sdk.bcm_linkscan_unregister, 99,
                                min).__enter__()
             self.assertIs(sdk.bind(sdk.bcm_linkscan_handler_t, max), max)
         self.assertIsNone(sdk.bind(sdk.bcm_linkscan_handler_t, None))
