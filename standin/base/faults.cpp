@@ -15,6 +15,7 @@
 
 #include "standin/base/call_record.h"
 #include "standin/base/config_store.h"
+#include "standin/base/fault_pause.h"
 #include "standin/base/gate.h"
 
 namespace standin {
@@ -168,8 +169,11 @@ bool is_meant(const Fault &fault, int unit, const OpenCall *call) {
     return met == fault.arguments.size();
 }
 
+thread_local int pauses = 0;
+
 // Serves one setting: counts, waits, answers.
 int meet(const std::string &name, int unit, const OpenCall *call) {
+    if (pauses > 0) return 0;
     const std::optional<std::string> text = config_get(name);
     if (!text) return 0;
     std::string_view word;
@@ -212,6 +216,9 @@ std::optional<std::string> table_misread(std::string_view table, std::string_vie
 }
 
 }  // namespace
+
+FaultPause::FaultPause() { ++pauses; }
+FaultPause::~FaultPause() { --pauses; }
 
 bool faults_armed() { return config_has_faults(); }
 

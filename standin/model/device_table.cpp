@@ -2,6 +2,7 @@
 #include "standin/model/device_table.h"
 
 #include "standin/model/model.h"
+#include "standin/model/rehearsal.h"
 
 namespace standin {
 
@@ -74,6 +75,11 @@ std::mutex &model_lock() {
     return lock;
 }
 
+Switch &chip_of(Device &device) {
+    Switch *const other = Rehearsal::chip_of(device.unit);
+    return other != nullptr ? *other : *device.chip;
+}
+
 Switch *ready_switch(int unit, int &status) {
     Device *const device = device_table().find(unit);
     if (device == nullptr) {
@@ -81,7 +87,7 @@ Switch *ready_switch(int unit, int &status) {
         return nullptr;
     }
     status = device->stage == ChipStage::kReady ? BCM_E_NONE : BCM_E_INIT;
-    return status == BCM_E_NONE ? device->chip.get() : nullptr;
+    return status == BCM_E_NONE ? &chip_of(*device) : nullptr;
 }
 
 int unit_status(int unit) {

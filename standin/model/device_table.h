@@ -95,6 +95,9 @@ class DeviceTable {
     std::vector<std::unique_ptr<Device>> devices_;
 };
 
+// The chip of a device, or the one that takes its place in a rehearsal on this thread.
+Switch &chip_of(Device &device);
+
 // REQUIRES, of all: the model's lock is held.
 DeviceTable &device_table();
 Platform &platform();

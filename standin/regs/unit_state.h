@@ -119,7 +119,7 @@ int on_unit(const char *function, int unit, Need need, Body &&body) {
     if (need == Need::kReset && device->stage == ChipStage::kAttached) return BCM_E_INIT;
     try {
         Unit view{unit, *device, device->layers.of<UnitState>(),
-                  device->chip->layers.of<RegisterFile>()};
+                  chip_of(*device).layers.of<RegisterFile>()};
         return std::forward<Body>(body)(view);
     } catch (const std::bad_alloc &) {
         return BCM_E_MEMORY;

@@ -22,6 +22,7 @@ struct Value {
     PortSet ports;
     MacBytes mac{};
     IpAddress ip;
+    std::vector<std::int32_t> numbers;  // of names
 };
 
 // The number of a local port, which may come as a global one.

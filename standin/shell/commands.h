@@ -18,6 +18,25 @@ std::span<const Command *const> port_commands();      // units, ports, counters,
 std::span<const Command *const> switch_commands();    // MAC addresses, VLANs, spanning trees
 std::span<const Command *const> register_commands();  // registers and memories
 std::span<const Command *const> system_commands();    // configuration, log, packet watcher
+std::span<const Command *const> group_commands();     // trunks, multicast, mirrors, policers
+std::span<const Command *const> l3_commands();
+std::span<const Command *const> field_commands();
+std::span<const Command *const> queue_commands();  // quality of service, tables without a model
+std::span<const Command *const> state_commands();  // the state as a whole, faults, the shadow
+
+// Forms of `config` that are about the state of the unit.
+cmd_result_t config_diff(CommandCall &call);
+cmd_result_t config_apply(CommandCall &call);
+inline constexpr RowColumn kDifferenceColumns[] = {
+    {"change", "Change", CellKind::kText}, {"kind", "Object", CellKind::kText},
+    {"key", "Key", CellKind::kText},       {"field", "Field", CellKind::kText},
+    {"was", "Was", CellKind::kText},       {"is", "Is", CellKind::kText}};
+
+// Words of settings, by their number.
+inline constexpr const char *kLoopbacks[] = {"none", "mac", "phy", "remote"};
+inline constexpr const char *kDiscards[] = {"none", "all", "untagged", "tagged"};
+inline constexpr const char *kStpStates[] = {"disable", "block", "listen", "learn", "forward"};
+static_assert(std::size(kStpStates) == BCM_STG_STP_COUNT);
 
 // kOk for a good status; else prints "<command>: BCM_E_...: <meaning>" and gives kFail.
 cmd_result_t report(const CommandCall &call, int status);

@@ -1,6 +1,7 @@
 // Commands on units, ports, counters and PHYs.
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "helper/device.h"
 #include "sdk/bcm/init.h"
@@ -14,6 +15,7 @@
 #include "standin/base/scan.h"
 #include "standin/model/model.h"
 #include "standin/model/switch.h"
+#include "standin/shell/address_words.h"
 #include "standin/shell/commands.h"
 #include "standin/text/name_text.h"
 #include "standin/text/unit_ports.h"
@@ -47,8 +49,6 @@ Cell learning(int unit, int port) {
     if (bcm_port_learn_get(unit, port, &flags) < 0) return {};
     return {std::int64_t{flags}, flags == 0 ? "off" : "on"};
 }
-
-constexpr const char *kLoopbacks[] = {"none", "mac", "phy", "remote"};
 
 Cell loopback(int unit, int port) {
     int mode = 0;
@@ -98,6 +98,25 @@ constexpr Change kChanges[] = {
     {"loopback", bcm_port_loopback_set},
     {"discard", bcm_port_discard_set},
     {"pause", [](int unit, int port, int on) { return bcm_port_pause_set(unit, port, on, on); }},
+    {"pausetx",
+     [](int unit, int port, int on) {
+         int sends = 0;
+         int obeys = 0;
+         const int status = bcm_port_pause_get(unit, port, &sends, &obeys);
+         return status < 0 ? status : bcm_port_pause_set(unit, port, on, obeys);
+     }},
+    {"pauserx",
+     [](int unit, int port, int on) {
+         int sends = 0;
+         int obeys = 0;
+         const int status = bcm_port_pause_get(unit, port, &sends, &obeys);
+         return status < 0 ? status : bcm_port_pause_set(unit, port, sends, on);
+     }},
+    {"bpdu", bcm_port_bpdu_enable_set},
+    {"master", bcm_port_master_set},
+    {"jam", bcm_port_jam_set},
+    {"pfm", bcm_port_pfm_set},
+    {"linkscan", bcm_port_linkscan_set},
     {"filter", bcm_port_ifilter_set},
     {"l3", bcm_port_l3_enable_set},
     {"priority", bcm_port_untagged_priority_set},
@@ -109,24 +128,10 @@ constexpr Change kChanges[] = {
          return bcm_port_learn_set(unit, port, static_cast<uint32>(flags));
      }}};
 
-// Whether every port could run at the speed, before any does: the first that cannot, or -1.
-int first_too_slow(int unit, const PortSet &ports, int speed) {
-    int slow = -1;
-    on_switch("port", unit, [&](Switch &chip) {
-        for_ports(ports, [&](int port) {
-            const Port *one = chip.ports.find(port);
-            if (one != nullptr && (speed == 0 || can_run_at(*one, speed))) return kOk;
-            slow = port;
-            return kFail;
-        });
-        return BCM_E_NONE;
-    });
-    return slow;
-}
-
 cmd_result_t do_port(CommandCall &call) {
     const PortNames names = unit_ports(call.unit());
-    const bool show = std::none_of(std::begin(kChanges), std::end(kChanges),
+    const bool show = !call.has("pauseaddr") &&
+                      std::none_of(std::begin(kChanges), std::end(kChanges),
                                    [&](const Change &one) { return call.has(one.option); });
     if (show || names.empty()) return do_ps(call);
     const PortSet ports = call.ports("PORTS");
@@ -134,15 +139,36 @@ cmd_result_t do_port(CommandCall &call) {
         return status >= 0 ? kOk
                            : refuse(call, port_text(port, names) + ": " + status_meaning(status));
     };
-    if (const int slow = first_too_slow(call.unit(), ports, call.number("speed")); slow >= 0)
-        return tell(slow, BCM_E_CONFIG);
     return for_ports(ports, [&](int port) {
         for (const Change &one : kChanges) {
             if (!call.has(one.option)) continue;
             const int status = one.set(call.unit(), port, call.number(one.option));
             if (status < 0) return tell(port, status);
         }
-        return kOk;
+        MacBytes address = call["pauseaddr"].mac;
+        return call.has("pauseaddr")
+                   ? tell(port, bcm_port_pause_addr_set(call.unit(), port, address.data()))
+                   : kOk;
+    });
+}
+
+cmd_result_t port_control(CommandCall &call) {
+    return for_ports(call.ports("PORTS"), [&](int port) {
+        return report(call,
+                      bcm_port_control_set(call.unit(), port,
+                                           static_cast<bcm_port_control_t>(call.number("TYPE")),
+                                           call.number("VALUE")));
+    });
+}
+
+cmd_result_t port_advertise(CommandCall &call) {
+    const std::optional<std::string> bytes = bytes_of_hex(call.text("BYTES"));
+    bcm_port_ability_t ability{};
+    if (!bytes || bytes->size() != sizeof ability)
+        return refuse(call, text_of("%zu bytes, two digits each", sizeof ability));
+    std::memcpy(&ability, bytes->data(), sizeof ability);
+    return for_ports(call.ports("PORTS"), [&](int port) {
+        return report(call, bcm_port_ability_advert_set(call.unit(), port, &ability));
     });
 }
 
@@ -264,7 +290,6 @@ constexpr Command kUnit = {"unit", "The units, or choose the current one", kUnit
 constexpr Form kInitForms[] = {{"", "Initialise the chip of the unit", "init", do_init}};
 constexpr Command kInit = {"init", "Initialise the chip of the unit", kInitForms};
 
-constexpr const char *kDiscards[] = {"none", "all", "untagged", "tagged"};
 constexpr Param kPortParams[] = {
     place("PORTS", Kind::kPortList, "The ports; all without"),
     option("enable", Kind::kTruth, "Whether the port is on"),
@@ -277,12 +302,43 @@ constexpr Param kPortParams[] = {
     option("loopback", kLoopbacks, "Where frames turn round"),
     option("discard", kDiscards, "Which frames are dropped at entry"),
     option("pause", Kind::kTruth, "Whether pause frames are sent and obeyed"),
+    option("pausetx", Kind::kTruth, "Whether pause frames are sent"),
+    option("pauserx", Kind::kTruth, "Whether pause frames are obeyed"),
+    option("pauseaddr", Kind::kMac, "The address that pause frames come from"),
+    option("bpdu", Kind::kTruth, "Whether bridge frames are taken"),
+    option("master", 0, INT32_MAX, "Who gives the clock on a copper link"),
+    option("jam", 0, 1, "Whether a half duplex port holds up others"),
+    option("pfm", 0, 3, "What becomes of multicast frames without a group"),
+    option("linkscan", 0, 2, "How its link is scanned"),
     option("filter", 0, 3, "Which frames of other VLANs are dropped"),
     option("l3", Kind::kTruth, "Whether frames are routed"),
     option("priority", 0, 7, "The priority of frames without a tag")};
+constexpr Param kPortControl[] = {
+    place("PORTS", Kind::kPortList, "The ports").need(),
+    place("TYPE", INT32_MIN, INT32_MAX, "The kind of the setting").need(),
+    place("VALUE", INT32_MIN, INT32_MAX, "What it shall be").need()};
+constexpr Param kPortAdvertise[] = {
+    place("PORTS", Kind::kPortList, "The ports").need(),
+    place("BYTES", Kind::kText, "The abilities, as they lie in memory").need()};
 constexpr Form kPortForms[] = {{"", "Show ports, or change them as one", "port xe1-xe4 speed=10000",
-                                do_port, kPortParams, kPortColumns}};
-constexpr Command kPort = {"port", "Show ports or change them", kPortForms};
+                                do_port, kPortParams, kPortColumns, nullptr, true},
+                               {"control",
+                                "Set one of the lesser settings of ports",
+                                "port control xe1-xe4 5 1",
+                                port_control,
+                                kPortControl,
+                                {},
+                                nullptr,
+                                true},
+                               {"advertise",
+                                "Choose what ports offer when they negotiate",
+                                "port advertise xe1 40000000",
+                                port_advertise,
+                                kPortAdvertise,
+                                {},
+                                nullptr,
+                                true}};
+constexpr Command kPort = configuring({"port", "Show ports or change them", kPortForms});
 
 constexpr Param kPsParams[] = {place("PORTS", Kind::kPortList, "The ports; all without")};
 constexpr Form kPsForms[] = {

@@ -288,10 +288,11 @@ constexpr const char *kReference =
 constexpr Command kListreg = {"listreg", "Registers by name", kListregForms};
 constexpr Command kListmem = {"listmem", "Memories by name", kListmemForms};
 constexpr Command kGetreg = {"getreg", "Read registers", kGetregForms, "", false, kReference};
-constexpr Command kSetreg = {"setreg", "Write registers", kSetregForms, "", false, kReference};
-constexpr Command kModreg = {"modreg", "Change fields of registers", kModregForms};
+constexpr Command kSetreg =
+    configuring({"setreg", "Write registers", kSetregForms, "", false, kReference});
+constexpr Command kModreg = configuring({"modreg", "Change fields of registers", kModregForms});
 constexpr Command kDump = {"dump", "Entries of a memory", kDumpForms};
-constexpr Command kWrite = {"write", "Write an entry of a memory", kWriteForms};
+constexpr Command kWrite = configuring({"write", "Write an entry of a memory", kWriteForms});
 
 constexpr const Command *kCommands[] = {&kDump,   &kGetreg, &kListmem, &kListreg,
                                         &kModreg, &kSetreg, &kWrite};

@@ -11,6 +11,7 @@
 #include "standin/model/l2_table.h"
 #include "standin/model/vlans.h"
 #include "standin/shell/commands.h"
+#include "standin/shell/fields.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
@@ -93,6 +94,34 @@ cmd_result_t l2_add(CommandCall &call) {
     return report(call, bcm_l2_addr_add(call.unit(), &row));
 }
 
+cmd_result_t l2_put(CommandCall &call) {
+    MacBytes mac = call["mac"].mac;
+    bcm_l2_addr_t row{};
+    write_fields(call, "FIELD=VALUE", &row);
+    std::copy(mac.begin(), mac.end(), row.mac);
+    row.vid = static_cast<bcm_vlan_t>(call.number("vlan"));
+    return report(call, bcm_l2_addr_add(call.unit(), &row));
+}
+
+cmd_result_t l2_age(CommandCall &call) {
+    return report(call, bcm_l2_age_timer_set(call.unit(), call.number("SECONDS")));
+}
+
+cmd_result_t l2_limit(CommandCall &call) {
+    bcm_l2_learn_limit_t limit{};
+    write_fields(call, "FIELD=VALUE", &limit);
+    return report(call, bcm_l2_learn_limit_set(call.unit(), &limit));
+}
+
+cmd_result_t l2_limits(CommandCall &call) {
+    return report(call, call.flag("ON") ? bcm_l2_learn_limit_enable(call.unit())
+                                        : bcm_l2_learn_limit_disable(call.unit()));
+}
+
+cmd_result_t l2_freeze(CommandCall &call) { return report(call, bcm_l2_addr_freeze(call.unit())); }
+
+cmd_result_t l2_thaw(CommandCall &call) { return report(call, bcm_l2_addr_thaw(call.unit())); }
+
 cmd_result_t l2_delete(CommandCall &call) {
     MacBytes mac = call["mac"].mac;
     const auto vlan = static_cast<bcm_vlan_t>(call.number("vlan"));
@@ -162,19 +191,27 @@ cmd_result_t vlan_destroy(CommandCall &call) {
     return report(call, bcm_vlan_destroy(call.unit(), vlan_of(call)));
 }
 
-cmd_result_t vlan_add(CommandCall &call) { return report(call, add_ports(call)); }
+cmd_result_t vlan_add(CommandCall &call) {
+    int status = BCM_E_NONE;
+    if (call.has("ports") || call.has("untagged")) status = add_ports(call);
+    if (status >= 0 && call.has("gport"))
+        status = bcm_vlan_gport_add(call.unit(), vlan_of(call), call.number("gport"),
+                                    call.number("flags"));
+    return report(call, status);
+}
 
 cmd_result_t vlan_remove(CommandCall &call) {
     const bcm_pbmp_t ports = pbmp_of(call.given_ports("ports"));
-    return report(call, bcm_vlan_port_remove(call.unit(), vlan_of(call), ports));
+    int status = BCM_E_NONE;
+    if (call.has("ports")) status = bcm_vlan_port_remove(call.unit(), vlan_of(call), ports);
+    if (status >= 0 && call.has("gport"))
+        status = bcm_vlan_gport_delete(call.unit(), vlan_of(call), call.number("gport"));
+    return report(call, status);
 }
 
 cmd_result_t vlan_default(CommandCall &call) {
     return report(call, bcm_vlan_default_set(call.unit(), vlan_of(call)));
 }
-
-constexpr const char *kStates[] = {"disable", "block", "listen", "learn", "forward"};
-static_assert(std::size(kStates) == BCM_STG_STP_COUNT);
 
 // The ports of a tree in each state that occurs: "forward: xe0-xe3; block: xe4".
 std::string states_text(int unit, int stg, const PortNames &names) {
@@ -186,10 +223,10 @@ std::string states_text(int unit, int stg, const PortNames &names) {
         ports[static_cast<std::size_t>(state)].set(static_cast<std::size_t>(entry.port));
     }
     std::string text;
-    for (std::size_t at = std::size(kStates); at-- > 0;) {
+    for (std::size_t at = std::size(kStpStates); at-- > 0;) {
         if (ports[at].none()) continue;
         text += text.empty() ? "" : "; ";
-        text += std::string(kStates[at]) + ": " + port_list_text(ports[at], names);
+        text += std::string(kStpStates[at]) + ": " + port_list_text(ports[at], names);
     }
     return text;
 }
@@ -274,6 +311,12 @@ constexpr Param kL2Add[] = {kMacOption.need(),
                             flag("discard", "Frames to it are dropped").need().among('a'),
                             flag("static", "It does not age")};
 constexpr Param kL2Delete[] = {kMacOption.need(), kVlanOption.need()};
+constexpr Param kFields =
+    place("FIELD=VALUE", Kind::kStructField, "A field and what it shall be").many();
+constexpr Param kL2Put[] = {kMacOption.need(), kVlanOption.need(), kFields};
+constexpr Param kL2Age[] = {place("SECONDS", 0, INT32_MAX, "The seconds").need()};
+constexpr Param kL2Limit[] = {kFields.need()};
+constexpr Param kL2Limits[] = {place("ON", Kind::kTruth, "Whether").need()};
 constexpr Form kL2Forms[] = {
     {"show", "The rows that all the options pick", "l2 show vlan=10 static", l2_show, kL2Pick,
      kL2Columns},
@@ -281,10 +324,34 @@ constexpr Form kL2Forms[] = {
      kL2Add},
     {"delete", "Take an address out", "l2 delete mac=02:00:00:00:00:0a vlan=10", l2_delete,
      kL2Delete},
-    {"clear", "Take out the rows that all the options pick", "l2 clear port=xe3", l2_clear,
-     kL2Pick},
+    {"put",
+     "Put a row in as it is, field by field",
+     "l2 put mac=02:00:00:00:00:0b vlan=1 port=3",
+     l2_put,
+     kL2Put,
+     {},
+     "bcm_l2_addr_t"},
+    {"clear",
+     "Take out the rows that all the options pick",
+     "l2 clear port=xe3",
+     l2_clear,
+     kL2Pick,
+     {},
+     nullptr,
+     true},
+    {"age", "Choose after how many seconds rows age; 0 for never", "l2 age 300", l2_age, kL2Age},
+    {"limit",
+     "Choose how many rows may be learned",
+     "l2 limit flags=2 vlan=1 limit=100",
+     l2_limit,
+     kL2Limit,
+     {},
+     "bcm_l2_learn_limit_t"},
+    {"limits", "Whether those limits hold", "l2 limits yes", l2_limits, kL2Limits},
+    {"freeze", "Change nothing in the table until it thaws", "l2 freeze", l2_freeze},
+    {"thaw", "Undo one freeze", "l2 thaw", l2_thaw},
     {"count", "How many rows the options pick", "l2 count vlan=10", l2_count, kL2Pick}};
-constexpr Command kL2 = {"l2", "The MAC table", kL2Forms, "show"};
+constexpr Command kL2 = configuring({"l2", "The MAC table", kL2Forms, "show"});
 
 constexpr Param kVlan = place("VLAN", kFirstVlan, kLastVlan, "The VLAN").there(list_vlans);
 constexpr Param kMembers = option("ports", Kind::kPortList, "Its members");
@@ -294,21 +361,35 @@ constexpr Param kVlanShow[] = {kVlan};
 constexpr Param kVlanOnly[] = {kVlan.need()};
 constexpr Param kVlanCreate[] = {place("VLAN", kFirstVlan, kLastVlan, "The VLAN").need(), kMembers,
                                  kUntagged};
-constexpr Param kVlanAdd[] = {kVlan.need(), kMembers, kUntagged};
-constexpr Param kVlanRemove[] = {kVlan.need(), kMembers.need()};
+constexpr Param kGport = option("gport", Kind::kPort, "A trunk, or another global port");
+constexpr Param kVlanAdd[] = {kVlan.need(), kMembers, kUntagged, kGport,
+                              option("flags", INT32_MIN, INT32_MAX, "The flags of that one")};
+constexpr Param kVlanRemove[] = {kVlan.need(), kMembers, kGport};
 constexpr Form kVlanForms[] = {
     {"show", "The VLANs and their ports", "vlan show 10", vlan_show, kVlanShow, kVlanColumns},
-    {"create", "Make a VLAN", "vlan create 10 ports=xe1-xe4 untagged=xe2", vlan_create,
-     kVlanCreate},
+    {"create",
+     "Make a VLAN",
+     "vlan create 10 ports=xe1-xe4 untagged=xe2",
+     vlan_create,
+     kVlanCreate,
+     {},
+     nullptr,
+     true},
     {"destroy", "Remove a VLAN", "vlan destroy 10", vlan_destroy, kVlanOnly},
-    {"add", "Add ports to a VLAN", "vlan add 10 ports=xe5", vlan_add, kVlanAdd},
-    {"remove", "Take ports out of a VLAN", "vlan remove 10 ports=xe5", vlan_remove, kVlanRemove},
+    {"add", "Add ports to a VLAN", "vlan add 10 ports=xe5", vlan_add, kVlanAdd, {}, nullptr, true},
+    {"remove",
+     "Take ports out of a VLAN",
+     "vlan remove 10 ports=xe5",
+     vlan_remove,
+     kVlanRemove,
+     {},
+     nullptr,
+     true},
     {"default", "Choose the VLAN that frames without one are in", "vlan default 10", vlan_default,
      kVlanOnly}};
-constexpr Command kVlanCommand = {
-    "vlan",     "VLANs and their ports",
-    kVlanForms, "show",
-    false,      "Untagged ports are members without being named twice."};
+constexpr Command kVlanCommand =
+    configuring({"vlan", "VLANs and their ports", kVlanForms, "show", false,
+                 "Untagged ports are members without being named twice."});
 
 constexpr Param kStg =
     place("STG", kFirstStg, kLastStg, "The spanning tree group").there(list_stgs);
@@ -317,7 +398,7 @@ constexpr Param kStgCreate[] = {place("STG", kFirstStg, kLastStg, "The spanning 
 constexpr Param kStgOnly[] = {kStg.need()};
 constexpr Param kStgVlan[] = {kStg.need(), kVlan.need()};
 constexpr Param kStgStp[] = {kStg.need(), place("PORTS", Kind::kPortList, "The ports").need(),
-                             place("STATE", kStates, "What they do with frames").need()};
+                             place("STATE", kStpStates, "What they do with frames").need()};
 constexpr Form kStgForms[] = {
     {"show", "The groups, their VLANs and the states of their ports", "stg show 5", stg_show,
      kStgShow, kStgColumns},
@@ -326,9 +407,16 @@ constexpr Form kStgForms[] = {
     {"destroy", "Remove a group", "stg destroy 5", stg_destroy, kStgOnly},
     {"add", "Move a VLAN into a group", "stg add 5 10", stg_add, kStgVlan},
     {"remove", "Move a VLAN back to the default group", "stg remove 5 10", stg_remove, kStgVlan},
-    {"stp", "Set the state of ports in a group", "stg stp 5 xe1-xe2 block", stg_stp, kStgStp},
+    {"stp",
+     "Set the state of ports in a group",
+     "stg stp 5 xe1-xe2 block",
+     stg_stp,
+     kStgStp,
+     {},
+     nullptr,
+     true},
     {"default", "Choose the group of new VLANs", "stg default 5", stg_default, kStgOnly}};
-constexpr Command kStgCommand = {"stg", "Spanning trees", kStgForms, "show"};
+constexpr Command kStgCommand = configuring({"stg", "Spanning trees", kStgForms, "show"});
 
 constexpr const Command *kCommands[] = {&kL2, &kStgCommand, &kVlanCommand};
 static_assert(complete(kCommands));

@@ -191,6 +191,11 @@ constexpr Param kDelete[] = {place("NAME", Kind::kConfig, "The setting").need().
 constexpr Param kSave[] = {option("file", Kind::kFile, "Another file than the configuration file"),
                            option("pattern", Kind::kConfig, "Only those whose names match"),
                            flag("append", "Behind what the file has")};
+constexpr Param kDiff[] = {
+    place("FILE", Kind::kFile, "What a file of commands makes; the first state without"),
+    option("checkpoint", Kind::kText, "A state that was kept").among('a')};
+constexpr Param kApply[] = {
+    place("FILE", Kind::kFile, "The file, as 'running > FILE' writes it").need()};
 constexpr Param kLoad[] = {place("FILE", Kind::kFile, "The file, whose settings are added")};
 constexpr Form kConfigForms[] = {
     {"show", "The settings", "config show speed", config_show, kShow, kConfigColumns},
@@ -201,6 +206,10 @@ constexpr Form kConfigForms[] = {
     {"save", "Write a file", "config save file=speeds pattern=port_speed*", config_write, kSave},
     {"load", "Read a file", "config load speeds", config_read, kLoad},
     {"clear", "Remove every setting", "config clear", config_empty},
+    {"diff", "How the unit differs from its first state, a file or a checkpoint", "config diff",
+     config_diff, kDiff, kDifferenceColumns},
+    {"apply", "Run a file of commands; one bad line, and nothing is changed",
+     "config apply switch.rc", config_apply, kApply},
     {"dump", "The settings, with the lines where they stood", "config dump", config_table}};
 constexpr Command kConfig = {
     "config",

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "standin/base/scan.h"
+#include "standin/shell/fields.h"
 #include "standin/shell/matcher.h"
 #include "standin/shell/pipe.h"
 #include "standin/shell/session.h"
@@ -130,7 +131,8 @@ void complete_command(std::string_view text, std::string_view begun, int unit, C
     if (pipe.words < words.words.size()) {
         complete_pipe(
             words, pipe.words, begun,
-            match.form() == nullptr ? std::span<const RowColumn>() : match.form()->columns, made);
+            match.form() == nullptr ? std::span<const RowColumn>() : columns_of(*match.form()),
+            made);
         return;
     }
     if (match.fault()) {

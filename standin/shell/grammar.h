@@ -20,6 +20,7 @@
 namespace standin {
 
 class CommandCall;
+class NameFamily;
 
 // What a word can be. values.cpp has a row for each: how it is read, what is right, what there is.
 enum class Kind : std::uint8_t {
@@ -34,9 +35,12 @@ enum class Kind : std::uint8_t {
     kPrefix,  // the same with a length
     kRegister,
     kMemory,
-    kFieldValue,  // FIELD=VALUE of a register
-    kWide,        // a number of any width
-    kSettings,    // NAME=VALUE
+    kFieldValue,   // FIELD=VALUE of a register
+    kStructField,  // FIELD=VALUE of the structure that the form names
+    kName,         // a constant of a family, or its number
+    kNames,        // several of them, with commas between
+    kWide,         // a number of any width
+    kSettings,     // NAME=VALUE
     kFile,
     kVariable,
     kConfig,  // the name of a setting of the store
@@ -67,6 +71,7 @@ struct Param {
     std::int64_t high = 0;
     std::span<const char *const> words{};
     Lister list = nullptr;
+    const NameFamily &(*names)() = nullptr;
 
     constexpr Param need() const {
         Param copy = *this;
@@ -124,6 +129,24 @@ constexpr Param option(const char *name, std::span<const char *const> words, con
     return one;
 }
 
+// Constants by name, up to a number.
+using ConstantNames = const NameFamily &();
+constexpr Param named_param(const char *name, Param::How how, ConstantNames *names, bool several,
+                            std::int64_t high, const char *help) {
+    Param one{name, how, several ? Kind::kNames : Kind::kName, help};
+    one.high = high;
+    one.names = names;
+    return one;
+}
+constexpr Param place(const char *name, ConstantNames *names, bool several, std::int64_t high,
+                      const char *help) {
+    return named_param(name, Param::How::kPlace, names, several, high, help);
+}
+constexpr Param option(const char *name, ConstantNames *names, bool several, std::int64_t high,
+                       const char *help) {
+    return named_param(name, Param::How::kOption, names, several, high, help);
+}
+
 using CommandHandler = cmd_result_t (*)(CommandCall &call);
 
 struct Form {
@@ -133,6 +156,8 @@ struct Form {
     CommandHandler run;
     std::span<const Param> params{};
     std::span<const RowColumn> columns{};  // of the table that it shows
+    const char *layout = nullptr;  // structure or family whose fields are its columns and words
+    bool whole = false;            // tried on a copy of the chip first: all of it or nothing
 };
 
 struct Command {
@@ -142,7 +167,13 @@ struct Command {
     const char *fallback = "";   // the form without a word
     bool compares = false;       // `>` is a word of its own, and no file follows
     const char *more = nullptr;  // what else there is to know
+    bool configures = false;     // a file that makes a state may have it
 };
+
+constexpr Command configuring(Command command) {
+    command.configures = true;
+    return command;
+}
 
 // Whether nothing is missing: for a static_assert beside each declaration.
 constexpr bool complete(const Command &command) {

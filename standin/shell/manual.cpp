@@ -36,6 +36,7 @@ void add_form(std::string &page, const Command &command, const Form &form) {
     page += "\n`" + usage_of(command, form) + "`\n: " + form.help + ". Example: `" + form.example +
             "`\n";
     if (!form.columns.empty()) page += "  Columns: " + join_keys(form.columns) + ".\n";
+    if (form.layout != nullptr) page += "  Fields: those of `" + std::string(form.layout) + "`.\n";
     if (form.params.empty()) return;
     page += "\n| word | what | values |\n|---|---|---|\n";
     for (const Param &param : form.params)

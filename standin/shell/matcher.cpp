@@ -23,6 +23,7 @@ constexpr Topic kTopics[] = {
     {"counters", "counters", "Counters of ports"},
     {"phy", "phy", "PHYs of ports"},
     {"version", "version", "Version of the library"},
+    {"running", "running", "The state of the unit as commands"},
 };
 
 std::vector<std::string> form_words(const Form &form) {
@@ -69,6 +70,16 @@ Match::Match(int unit, bool prompt, const Words &words, std::string_view text)
     if (command_ == nullptr) {
         std::vector<std::string> names;
         for (const Command *one : all_commands()) names.emplace_back(one->name);
+        std::vector<std::string> begun;
+        std::copy_if(names.begin(), names.end(), std::back_inserter(begun),
+                     [&](const std::string &name) {
+                         return prompt && starts_with_word(name, words_.front());
+                     });
+        if (begun.size() > 1) {
+            fault_ = MatchFault{escaped(words_.front()) + ": " + list_text(begun),
+                                cmd_result_t{CMD_NFND}};
+            return;
+        }
         const std::string near = nearest(words_.front(), names);
         const std::string hint =
             near.empty() ? "'help' lists them" : "did you mean '" + near + "'?";
@@ -111,7 +122,7 @@ void Match::go_through_show() {
             return std::any_of(target->forms.begin(), target->forms.end(),
                                [&](const Form &form) { return name == form.name; });
         };
-        const bool deeper = !has("show") && words_.size() > 2 && has(words_[2] + " show");
+        const bool deeper = words_.size() > 2 && has(words_[2] + " show");
         if (!deeper && !has("show")) return;
         std::vector<std::string> led = {target->name};
         if (deeper) led.push_back(words_[2]);
@@ -200,6 +211,13 @@ const Param *Match::next_place() const {
     return nullptr;
 }
 
+// Where fields of a structure may stand, which they may before other places are filled.
+const Param *Match::free_fields() const {
+    for (const Param &param : form_->params)
+        if (param.kind == Kind::kStructField && is_free(param)) return &param;
+    return nullptr;
+}
+
 const Param *Match::named(std::string_view key, bool prefix) const {
     const Param *found = nullptr;
     for (const Param &param : form_->params) {
@@ -250,6 +268,12 @@ bool Match::take_flag(std::size_t at, bool prefix) {
 void Match::take(std::size_t at) {
     if (take_option(at) || take_flag(at, false)) return;
     const Param *const place = next_place();
+    if (words_[at].find('=') != std::string::npos) {
+        if (const Param *const fields = free_fields()) {
+            take_value(*fields, at, words_[at]);
+            return;
+        }
+    }
     std::vector<std::string> names;
     for (const Param &param : form_->params)
         if (param.how != Param::How::kPlace)
@@ -342,6 +366,10 @@ std::vector<Candidate> Match::next(std::string_view begun) const {
         if (there.empty() && begun.empty())
             there.push_back({"", std::string(place->name) + ": " + right_there(*place)});
         all.insert(all.end(), there.begin(), there.end());
+        const Param *const fields = free_fields();
+        if (fields != nullptr && fields != place && !begun.empty())
+            for (Candidate &one : candidates(*fields, begun, context()))
+                all.push_back(std::move(one));
     }
     for (const Param &param : form_->params)
         if (param.how != Param::How::kPlace && is_free(param))

@@ -50,6 +50,7 @@ class Match {
     bool take_value(const Param &param, std::size_t at, std::string word);
     void fail(std::size_t at, const std::string &right, int result, bool usage = false);
     const Param *next_place() const;
+    const Param *free_fields() const;
     const Param *named(std::string_view key, bool prefix) const;
     bool is_free(const Param &param) const;
     Context context() const;

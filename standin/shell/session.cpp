@@ -1,5 +1,6 @@
 // Running lines, files and single commands, and the variables of each unit.
 #include "standin/shell/session.h"
+#include "standin/model/rehearsal.h"
 
 #include <algorithm>
 #include <array>
@@ -91,6 +92,28 @@ const char *result_name(int result) {
     bool known = result <= CMD_OK && result >= CMD_NOTIMPL;
     return known ? names[static_cast<std::size_t>(-result)] : "unknown result";
 }
+
+namespace {
+
+// What a form would answer, and what it would print if that is no good. Where there is no chip the
+// form itself says so.
+cmd_result_t try_on_copy(int unit, const Form &form, CommandCall &call) {
+    int status = BCM_E_NONE;
+    SavedState state = save_state(unit, status);
+    if (state == nullptr) return kOk;
+    std::string told;
+    cmd_result_t result = kOk;
+    {
+        const Rehearsal rehearsal(unit, std::move(state));
+        Capture capture;
+        result = form.run(call);
+        told = capture.text();
+    }
+    if (result != kOk) out(told);
+    return result;
+}
+
+}  // namespace
 
 bool unit_attached(int unit) {
     return unit >= 0 && unit < kUnits && bcm_attach_check(unit) == BCM_E_NONE;
@@ -230,7 +253,12 @@ cmd_result_t Shell::call(int unit, const Words &words, const std::string &text, 
         return fault->result;
     }
     forget_refusal();
-    cmd_result_t result = match.form()->run(match.call());
+    const Form &form = *match.form();
+    if (form.whole && !Rehearsal::is_on()) {
+        const cmd_result_t tried = try_on_copy(unit, form, match.call());
+        if (tried != kOk) return tried;
+    }
+    cmd_result_t result = form.run(match.call());
     if (result == kUsage) outf("usage: %s\n", usage_of(*match.command(), *match.form()).c_str());
     return result;
 }

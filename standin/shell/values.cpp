@@ -14,6 +14,7 @@
 #include "standin/base/number_text.h"
 #include "standin/base/scan.h"
 #include "standin/shell/commands.h"
+#include "standin/shell/fields.h"
 #include "standin/shell/session.h"
 #include "standin/text/identifier_text.h"
 #include "standin/text/name_text.h"
@@ -140,6 +141,32 @@ Fault read_pair(const Param &param, std::string_view word, const Context &, Valu
                                                                            : wrong(param);
 }
 
+Fault read_field_word(const Param &, std::string_view word, const Context &context, Value &) {
+    const std::optional<std::string> fault =
+        write_field(fields_of(*context.call), word, unit_ports(context.unit), nullptr);
+    return fault ? Fault(ValueFault{*fault}) : std::nullopt;
+}
+
+Fault read_names(const Param &param, std::string_view word, const Context &, Value &value) {
+    const NameFamily &names = param.names();
+    if (param.kind == Kind::kNames && same_word(word, "none")) return std::nullopt;
+    for (std::string_view one : split(word, param.kind == Kind::kNames ? "," : "")) {
+        const std::optional<std::int32_t> number = names.value(one);
+        if (number && *number >= 0 && *number <= param.high) {
+            value.numbers.push_back(*number);
+            continue;
+        }
+        std::vector<std::string> all;
+        for (const auto &[id, name] : names.all()) all.push_back(name);
+        const std::string near = nearest(one, all);
+        return ValueFault{"no '" + std::string(one) + '\'' +
+                          (near.empty() ? "; '?' lists them" : "; did you mean '" + near + "'?")};
+    }
+    if (value.numbers.empty()) return wrong(param);
+    value.number = value.numbers.front();
+    return std::nullopt;
+}
+
 Fault read_variable(const Param &param, std::string_view word, const Context &, Value &) {
     const bool good = !word.empty() && !is_digit(word.front()) &&
                       std::all_of(word.begin(), word.end(),
@@ -202,7 +229,8 @@ std::vector<Candidate> list_memories(const Param &, std::string_view, const Cont
 }
 
 // The fields of the register that stands before.
-std::vector<Candidate> list_fields(const Param &, std::string_view, const Context &context) {
+std::vector<Candidate> list_register_fields(const Param &, std::string_view,
+                                            const Context &context) {
     std::vector<Candidate> all;
     if (context.call == nullptr || !context.call->has("REGISTER")) return all;
     const auto ref = read_register_ref(context.call->text("REGISTER"), unit_ports(context.unit));
@@ -213,6 +241,20 @@ std::vector<Candidate> list_fields(const Param &, std::string_view, const Contex
         all.push_back(
             {std::string(one.name) + '=', text_of("%d bit%s", bits, bits == 1 ? "" : "s")});
     }
+    return all;
+}
+
+std::vector<Candidate> list_struct_fields(const Param &, std::string_view, const Context &context) {
+    return context.call == nullptr ? std::vector<Candidate>{}
+                                   : list_fields(fields_of(*context.call));
+}
+
+std::vector<Candidate> list_constants(const Param &param, std::string_view begun, const Context &) {
+    const std::size_t comma = param.kind == Kind::kNames ? begun.rfind(',') : begun.npos;
+    const std::string head(begun.substr(0, comma == begun.npos ? 0 : comma + 1));
+    std::vector<Candidate> all;
+    for (const auto &[id, name] : param.names().all())
+        if (id >= 0 && id <= param.high) all.push_back({head + name, std::to_string(id)});
     return all;
 }
 
@@ -280,7 +322,12 @@ constexpr KindRow kKinds[] = {
     {Kind::kMemory, nullptr, "a memory, as NAME or NAME[3]", "IHP_RESERVED_MC", read_memory,
      list_memories},
     {Kind::kFieldValue, nullptr, "a field and its value, as RX_PAUSE_EN=1", "RX_PAUSE_EN=1",
-     read_pair, list_fields},
+     read_pair, list_register_fields},
+    {Kind::kStructField, nullptr, "a field of the structure and its value", "flags=1",
+     read_field_word, list_struct_fields},
+    {Kind::kName, "NAME", "a name or its number", "Drop", read_names, list_constants},
+    {Kind::kNames, "NAMES", "names or numbers, with commas between", "SrcIp,DstIp", read_names,
+     list_constants},
     {Kind::kWide, nullptr, "a number of any width", "0x1f", read_wide, no_list},
     {Kind::kSettings, nullptr, "a name and a value, as port_speed.1=25000", "port_speed.1=25000",
      read_pair, list_settings},

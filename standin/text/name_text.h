@@ -25,6 +25,9 @@ class NameFamily {
     // The name of a value, less its prefix when `brief`; the number where it has no name.
     std::string name(std::int32_t value, bool brief) const;
 
+    // Value and name, less its prefix, ascending.
+    const std::map<std::int32_t, std::string> &all() const { return names_; }
+
     // The characters that `name` takes at the most.
     std::size_t longest() const { return longest_; }
 

@@ -87,7 +87,9 @@ class Terminal(unittest.TestCase):
         person.until(PROMPT)
         person.keys('vlan cr\t')
         person.until('eate ')
-        person.keys('10 ?')
+        person.keys('10\x15policer create 4 ckbits_s\t')
+        person.until('ec=')
+        person.keys('\x15vlan create 10 ?')
         self.assertIn('untagged=', person.until(PROMPT + 'vlan create 10 '))
         person.keys('\x15')
         for line, answer in (('vlna', "did you mean 'vlan'?"),
@@ -99,6 +101,10 @@ class Terminal(unittest.TestCase):
                              ('getreg NOTHING', "no register 'NOTHING'"),
                              ('ps | inclde x', "did you mean 'include'?"),
                              ('rcload none', 'rcload none: no such file'),
+                         ('policer create 4 mod=1', "did you mean 'mode='?"),
+                         ('field qualify 7 SrcIpp 1', "did you mean 'SrcIp6'?"),
+                         ('l3 route add 10.0.0.0/33', 'an address and a length'),
+                         ('rollback none', "'checkpoint show' lists them"),
                              ('vl cr 10 po=xe1-xe4', ''),
                              ('vlan 10', 'xe1-xe4'),
                              ('!!', 'xe1-xe4'),
@@ -160,6 +166,24 @@ class Program(unittest.TestCase):
         for field in 'mac', 'vid', 'port', 'modid', 'tgid', 'flags':
             self.assertEqual(getattr(entry, field), row[field], field)
         self.assertNotIn('\x1b', sdk.sdc(unit, 'ps; nonsense; ps xe99'))
+
+    def test_every_field_of_a_structure_is_a_column(self):
+        unit = sdk.check(sdk.addOmbraDevice(0, 10, 0, 0))
+        sdk.check(sdk.soc_init(unit))
+        for made, shown, structure in (
+                ('trunk create 3', 'trunk show', sdk.bcm_trunk_info_t),
+                ('policer create 4 mode=1', 'policer show', sdk.bcm_policer_config_t),
+                ('l3 intf create 1 l3a_vid=1', 'l3 intf show', sdk.bcm_l3_intf_t),
+                ('l3 egress create 100000 intf=1', 'l3 egress show', sdk.bcm_l3_egress_t),
+                ('l3 host add 10.0.0.1 l3a_intf=1', 'l3 host show', sdk.bcm_l3_host_t),
+                ('l3 route add fd00::/16 l3a_intf=1', 'l3 route show', sdk.bcm_l3_route_t)):
+            self.assertEqual('', sdk.sdc(unit, made))
+            row, = json.loads(sdk.sdc(unit, shown + ' | json'))
+            plain = [name for name in dir(structure())
+                     if not name.startswith(('_', 'this')) and
+                     isinstance(getattr(structure(), name), (int, long, str))]
+            self.assertGreater(len(plain), 5)
+            self.assertEqual([], [name for name in plain if name not in row], shown)
 
     def test_a_broken_configuration_is_told_where_it_is_loaded(self):
         with tempfile.NamedTemporaryFile() as broken:
