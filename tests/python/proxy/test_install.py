@@ -89,6 +89,23 @@ class InstallTest(unittest.TestCase):
         self.assertEqual('', subprocess.check_output(
             configure, cwd=new, stderr=subprocess.STDOUT))
 
+    def test_without_a_network_one_line_says_so(self):
+        shutil.copytree(os.path.join(ROOT, 'setup'),
+                        os.path.join(self.stage, 'setup'))
+        for name in 'apt-get', 'dpkg-query':
+            path = os.path.join(self.stage, name)
+            with open(path, 'w') as stub:
+                stub.write('#!/bin/sh\necho E: no >&2; exit 1\n')
+            os.chmod(path, 0755)
+        child = subprocess.Popen(
+            ['setup/packages.sh', 'tidy'], cwd=self.stage,
+            stderr=subprocess.PIPE,
+            env=dict(os.environ, PATH=self.stage + ':' + os.environ['PATH']))
+        lines = child.communicate()[1].splitlines()
+        self.assertEqual((child.returncode, [
+            line.split()[0] for line in lines if '==>' not in line]),
+            (1, ['error:']))
+
     @unittest.skipUnless(distutils.spawn.find_executable('python3'),
                          'there is no Python 3 here')
     def test_another_python_is_told_which_one_serves(self):
