@@ -7,13 +7,11 @@ namespace standin {
 inline std::map<bcm_field_group_t, FieldGroup> &groups_of(Switch &chip) {
     return chip.field.groups;
 }
-inline std::map<bcm_field_entry_t, FieldEntry> &entries_of(Switch &chip) {
-    return chip.field.entries;
-}
+inline auto &entries_of(Switch &chip) { return chip.field.entries; }
 inline std::map<bcm_field_range_t, FieldRange> &ranges_of(Switch &chip) {
     return chip.field.ranges;
 }
-inline std::map<int, FieldStat> &stats_of(Switch &chip) { return chip.field.stats; }
+inline auto &stats_of(Switch &chip) { return chip.field.stats; }
 
 template <class Body>
 int on_group(const char *function, int unit, bcm_field_group_t group, Body &&body) {

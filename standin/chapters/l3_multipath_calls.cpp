@@ -17,7 +17,7 @@ using Paths = std::vector<bcm_if_t>;
 constexpr Numbering<bcm_if_t> kMultipaths{"l3_multipath", kL3Multipaths, kFirstMultipath,
                                           kFirstMultipath + static_cast<int>(kL3Multipaths) - 1};
 
-std::map<bcm_if_t, Paths> &multipaths_of(Switch &chip) { return chip.l3.multipaths; }
+auto &multipaths_of(Switch &chip) { return chip.l3.multipaths; }
 
 // A group may hold the same object more than once, for weight.
 int check_size(const L3 &l3, std::size_t size) {

@@ -14,7 +14,7 @@ using Members = std::vector<MulticastGroup::Member>;
 constexpr Numbering<bcm_multicast_t> kNumbers{"multicast", kMulticastGroups, 1,
                                               static_cast<int>(kMulticastGroups)};
 
-std::map<bcm_multicast_t, MulticastGroup> &groups_of(Switch &chip) { return chip.groups.multicast; }
+auto &groups_of(Switch &chip) { return chip.groups.multicast; }
 
 template <class Body>
 int on_members(const char *function, int unit, bcm_multicast_t group, Members MulticastGroup::*side,

@@ -8,7 +8,7 @@ namespace {
 
 constexpr Numbering<bcm_policer_t> kNumbers{"policer", kPolicers, 1, static_cast<int>(kPolicers)};
 
-std::map<bcm_policer_t, Policer> &policers_of(Switch &chip) { return chip.groups.policers; }
+auto &policers_of(Switch &chip) { return chip.groups.policers; }
 
 int clear_policers(const char *function, int unit) {
     return start_chapter(function, unit, "bcm_policer_", [](Switch &chip) {

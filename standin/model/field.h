@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "sdk/bcm/field_types.h"
+#include "standin/model/numbered_map.h"
 #include "standin/model/port_set.h"
 
 namespace standin {
@@ -73,8 +74,8 @@ struct FieldStat {
 
 struct Field {
     std::map<bcm_field_group_t, FieldGroup> groups;
-    std::map<bcm_field_entry_t, FieldEntry> entries;
-    std::map<int, FieldStat> stats;
+    NumberedMap<bcm_field_entry_t, FieldEntry, 1> entries;
+    NumberedMap<int, FieldStat, 1> stats;
     std::map<bcm_field_range_t, FieldRange> ranges;
 };
 

@@ -8,6 +8,7 @@
 #include "sdk/bcm/mirror_types.h"
 #include "sdk/bcm/policer_types.h"
 #include "sdk/bcm/trunk_types.h"
+#include "standin/model/numbered_map.h"
 #include "standin/model/port_set.h"
 
 namespace standin {
@@ -56,9 +57,9 @@ struct Policer {
 struct Groups {
     std::map<bcm_trunk_t, Trunk> trunks;
     std::map<bcm_gport_t, bcm_trunk_t> trunk_of;  // by member
-    std::map<bcm_multicast_t, MulticastGroup> multicast;
+    NumberedMap<bcm_multicast_t, MulticastGroup, 1> multicast;
     Mirrors mirrors;
-    std::map<bcm_policer_t, Policer> policers;
+    NumberedMap<bcm_policer_t, Policer, 1> policers;
 };
 
 }  // namespace standin

@@ -51,9 +51,9 @@ struct RouteKey {
 };
 
 struct L3 {
-    std::map<bcm_if_t, bcm_l3_intf_t> interfaces;
+    NumberedMap<bcm_if_t, bcm_l3_intf_t, kFirstInterface> interfaces;
     NumberedMap<bcm_if_t, bcm_l3_egress_t, kFirstEgress> egresses;
-    std::map<bcm_if_t, std::vector<bcm_if_t>> multipaths;
+    NumberedMap<bcm_if_t, std::vector<bcm_if_t>, kFirstMultipath> multipaths;
     std::map<HostKey, bcm_l3_host_t> hosts;
     std::map<RouteKey, bcm_l3_route_t> routes;
     int max_ecmp = kMultipathMembers;

@@ -14,11 +14,13 @@ class NumberedMap : private std::map<Key, Value> {
     using Map = std::map<Key, Value>;
 
   public:
+    using Map::at;
     using Map::begin;
     using Map::contains;
     using Map::empty;
     using Map::end;
     using Map::find;
+    using Map::lower_bound;
     using Map::rbegin;
     using Map::size;
     using Map::upper_bound;

@@ -273,8 +273,8 @@ void visit_l2(StateVisitor &to, L2Chapter &l2) {
     }
 }
 
-// Rows that belong to others come after them: their family is the longer name. What is registered is
-// no state, and an address is another one in each process.
+// Rows that belong to others come after them: their family is the longer name. What is registered
+// is no state, and an address is another one in each process.
 void visit_generic(StateVisitor &to, const GenericTables &tables) {
     for (const auto &[family, table] : tables) {
         if (family.ends_with("_register")) continue;
