@@ -13,7 +13,8 @@ from markup import code, escaped, table
 _USE = re.compile(r'\{Use::k(\w+), ObjectKind::k(\w+), "(\w*)", Bond::k(\w+)\}')
 _REGISTRATION = re.compile(r'\{k\w+, "(\w+)", "(\w*)", (true|false),\s*'
                            r'"([^"]+)"\}')
-_NUMBERING = re.compile(r'Numbering<[\w:]+> \w+\{"(\w+)", (\w+)')
+_NUMBERING = re.compile(r'(?:Numbering<[\w:]+> \w+\{|table_capacity\(|kName = )'
+                        r'"(\w+)"(?:, |;\s+static constexpr std::size_t kCapacity = )(\w+)')
 _CAPACITY = re.compile(r'constexpr (?:std::size_t|int) (k\w+) = ([\d\']+);')
 
 
@@ -111,17 +112,18 @@ class StandinPage(object):
             if size in sizes])
 
     def references(self):
-        modelled = [(_words(user), _words(use)[len(_words(user)):], field,
+        modelled = [(_words(user), field, _words(use).split(' ')[-1],
                      bond.lower())
-                    for use, user, field, bond in _USE.findall(self.text)]
+                    for use, user, field, bond in _USE.findall(self.text)
+                    if field]
         kinds = [(code(line[1]), escaped(line[2]), escaped(line[3]))
                  for line in self.lines if line[0] == 'names']
         return ('<p>An object of the model that <i>holds</i> another keeps it '
                 'from going; one that <i>leaves</i> it loses the name and '
                 'stays; one that <i>falls</i> goes along.</p>' +
-                table(('user', 'field', 'when the other goes'),
-                      [(escaped(user), code(field), bond)
-                       for user, _, field, bond in modelled if field]) +
+                table(('user', 'field', 'names', 'when that goes'),
+                      [(escaped(user), code(field), escaped(named), bond)
+                       for user, field, named, bond in modelled]) +
                 '<p>What a number names where a function has no model.</p>' +
                 table(('type, or closer', 'names', ''), kinds))
 
