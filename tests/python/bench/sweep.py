@@ -1,6 +1,8 @@
-"""Calls each function that has a unit, on unit 1 of two, with numbers drawn
-by a seed. Tells the status of each call, and what it did that no
-call may do: change a state and refuse, or touch the other unit.
+"""Calls each function that has a unit, on unit 1 of two: with the number of
+something that is not there in each argument that names something, then with
+numbers drawn by a seed. Tells the status of each call, and what it did that no
+call may do: take such a number, change a state and refuse, or touch the other
+unit.
 
 usage: sweep.py MODEL.json SEED
 """
@@ -8,6 +10,7 @@ usage: sweep.py MODEL.json SEED
 import json
 import os
 import random
+import re
 import shutil
 import sys
 import tempfile
@@ -21,6 +24,18 @@ NUMBERS = (0, 1, 2, 3, 5, 16, 100, 999, 5000, 70000)
 # These start and end the unit, or write what has been collected.
 LEFT_OUT = every_function.ENDING + ('init', 'reset', 'shell', 'clear', 'load')
 
+# By declared type: a number that names nothing.
+NOTHING = {
+    'bcm_port_t': 999, 'bcm_gport_t': 999, 'bcm_vlan_t': 4000,
+    'bcm_trunk_t': 5000, 'bcm_multicast_t': 5000, 'bcm_policer_t': 5000,
+    'bcm_field_entry_t': 5000, 'bcm_field_group_t': 5000, 'bcm_stg_t': 200,
+    'bcm_if_t': 100500}
+# What makes the object itself, numbers of other devices, of packets or of
+# encapsulations, and a walk over what a group has: rows and arguments.
+FREE = re.compile(r'_create|_delete_by|delete_all|encap|remote|sport'
+                  r'|(old|new|inner|outer|match)_(vid|vlan)|dst_entry'
+                  r'|group_traverse')
+
 
 def is_swept(row):
     wanted = row['arguments']
@@ -33,6 +48,26 @@ def is_swept(row):
 
 def status_of(result):
     return result[0] if isinstance(result, (list, tuple)) else result
+
+
+def takers(rows, keep):
+    """Functions and arguments that take what names nothing."""
+    def make(argument, keep):
+        if argument is named:
+            return NOTHING[argument['type']]
+        if argument['kind'].split('-')[0] in ('signed', 'unsigned'):
+            return 1
+        return every_function.make(argument, keep)
+
+    for row in rows:
+        for named in row['arguments'][1:]:
+            place = '%s.%s' % (row['name'], named['name'])
+            if named['type'] in NOTHING and not FREE.search(place):
+                made = every_function.arguments(row, keep, make)
+                keep.extend(made)
+                status = status_of(getattr(sdk, row['name'])(*made))
+                if status >= 0:
+                    yield '%s: took %d' % (place, NOTHING[named['type']])
 
 
 def main(model, seed):
@@ -56,7 +91,9 @@ def main(model, seed):
             sdk.call(step, unit)
     states = [bench.digest(unit) for unit in (0, 1)]
     keep = []
-    wrong = []
+    wrong = list(takers(rows, keep))
+    if [bench.digest(unit) for unit in (0, 1)] != states:
+        wrong.append('a state: changed by calls that refused')
     statuses = []
     for number, row in enumerate(rows):
         made = every_function.arguments(row, keep, make)
