@@ -108,7 +108,8 @@ def value_of(declared, has_cookie):
     if declared in ('char *', 'char const *'):
         return 'a text'
     if pointed in _boxes:
-        return 'make one with box(%r)' % pointed
+        return 'make one with box(%r), or several with Array(%r, n)' % (
+            pointed, pointed)
     return ''
 
 
