@@ -8,6 +8,7 @@
 #include "sdk/variables.h"
 #include "standin/base/number_text.h"
 #include "standin/base/output.h"
+#include "standin/model/rehearsal.h"
 #include "standin/model/soc_control.h"
 #include "standin/regs/words.h"
 
@@ -30,6 +31,9 @@ int call_outside(Call &&call) {
     } const inside;
     return call();
 }
+
+// Whether nobody outside is asked: inside of an access function, and in a rehearsal.
+bool is_own() { return in_access_function || Rehearsal::is_on(); }
 
 // What is to be done once the lock is free.
 struct Afterwards {
@@ -190,10 +194,10 @@ int access_register(const char *function, const RegisterCall &call,
         for (unsigned i = 0; write && i < layout->words(); ++i)
             words[i] = value[i] & layout->mask(i);
         const auto snoop = unit.state.snoops.find(call.reg);
-        if (snoop != unit.state.snoops.end()) after.snoop = snoop->second;
+        if (snoop != unit.state.snoops.end() && !Rehearsal::is_on()) after.snoop = snoop->second;
         after.watched = unit.state.watch_registers;
         after.access = unit.state.access;
-        outside = !in_access_function && overridden(after.access, layout->words(), write);
+        outside = !is_own() && overridden(after.access, layout->words(), write);
         return outside ? BCM_E_NONE : run_access(unit, *layout, instances, call, words);
     });
     if (outside) status = run_override(after.access, call, layout->words(), words);
@@ -220,8 +224,7 @@ int access_memory(const char *function, const MemoryCall &call, std::uint32_t *e
         if (!table_open(unit, *layout)) return BCM_E_DISABLED;
         watched = unit.state.watch_memories;
         if (write) std::copy_n(entry, layout->words(), words.begin());
-        if (!in_access_function)
-            outside = write ? unit.state.access.mem_write : unit.state.access.mem_read;
+        if (!is_own()) outside = write ? unit.state.access.mem_write : unit.state.access.mem_read;
         return outside != nullptr ? BCM_E_NONE
                                   : run_access(unit, *layout, copies, call, words.data());
     });

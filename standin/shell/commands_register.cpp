@@ -266,14 +266,25 @@ constexpr Param kGetregParams[] = {kRegister, flag("fields", "Also its fields")}
 constexpr Form kGetregForms[] = {{"", "Read registers", "getreg CLP_XMAC_PAUSE_CTRL.xe1 fields",
                                   do_getreg, kGetregParams, kRegisterColumns}};
 constexpr Param kSetregParams[] = {kRegister, kValue};
-constexpr Form kSetregForms[] = {
-    {"", "Write registers", "setreg CLP_XMAC_PAUSE_CTRL.xe1-xe3 0x3", do_setreg, kSetregParams}};
+constexpr Form kSetregForms[] = {{"",
+                                  "Write registers",
+                                  "setreg CLP_XMAC_PAUSE_CTRL.xe1-xe3 0x3",
+                                  do_setreg,
+                                  kSetregParams,
+                                  {},
+                                  nullptr,
+                                  true}};
 constexpr Param kModregParams[] = {
     kRegister,
     place("FIELD=VALUE", Kind::kFieldValue, "A field, and what it shall be").need().many()};
-constexpr Form kModregForms[] = {{"", "Change fields of registers",
-                                  "modreg CLP_XMAC_PAUSE_CTRL.xe1 RX_PAUSE_EN=1", do_modreg,
-                                  kModregParams}};
+constexpr Form kModregForms[] = {{"",
+                                  "Change fields of registers",
+                                  "modreg CLP_XMAC_PAUSE_CTRL.xe1 RX_PAUSE_EN=1",
+                                  do_modreg,
+                                  kModregParams,
+                                  {},
+                                  nullptr,
+                                  true}};
 constexpr Param kDumpParams[] = {kMemory, place("INDEX", 0, 0x7fffffff, "The first entry"),
                                  place("COUNT", 1, 0x7fffffff, "How many entries")};
 constexpr Form kDumpForms[] = {

@@ -19,11 +19,13 @@
 #include "sdk/bcm/vlan.h"
 #include "sdk/constants.h"
 #include "sdk/soc/init.h"
+#include "sdk/soc/reg.h"
 #include "standin/chapters/field_qualify.h"
 #include "standin/chapters/hooks.h"
 #include "standin/model/groups.h"
 #include "standin/model/l3.h"
 #include "standin/shell/running.h"
+#include "standin/text/name_text.h"
 
 namespace standin {
 namespace {
@@ -258,6 +260,35 @@ TEST(Running, MakesAnyStateAgain) {
                 EXPECT_TRUE(is_measured(one.kind, field.name))
                     << "seed " << seed << ": " << one.kind << ' ' << one.key << ' ' << field.name;
     }
+    standin_reset();
+}
+
+void count_access(int, soc_reg_t, soc_regaddrinfo_t *, uint32, uint32, uint32, void *user) {
+    ++*static_cast<int *>(user);
+}
+
+void count_row(int, bcm_l2_addr_t *, int, void *user) { ++*static_cast<int *>(user); }
+
+// Whoever watches hears of a trial nothing, and a fault meets what is done in earnest.
+TEST(Running, ATrialReachesNobodyOutside) {
+    start_unit();
+    Directory directory;
+    int accesses = 0;
+    int rows = 0;
+    soc_reg_snoop_register(0, *identifier_of(Identifier::kRegister, "CLP_XMAC_PAUSE_CTRL"), 2,
+                           count_access, &accesses);
+    bcm_l2_addr_register(0, count_row, &rows);
+    const std::string file = directory.file_with(
+        "file",
+        "setreg CLP_XMAC_PAUSE_CTRL.xe1 3\nl2 put mac=02:00:00:00:00:01 vlan=1 port=1\n"
+        "vlan create 5 ports=xe1\n");
+    sdc(0, Text("fault call bcm_vlan_create -6 count=1"));
+    EXPECT_EQ(sdc(0, Text("config apply " + file)).stdString(),
+              "vlan create: BCM_E_FULL: the table is full\nconfig apply: stopped in line 3\n");
+    EXPECT_EQ(accesses, 1);
+    EXPECT_EQ(rows, 1);
+    EXPECT_EQ(sdc(0, Text("vlan create 5 ports=xe1; fault")).stdString(),
+              "nothing is made to fail\n");
     standin_reset();
 }
 
