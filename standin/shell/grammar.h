@@ -8,6 +8,7 @@
 // Whatever lacks a line of help does not compile (`complete`).
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -147,7 +148,19 @@ constexpr Param option(const char *name, ConstantNames *names, bool several, std
     return named_param(name, Param::How::kOption, names, several, high, help);
 }
 
-using CommandHandler = cmd_result_t (*)(CommandCall &call);
+// What runs a form: a function that is there.
+class CommandHandler {
+  public:
+    using Run = cmd_result_t(CommandCall &call);
+
+    constexpr CommandHandler(Run *run) : run_(run) {}
+    CommandHandler(std::nullptr_t) = delete;
+
+    cmd_result_t operator()(CommandCall &call) const { return run_(call); }
+
+  private:
+    Run *run_;
+};
 
 struct Form {
     const char *name;  // "create", "entry create"; "" for the command alone
@@ -181,7 +194,6 @@ constexpr bool complete(const Command &command) {
     if (empty(command.name) || empty(command.help) || command.forms.empty()) return false;
     for (const Form &form : command.forms) {
         if (form.name == nullptr || empty(form.help) || empty(form.example)) return false;
-        if (form.run == nullptr) return false;
         for (const Param &param : form.params)
             if (empty(param.name) || empty(param.help) || param.low > param.high) return false;
     }
