@@ -349,6 +349,12 @@ std::vector<Candidate> Match::next(std::string_view begun) const {
     };
     if (std::string_view(command_->name) == "show" && words_.size() == 1)
         for (const Candidate &one : show_topics()) add(one.word, one.help.c_str());
+    // `show l3` goes on with what `l3` can show.
+    if (std::string_view(command_->name) == "show" && words_.size() == 2)
+        if (const Command *const target = find_command(words_[1], prompt_))
+            for (const Form &form : target->forms)
+                if (const auto words = form_words(form); words.size() == 2 && words[1] == "show")
+                    add(words[0], form.help);
     if (words_.size() == 1)
         for (Candidate &one : forms_behind(begun)) all.push_back(std::move(one));
     std::string_view key;
