@@ -18,12 +18,8 @@ const swig_const_row swig_const_rows[] = {{SWIG_CONST_END, nullptr, 0, nullptr, 
 // The entry returns nothing: the interpreter judges the import by the exception that is set.
 extern "C" __attribute__((visibility("default"))) void init_OmbraSdkV2Helper() {
     static const char name[] = "_OmbraSdkV2Helper";
-    if (!SWIG_Python_RunEntry({name, swig_method_table, swig_const_rows, &swig_module,
-                               swig_constants, swig_variables, swig_install_steps,
-                               swig_install_step_count}))
-        return;
-    if (ombra::share_notes())
+    if (SWIG_Python_RunEntry({name, swig_method_table, swig_const_rows, &swig_module,
+                              swig_constants, swig_variables, swig_install_steps,
+                              swig_install_step_count, ombra::share_notes}))
         ombra::count_at_exit(name, nullptr);
-    else
-        SWIG_Python_TakeModuleBack(name);
 }

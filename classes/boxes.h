@@ -69,7 +69,7 @@ PyObject *new_array(const CallRow &row, PyObject *args) {
         }
         const auto length = static_cast<std::size_t>(count);
         auto *array = new (std::nothrow) Element[length]();
-        if (array == nullptr || !note_array(array, length)) {
+        if (array == nullptr || !note_array(array, length * sizeof(Element))) {
             delete[] array;
             return PyErr_NoMemory();
         }
@@ -101,8 +101,8 @@ inline void *element_address(const CallRow &row, void *array, int index, std::si
         refuse_null(row, 0);
         return nullptr;
     }
-    const std::size_t *length = array_length(array);
-    if (length != nullptr && (index < 0 || static_cast<std::size_t>(index) >= *length)) {
+    const std::size_t *bytes = array_size(array);
+    if (bytes != nullptr && (index < 0 || (static_cast<std::size_t>(index) + 1) * size > *bytes)) {
         refuse_with(PyExc_IndexError, "the index is outside the array");
         return nullptr;
     }

@@ -138,23 +138,12 @@ bool fill_module(const swig_module_definition &definition) {
         if (PyErr_Occurred() != nullptr) return false;
         install(dictionary, definition, definition.steps[index]);
     }
-    return PyErr_Occurred() == nullptr;
+    return PyErr_Occurred() == nullptr && (definition.finish == nullptr || definition.finish());
 }
 
-}  // namespace
-
-bool SWIG_Python_RunEntry(const swig_module_definition &definition) {
-    PyObject *const cvar = definition.step_count != 0 ? SWIG_Python_cvar() : nullptr;
-    if (cvar == nullptr && definition.step_count != 0) return false;
-    const swig_varlink_entry *const links =
-        cvar != nullptr ? reinterpret_cast<swig_varlink_object *>(cvar)->vars : nullptr;
-    if (fill_module(definition)) return true;
-    SWIG_Python_TakeModuleBack(definition.name);
-    if (cvar != nullptr) SWIG_Python_droplinks(cvar, links);
-    return false;
-}
-
-void SWIG_Python_TakeModuleBack(const char *name) {
+// Takes a module out of the interpreter's table, under its own name or in a package. Needs no
+// memory, and keeps the exception that is set.
+void take_module_back(const char *name) {
     PyObject *const modules = PyImport_GetModuleDict();
     PyObject *key = nullptr;
     Py_ssize_t position = 0;
@@ -165,6 +154,19 @@ void SWIG_Python_TakeModuleBack(const char *name) {
         PyDict_DelItem(modules, key);
         return;
     }
+}
+
+}  // namespace
+
+bool SWIG_Python_RunEntry(const swig_module_definition &definition) {
+    PyObject *const cvar = definition.step_count != 0 ? SWIG_Python_cvar() : nullptr;
+    if (cvar == nullptr && definition.step_count != 0) return false;
+    const swig_varlink_entry *const links =
+        cvar != nullptr ? reinterpret_cast<swig_varlink_object *>(cvar)->vars : nullptr;
+    if (fill_module(definition)) return true;
+    take_module_back(definition.name);
+    if (cvar != nullptr) SWIG_Python_droplinks(cvar, links);
+    return false;
 }
 
 void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *rows,
@@ -189,7 +191,8 @@ void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *row
 }
 
 void SWIG_Python_InstallRows(PyObject *dictionary, const swig_const_row *rows) {
-    for (const swig_const_row *row = rows; row->kind != SWIG_CONST_END; ++row)
+    const swig_const_row *row = rows;
+    for (; row->kind != SWIG_CONST_END && PyErr_Occurred() == nullptr; ++row)
         SWIG_Python_SetConstant(dictionary, row->name, object_of_row(*row));
 }
 

@@ -64,18 +64,15 @@ struct swig_module_definition {
     const swig_variable *variables;
     const swig_install_step *steps;
     std::size_t step_count;
+    bool (*finish)() = nullptr;  // what is left to do in the end; false with an exception
 };
 
 // The entry, in order: patch docstrings, register the methods, join the type table to the list of
 // the process, install the rows of the constant table, prepare the interpreter for threads, run
-// the install steps. On failure an exception is set, by which the interpreter judges the import,
-// false is returned, and the half-made module and its links are taken back: the next import makes
-// it anew.
+// the install steps, finish. On failure an exception is set, by which the interpreter judges the
+// import, false is returned, and the half-made module and its links are taken back: the next import
+// makes it anew.
 bool SWIG_Python_RunEntry(const swig_module_definition &definition);
-
-// Takes a module out of the interpreter's table, under its own name or in a package. Needs no
-// memory, and keeps the exception that is set.
-void SWIG_Python_TakeModuleBack(const char *name);
 
 // Gives methods that are native callbacks a docstring that carries their address: a text with
 // "swig_ptr: NAME" gets, from the marker on, "swig_ptr: _<pointer><type>" of the first constant
@@ -85,7 +82,8 @@ void SWIG_Python_PatchDocstrings(PyMethodDef *methods, const swig_const_row *row
                                  swig_type_info *const *type_seeds, swig_type_info **type_slots);
 
 // Puts an object for each constant row into the dictionary: a pointer object or proxy, a packed
-// object, or None for a null pointer. A row whose object cannot be made is skipped.
+// object, or None for a null pointer. A row of another kind is skipped; the first exception ends
+// it.
 void SWIG_Python_InstallRows(PyObject *dictionary, const swig_const_row *rows);
 
 // Stores an object under a name and takes its reference over. Null is not stored.

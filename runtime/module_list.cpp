@@ -5,6 +5,8 @@
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
 
+using ombra::PyRef;
+
 namespace {
 
 constexpr char kModuleName[] = "swig_runtime_data4";
@@ -53,6 +55,20 @@ void push_front(swig_type_info *type, swig_cast_link &row) {
     type->casts = &row;
 }
 
+// Whether there is a list that a look-up without memory did not find; then with MemoryError.
+bool is_list_missed() {
+    const PyRef module_name(PyString_FromString(kModuleName));
+    const PyRef attribute(PyString_FromString(kAttributeName));
+    if (module_name == nullptr || attribute == nullptr) return true;
+    PyObject *const module = PyDict_GetItem(PyImport_GetModuleDict(), module_name.get());
+    PyObject *const capsule = module != nullptr && PyModule_Check(module)
+                                  ? PyDict_GetItem(PyModule_GetDict(module), attribute.get())
+                                  : nullptr;
+    if (capsule == nullptr || PyCapsule_IsValid(capsule, kCapsuleName) == 0) return false;
+    PyErr_NoMemory();
+    return true;
+}
+
 }  // namespace
 
 swig_module_table *SWIG_Python_GetModule() {
@@ -68,7 +84,7 @@ swig_module_table *SWIG_Python_GetModule() {
 }
 
 PyObject *SWIG_Python_GetModuleCapsule() {
-    const ombra::PyRef module(PyImport_ImportModule(kModuleName));
+    const PyRef module(PyImport_ImportModule(kModuleName));
     return module != nullptr ? PyObject_GetAttrString(module.get(), kAttributeName) : nullptr;
 }
 
@@ -101,13 +117,14 @@ void SWIG_Python_DestroyModule(PyObject *capsule) {
 
 void SWIG_Python_JoinModuleList(swig_module_table &table, swig_type_info *const *type_seeds,
                                 swig_cast_link *const *cast_seeds) {
+    swig_module_table *const head = SWIG_Python_GetModule();
+    if (head == nullptr && is_list_missed()) return;
     const bool first_run = table.next == nullptr;
     if (first_run) {
         table.next = &table;
         table.type_seeds = type_seeds;
         table.cast_seeds = cast_seeds;
     }
-    swig_module_table *head = SWIG_Python_GetModule();
     if (head == nullptr) {
         SWIG_Python_SetModule(&table);
     } else {

@@ -81,7 +81,10 @@ bool is_owned(const void *address, const swig_type_info *type) {
     return found != nullptr && found->type == type && type != nullptr;
 }
 
-bool is_array(const void *address) { return array_length(address) != nullptr; }
+const std::size_t *own_array_size(const void *address) {
+    const NativeNote *const found = find(address);
+    return found != nullptr && found->type == nullptr ? &found->size : nullptr;
+}
 
 // What a module of the system shows to the others. They form a ring; the capsule of the list of
 // types leads to it by its context, which nobody else uses.
@@ -90,10 +93,10 @@ struct Peer {
     Peer *next;
     bool (*is_owned)(const void *address, const swig_type_info *type);
     bool (*forget_owned)(const void *address, const swig_type_info *type);
-    bool (*is_array)(const void *address);
+    const std::size_t *(*array_size)(const void *address);
 };
 
-Peer self = {"ombra notes 1", &self, is_owned, forget_owned, is_array};
+Peer self = {"ombra notes 2", &self, is_owned, forget_owned, own_array_size};
 
 template <typename Question>
 bool any_peer(Question question) {
@@ -120,7 +123,7 @@ bool note_owned(const void *address, const swig_type_info *type) {
     return note({address, type, 0});
 }
 
-bool note_array(const void *array, std::size_t count) { return note({array, nullptr, count}); }
+bool note_array(const void *array, std::size_t size) { return note({array, nullptr, size}); }
 
 bool forget_owned(const void *address, const swig_type_info *type) {
     NativeNote *const found = find(address);
@@ -136,9 +139,11 @@ bool forget_array(const void *array) {
     return true;
 }
 
-const std::size_t *array_length(const void *address) {
-    const NativeNote *const found = find(address);
-    return found != nullptr && found->type == nullptr ? &found->length : nullptr;
+const std::size_t *array_size(const void *address) {
+    const std::size_t *size = own_array_size(address);
+    if (size == nullptr)
+        any_peer([&](const Peer &peer) { return (size = peer.array_size(address)) != nullptr; });
+    return size;
 }
 
 bool forget_owned_elsewhere(const void *address, const swig_type_info *type) {
@@ -152,7 +157,7 @@ bool is_owned_anywhere(const void *address, const swig_type_info *type) {
 
 bool may_free_unnoted(const void *address) {
     const char *refusal = nullptr;
-    if (is_array(address) || any_peer([&](const Peer &peer) { return peer.is_array(address); }))
+    if (array_size(address) != nullptr)
         refusal = "a live array is deleted by its own row";
     else if (!is_foreign_module_there())
         refusal = "the pointer is no live object of this type that Python made";

@@ -1,5 +1,5 @@
 // Notes on the native memory that this module made for Python: owned structs and boxes by address
-// and type, counted arrays by address and length. They let a deletion be refused of what is none
+// and type, arrays by address and size. They let a deletion be refused of what is none
 // of them, or no more, and an index outside an array.
 //
 // A module of the system shares its notes with the others of the system in the process (module and
@@ -18,20 +18,21 @@ namespace ombra {
 struct NativeNote {
     const void *address;
     const swig_type_info *type;  // of the pointer; null for an array
-    std::size_t length;          // of an array
+    std::size_t size;            // of an array, in bytes
 };
 
 // Notes memory; false when there is no memory for the note. What was noted at the address before
 // is gone: the allocator gives none out twice.
 bool note_owned(const void *address, const swig_type_info *type);
-bool note_array(const void *array, std::size_t count);
+bool note_array(const void *array, std::size_t size);
 
 // Takes the note away. False when there is none of an owned object of that type, or of an array.
 bool forget_owned(const void *address, const swig_type_info *type);
 bool forget_array(const void *array);
 
-// The length of the live array at `address`, or null when there is none.
-const std::size_t *array_length(const void *address);
+// The bytes of the live array at `address`, of whichever module of the system, or null when there
+// is none.
+const std::size_t *array_size(const void *address);
 
 // The same for the other modules of the system.
 bool forget_owned_elsewhere(const void *address, const swig_type_info *type);

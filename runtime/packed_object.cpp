@@ -7,6 +7,7 @@
 
 #include "runtime/foreign_type.h"
 #include "runtime/hex_text.h"
+#include "runtime/ready_type.h"
 
 namespace {
 
@@ -58,24 +59,20 @@ int SwigPyPacked_compare(PyObject *left, PyObject *right) {
     return order < 0 ? -1 : (order > 0 ? 1 : 0);
 }
 
+void fill_type(PyTypeObject &type) {
+    type.tp_name = "SwigPyPacked";
+    type.tp_basicsize = sizeof(SwigPyPacked);
+    type.tp_dealloc = SwigPyPacked_dealloc;
+    type.tp_print = SwigPyPacked_print;
+    type.tp_compare = SwigPyPacked_compare;
+    type.tp_repr = SwigPyPacked_repr;
+    type.tp_str = SwigPyPacked_str;
+    type.tp_getattro = PyObject_GenericGetAttr;
+    type.tp_doc = "Swig object carries a C/C++ instance pointer";
+}
+
 PyTypeObject *SwigPyPacked_TypeOnce() {
-    static bool filled = false;
-    PyTypeObject &type = SwigPyPacked_type_object;
-    if (!filled) {
-        type.ob_refcnt = 1;
-        type.tp_name = "SwigPyPacked";
-        type.tp_basicsize = sizeof(SwigPyPacked);
-        type.tp_dealloc = SwigPyPacked_dealloc;
-        type.tp_print = SwigPyPacked_print;
-        type.tp_compare = SwigPyPacked_compare;
-        type.tp_repr = SwigPyPacked_repr;
-        type.tp_str = SwigPyPacked_str;
-        type.tp_getattro = PyObject_GenericGetAttr;
-        type.tp_flags = Py_TPFLAGS_DEFAULT;
-        type.tp_doc = "Swig object carries a C/C++ instance pointer";
-        filled = true;
-    }
-    return PyType_Ready(&type) < 0 ? nullptr : &type;
+    return ombra::ready_type(SwigPyPacked_type_object, fill_type);
 }
 
 }  // namespace

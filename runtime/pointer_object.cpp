@@ -6,6 +6,7 @@
 
 #include "runtime/client_data.h"
 #include "runtime/py_ref.h"
+#include "runtime/ready_type.h"
 #include "runtime/set_aside.h"
 
 using ombra::as_pointer_object;
@@ -121,30 +122,26 @@ PyMethodDef SwigPyObject_methods[] = {
 PyNumberMethods SwigPyObject_number_methods;
 
 // No tp_hash: with comparison set and __hash__ not, the interpreter makes the type unhashable.
-[[gnu::cold, gnu::noinline]] PyTypeObject *SwigPyObject_TypeOnce() {
-    static bool filled = false;
-    PyTypeObject &type = SwigPyObject_type_object;
-    if (!filled) {
-        SwigPyObject_number_methods.nb_int = SwigPyObject_long;
-        SwigPyObject_number_methods.nb_long = SwigPyObject_long;
-        SwigPyObject_number_methods.nb_oct = SwigPyObject_oct;
-        SwigPyObject_number_methods.nb_hex = SwigPyObject_hex;
+void fill_type(PyTypeObject &type) {
+    SwigPyObject_number_methods.nb_int = SwigPyObject_long;
+    SwigPyObject_number_methods.nb_long = SwigPyObject_long;
+    SwigPyObject_number_methods.nb_oct = SwigPyObject_oct;
+    SwigPyObject_number_methods.nb_hex = SwigPyObject_hex;
 
-        type.ob_refcnt = 1;
-        type.tp_name = "SwigPyObject";
-        type.tp_basicsize = sizeof(SwigPyObject);
-        type.tp_dealloc = SwigPyObject_dealloc;
-        type.tp_compare = SwigPyObject_compare;
-        type.tp_repr = SwigPyObject_repr;
-        type.tp_as_number = &SwigPyObject_number_methods;
-        type.tp_getattro = PyObject_GenericGetAttr;
-        type.tp_flags = Py_TPFLAGS_DEFAULT;
-        type.tp_doc = "Swig object carries a C/C++ instance pointer";
-        type.tp_richcompare = SwigPyObject_richcompare;
-        type.tp_methods = SwigPyObject_methods;
-        filled = true;
-    }
-    return PyType_Ready(&type) < 0 ? nullptr : &type;
+    type.tp_name = "SwigPyObject";
+    type.tp_basicsize = sizeof(SwigPyObject);
+    type.tp_dealloc = SwigPyObject_dealloc;
+    type.tp_compare = SwigPyObject_compare;
+    type.tp_repr = SwigPyObject_repr;
+    type.tp_as_number = &SwigPyObject_number_methods;
+    type.tp_getattro = PyObject_GenericGetAttr;
+    type.tp_doc = "Swig object carries a C/C++ instance pointer";
+    type.tp_richcompare = SwigPyObject_richcompare;
+    type.tp_methods = SwigPyObject_methods;
+}
+
+[[gnu::cold, gnu::noinline]] PyTypeObject *SwigPyObject_TypeOnce() {
+    return ombra::ready_type(SwigPyObject_type_object, fill_type);
 }
 
 }  // namespace

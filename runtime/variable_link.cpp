@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "runtime/py_ref.h"
+#include "runtime/ready_type.h"
 
 using ombra::PyRef;
 
@@ -89,25 +90,21 @@ void swig_varlink_dealloc(PyObject *object) {
     PyObject_FREE(object);
 }
 
-PyTypeObject *swig_varlink_type() {
-    static bool filled = false;
-    PyTypeObject &type = swig_varlink_type_object;
-    if (!filled) {
-        type.ob_refcnt = 1;
-        type.tp_name = "swigvarlink";
-        type.tp_basicsize = sizeof(swig_varlink_object);
-        type.tp_dealloc = swig_varlink_dealloc;
-        type.tp_print = swig_varlink_print;
-        type.tp_getattr = swig_varlink_getattr;
-        type.tp_setattr = swig_varlink_setattr;
-        type.tp_repr = swig_varlink_repr;
-        type.tp_str = swig_varlink_str;
-        type.tp_doc = "Swig var link object";
-        type.tp_methods = methods;
-        filled = true;
-    }
-    return PyType_Ready(&type) < 0 ? nullptr : &type;
+void fill_type(PyTypeObject &type) {
+    type.tp_name = "swigvarlink";
+    type.tp_basicsize = sizeof(swig_varlink_object);
+    type.tp_dealloc = swig_varlink_dealloc;
+    type.tp_print = swig_varlink_print;
+    type.tp_getattr = swig_varlink_getattr;
+    type.tp_setattr = swig_varlink_setattr;
+    type.tp_repr = swig_varlink_repr;
+    type.tp_str = swig_varlink_str;
+    type.tp_flags = 0;
+    type.tp_doc = "Swig var link object";
+    type.tp_methods = methods;
 }
+
+PyTypeObject *swig_varlink_type() { return ombra::ready_type(swig_varlink_type_object, fill_type); }
 
 }  // namespace
 

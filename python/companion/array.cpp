@@ -5,10 +5,10 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "python/companion/ready_type.h"
 #include "runtime/native_notes.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
+#include "runtime/ready_type.h"
 
 namespace companion {
 
@@ -53,7 +53,7 @@ PyObject *new_zeroes(const Element &element, std::size_t count) {
     PyObject *object = data != nullptr
                            ? new_array(element, static_cast<unsigned char *>(data), count)
                            : PyErr_NoMemory();
-    if (object != nullptr && !ombra::note_array(data, count)) {
+    if (object != nullptr && !ombra::note_array(data, count * element.size)) {
         Py_CLEAR(object);
         PyErr_NoMemory();
     }
@@ -325,7 +325,7 @@ void fill_type(PyTypeObject &type) {
 
 }  // namespace
 
-PyTypeObject *array_type() { return ready_type(type_object, fill_type); }
+PyTypeObject *array_type() { return ombra::ready_type(type_object, fill_type); }
 
 PyObject *new_filled(const Element &element, PyObject *values) {
     const ombra::PyRef items(as_items(element, values));

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <new>
 #include <unordered_map>
+#include <utility>
 
 #include "convert/mac_text.h"
 #include "convert/readers.h"
@@ -45,6 +46,9 @@ Table &lasting() {
 Cookies &cookies() { return lasting<Cookies>(); }
 
 Bindings &bindings() { return lasting<Bindings>(); }
+
+// Of callback_errors(); null: sys.excepthook.
+Callable &error_hook() { return lasting<Callable>(); }
 
 std::uint64_t next_cookie() {
     static std::uint64_t last = 0x4F4D000000000000;  // above every address of a process
@@ -137,7 +141,6 @@ bool read_answer(const Callback &callback, PyObject *result, int &answer) {
     return true;
 }
 
-PyObject *error_hook = nullptr;  // of callback_errors(); null: sys.excepthook
 
 // Hands the exception of a callable to the hook, traceback and all. One of the hook itself is
 // written out: there is nobody left to tell.
@@ -148,8 +151,9 @@ void report_error(PyObject *callable) {
     PyErr_Fetch(&type, &value, &traceback);
     PyErr_NormalizeException(&type, &value, &traceback);
     const ombra::PyRef parts[] = {ombra::PyRef(type), ombra::PyRef(value), ombra::PyRef(traceback)};
-    PyObject *const set =
-        error_hook != nullptr ? error_hook : PySys_GetObject(const_cast<char *>("excepthook"));
+    PyObject *const set = error_hook().object != nullptr
+                              ? error_hook().object.get()
+                              : PySys_GetObject(const_cast<char *>("excepthook"));
     if (set == nullptr) return;
     const ombra::PyRef hook = ombra::new_ref(set);
     const ombra::PyRef result(
@@ -172,6 +176,13 @@ int call_python(const Callback &callback, const Argument *arguments, std::size_t
     return answer;
 }
 
+// Returns the one before, which may run code of its own as it dies.
+ombra::PyRef set_error_hook(ombra::PyRef hook) {
+    Callable set{std::move(hook), PyThreadState_GET()->interp};
+    std::swap(set, error_hook());
+    return std::move(set.object);
+}
+
 // Lets go of an interpreter's callables. Code of theirs may run as they die: the table is in order
 // by then.
 template <typename Table>
@@ -190,6 +201,7 @@ void end_of_interpreter(PyObject *) {
     const PyInterpreterState *const home = PyThreadState_GET()->interp;
     drop_callables(cookies(), home);
     drop_callables(bindings(), home);
+    if (error_hook().home == home) set_error_hook(nullptr);
 }
 
 // False with MemoryError.
@@ -298,10 +310,9 @@ PyObject *release_cookie(PyObject *, PyObject *cookie) {
 }
 
 PyObject *callback_errors(PyObject *, PyObject *hook) {
-    if (hook != Py_None && !check_callable(hook)) return nullptr;
-    PyObject *const before = error_hook;
-    error_hook = hook != Py_None ? ombra::new_ref(hook).release() : nullptr;
-    return before != nullptr ? before : ombra::new_ref(Py_None).release();
+    if (hook != Py_None && (!check_callable(hook) || !hear_of_the_end())) return nullptr;
+    ombra::PyRef before = set_error_hook(hook != Py_None ? ombra::new_ref(hook) : nullptr);
+    return before != nullptr ? before.release() : ombra::new_ref(Py_None).release();
 }
 
 PyObject *bind(PyObject *, PyObject *args) {
@@ -311,7 +322,10 @@ PyObject *bind(PyObject *, PyObject *args) {
     const Callback *callback = callback_of_object(name);
     if (callback == nullptr || (callable != Py_None && !check_callable(callable))) return nullptr;
     auto node = bindings().extract(callback);
-    if (callable != Py_None && !enter(bindings(), callback, callable)) return nullptr;
+    if (callable != Py_None && !enter(bindings(), callback, callable)) {
+        if (!node.empty()) bindings().insert(std::move(node));
+        return nullptr;
+    }
     return node.empty() ? ombra::new_ref(Py_None).release() : node.mapped().object.release();
 }
 

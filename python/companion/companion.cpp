@@ -374,19 +374,17 @@ bool add_types() {
            add_type("Field", field_type());
 }
 
+bool finish() { return add_types() && ombra::share_notes(); }
+
 void init() {
     PyMethodDef *methods = all_methods();
     if (methods == nullptr) {
         PyErr_NoMemory();
         return;
     }
-    if (!SWIG_Python_RunEntry(
-            {kName, methods, callback_rows, &swig_module, nullptr, nullptr, nullptr, 0}))
-        return;
-    if (add_types() && ombra::share_notes())
+    if (SWIG_Python_RunEntry(
+            {kName, methods, callback_rows, &swig_module, nullptr, nullptr, nullptr, 0, finish}))
         ombra::count_at_exit(kName, tell_live_callbacks);
-    else
-        SWIG_Python_TakeModuleBack(kName);
 }
 
 }  // namespace

@@ -6,9 +6,9 @@
 
 #include "python/companion/array.h"
 #include "python/companion/instance.h"
-#include "python/companion/ready_type.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
+#include "runtime/ready_type.h"
 
 namespace companion {
 
@@ -245,7 +245,7 @@ PyObject *new_field(PyObject *owner, PyObject *table, const char *line, const ch
 
 }  // namespace
 
-PyTypeObject *field_type() { return ready_type(type_object, fill_type); }
+PyTypeObject *field_type() { return ombra::ready_type(type_object, fill_type); }
 
 PyObject *add_fields(PyObject *, PyObject *args) {
     PyObject *members = nullptr;

@@ -4,9 +4,9 @@
 
 #include <cstddef>
 
-#include "python/companion/ready_type.h"
 #include "runtime/pointer_conversion.h"
 #include "runtime/py_ref.h"
+#include "runtime/ready_type.h"
 
 namespace companion {
 
@@ -140,7 +140,7 @@ void fill_type(PyTypeObject &type) {
 
 }  // namespace
 
-PyTypeObject *instance_type() { return ready_type(type_object, fill_type); }
+PyTypeObject *instance_type() { return ombra::ready_type(type_object, fill_type); }
 
 PyObject *new_class(PyObject *, PyObject *args) {
     PyObject *name = nullptr;
@@ -172,7 +172,7 @@ PyObject *new_class(PyObject *, PyObject *args) {
     type->tp_clear = base->tp_clear;
     type->tp_alloc = PyType_GenericAlloc;
     type->tp_free = PyObject_GC_Del;
-    if (type->tp_dict == nullptr || PyType_Ready(type) != 0) return nullptr;
+    if (type->tp_dict == nullptr || !ombra::make_ready(*type)) return nullptr;
     return object.release();
 }
 

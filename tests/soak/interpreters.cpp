@@ -111,6 +111,7 @@ void callables_end_with_their_interpreter() {
         run("import sys\n"
             "def visit(*_):\n"
             "    raise AssertionError('ended')\n"
+            "companion.callback_errors(visit)\n"
             "companion.bind(companion.bcm_l2_traverse_cb, visit)\n"
             "key = companion.cookie(visit)\n"
             "m.bcm_l2_addr_register(0, companion.bcm_l2_addr_callback_t, key)\n");
@@ -119,7 +120,11 @@ void callables_end_with_their_interpreter() {
         "sys.stderr = StringIO.StringIO()\n"
         "add(5)\n"
         "assert m.bcm_l2_traverse(0, companion.bcm_l2_traverse_cb, None) < 0\n"
-        "assert not sys.stderr.getvalue(), sys.stderr.getvalue()\n");
+        "assert not sys.stderr.getvalue(), sys.stderr.getvalue()\n"
+        "companion.bind(companion.bcm_l2_traverse_cb, lambda *_: 1 / 0)\n"
+        "m.bcm_l2_traverse(0, companion.bcm_l2_traverse_cb, None)\n"
+        "assert 'ZeroDivisionError' in sys.stderr.getvalue(), sys.stderr.getvalue()\n"
+        "assert companion.callback_errors(None) is None\n");
 }
 
 void proxies_first() {

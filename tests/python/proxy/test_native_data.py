@@ -33,6 +33,8 @@ class ArrayTest(unittest.TestCase):
         for index in (3, -4, 1 << 70):
             self.assertRaises(IndexError, array.__getitem__, index)
             self.assertRaises(IndexError, array.__setitem__, index, 0)
+            self.assertRaises((IndexError, OverflowError),
+                              sdk.uint8Array_getitem, array, index)
         for items in ([1], range(4)):
             self.assertRaises(ValueError, array.__setitem__,
                               slice(0, 3), items)
