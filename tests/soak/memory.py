@@ -35,7 +35,7 @@ command = m.new_cmd_t()
 m.cmd_t_c_help_set(command, 'x' * 100)
 m.sal_config_set('soak.setting', 'value')
 m.sal_config_get('soak.setting')
-m.sh_process_command(0, 'show unit')
+m.sh_process_command(0, 'show units')
 companion.release(companion.cookie(len))
 value = sdk.U32(5)
 value.value = 7
