@@ -47,6 +47,7 @@ RULES = {
     'init': 'forgets what the chapter has stored',
     'qualifier': 'stores and reads the qualifier of a rule',
     'registration': 'keeps the callback, which nothing calls',
+    'still': 'gives zeros and no elements: what it tells of never moves here',
     'unavailable': 'refuses',
 }
 

@@ -2,6 +2,7 @@
 objects, bits and events are. All of it is read out of the sources."""
 
 import collections
+import fnmatch
 import os
 import re
 
@@ -90,17 +91,15 @@ class StandinPage(object):
             return 'modelled', answer
         if answer != 'unavailable':
             return 'generic', answer
-        families = [line[1] for line in self.lines if line[0] == 'unfit'
-                    and name.startswith(line[1])]
-        return 'without an answer', max(families) if families else ''
+        return 'without an answer', max(
+            [line[1] for line in self.lines if line[0] == 'none'
+             and fnmatch.fnmatchcase(name, line[1])])
 
     def reason(self, by):
         if '/' in by:
             return code(by)
-        for line in self.lines:
-            if line[0] == 'unfit' and line[1] == by:
-                return escaped(line[3])
-        return by or 'no rule fits what the declaration says'
+        return ''.join(escaped(line[3]) for line in self.lines
+                       if line[0] == 'none' and line[1] == by) or by
 
     # What there is.
 

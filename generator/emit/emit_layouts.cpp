@@ -120,9 +120,11 @@ class Layouts {
             if (!function.modelled.file.empty() || !plan.layer.starts_with("generic")) continue;
             Family &family = families[plan.family];
             family.key = std::max(family.key, plan.key);
-            for (const auto &binding : plan.bindings)
-                if (!binding.role.starts_with("list") && binding.role != "flags")
+            for (const auto &binding : plan.bindings) {
+                const bool asked = binding.role == "select" && binding.row >= plan.key;
+                if (!binding.role.starts_with("list") && binding.role != "flags" && !asked)
                     add_column(function, binding, family);
+            }
         }
         return families;
     }

@@ -80,6 +80,23 @@ std::optional<bool> Part::bind_aside(const Member &member, std::size_t i, Plan &
     return std::nullopt;
 }
 
+// A walk or a removal of all that asks for a value of the records: those of a group.
+void Part::bind_by_field(const Member &member, std::size_t i, Plan &plan) const {
+    const Shape &shape = member.shapes[i];
+    if (member.verb != "remove_all" && member.verb != "traverse") return;
+    if (shape.form != Form::value || is_control_word(shape.name)) return;
+    for (const auto &column : columns_) {
+        if (column.record == nullptr || column.list) continue;
+        const Variable *field = shapes_.field(*column.record, shape.name, "");
+        if (field == nullptr || shapes_.field_size(*field) != shape.size) continue;
+        PlanBinding binding{i, "select"};
+        binding.row = column.row + field->offset;
+        binding.size = shape.size;
+        plan.bindings.push_back(binding);
+        return;
+    }
+}
+
 // False if the parameter is one that no rule covers.
 bool Part::bind_parameter(const Member &member, std::size_t i, Plan &plan,
                           std::set<const PlanColumn *> &bound) {
@@ -90,7 +107,10 @@ bool Part::bind_parameter(const Member &member, std::size_t i, Plan &plan,
         plan.bindings.push_back({i, "callback"});  // no part of the key, but it has to be there
         return true;
     }
-    if (column == nullptr) return shape.form != Form::memory || shape.record != nullptr;
+    if (column == nullptr) {
+        bind_by_field(member, i, plan);
+        return shape.form != Form::memory || shape.record != nullptr;
+    }
     if (!comes_in(member.verb) && is_control_word(shape.name) && shape.form == Form::value &&
         !column->key) {
         return true;  // flags of this call, not those of the row

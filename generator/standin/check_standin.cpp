@@ -10,9 +10,9 @@
 namespace generator {
 namespace {
 
-constexpr std::array<const char *, 9> kWords = {"key",          "family",      "unfit",
-                                                "keyed-arrays", "same-column", "set-prefix",
-                                                "qualifier",    "names",       "numbers"};
+constexpr std::array<const char *, 12> kWords = {
+    "key",       "family", "unfit",   "keyed-arrays", "same-column", "set-prefix",
+    "qualifier", "names",  "numbers", "form",         "still",       "none"};
 
 const Struct *struct_named(const Model &model, const std::string &name) {
     const auto found = std::find_if(model.structs.begin(), model.structs.end(),
@@ -101,10 +101,28 @@ std::set<std::string> kinds_of(const Model &model) {
     return kinds;
 }
 
+// A function without an answer has its reason, once the table gives any.
+void check_answered(const Model &model, Faults &faults) {
+    const Shapes shapes(model);
+    if (std::none_of(model.standin.begin(), model.standin.end(),
+                     [](const StandinRow &row) { return row.word == "none"; }))
+        return;
+    for (std::size_t i = 0; i < model.functions.size(); ++i) {
+        const Function &function = model.functions[i];
+        if (function.module_native || !function.modelled.file.empty()) continue;
+        if (plans_of(model)[i].operation.empty() &&
+            shapes.known_pattern("none", function.row) == nullptr)
+            faults.add(function.place, "standin-none",
+                       "neither a model nor a rule answers '" + function.row +
+                           "'; define it in the stand-in, or write a line 'none' with the reason");
+    }
+}
+
 }  // namespace
 
 void check_standin(const Model &model, Faults &faults) {
     const std::set<std::string> kinds = kinds_of(model);  // the plans mark what they use
+    check_answered(model, faults);
     for (const auto &row : model.standin) {
         if (std::find(kWords.begin(), kWords.end(), row.word) == kWords.end()) {
             faults.add(row.place, "standin-word",

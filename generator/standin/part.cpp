@@ -161,6 +161,8 @@ void Part::find_forms() {
     for (const auto &member : members_)
         for (const std::size_t i : found[member.function].arrays)
             (goes_out(member.verb) ? given : taken).insert(member.shapes[i].name);
+    const bool told = std::any_of(members_.begin(), members_.end(),
+                                  [](const Member &member) { return goes_out(member.verb); });
     for (const auto &member : members_) {
         ListForm form = found[member.function];
         const bool out = goes_out(member.verb);
@@ -176,7 +178,7 @@ void Part::find_forms() {
             });
         } else {
             std::erase_if(form.arrays, [&](std::size_t i) {
-                return !(out ? taken : given).contains(member.shapes[i].name);
+                return told && !(out ? taken : given).contains(member.shapes[i].name);
             });
         }
         forms_[member.function] = form.any() ? form : ListForm{};

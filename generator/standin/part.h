@@ -69,6 +69,7 @@ class Part {
     std::optional<bool> bind_aside(const Member &member, std::size_t parameter, Plan &plan);
     bool bind_parameter(const Member &member, std::size_t parameter, Plan &plan,
                         std::set<const PlanColumn *> &bound);
+    void bind_by_field(const Member &member, std::size_t parameter, Plan &plan) const;
     void bind_embedded(const Member &member, Plan &plan, std::set<const PlanColumn *> &bound);
     std::string role_of(const Member &member, const Shape &shape, const PlanColumn &column,
                         bool element) const;

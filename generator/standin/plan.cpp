@@ -54,6 +54,11 @@ bool ends_with(const std::string &text, const std::string &end) {
 // The family of a function, and its verb there; no verb if the name has none.
 std::pair<std::string, std::string> family_of(const Shapes &shapes, const Function &function) {
     const std::string &name = function.row;
+    if (const StandinRow *said = shapes.known("form", name); said != nullptr) {
+        const std::size_t dot = said->details.rfind('.');
+        if (dot != std::string::npos)
+            return {said->details.substr(0, dot), said->details.substr(dot + 1)};
+    }
     const bool chapter = function.parameters.size() == 1 && takes_unit(function);
     for (const auto &row : kEndings) {
         if (!ends_with(name, row.ending)) continue;
@@ -210,6 +215,15 @@ std::vector<Plan> plan_all(const Model &model) {
             families[family].push_back(member);
     }
     for (const auto &[family, members] : families) plan_family(shapes, family, members);
+    for (std::size_t i = 0; i < plans.size(); ++i) {
+        const Function &function = model.functions[i];
+        if (!plans[i].operation.empty() || function.module_native || !takes_unit(function))
+            continue;
+        Member member{&function, "", {}, &plans[i]};
+        for (const auto &parameter : function.parameters)
+            member.shapes.push_back(shapes.of(parameter));
+        plan_still(shapes, member);
+    }
     plan_references(model, shapes, plans);
     return plans;
 }

@@ -94,6 +94,10 @@ bool plan_statistic(const Shapes &shapes, Member &member);
 bool plan_qualifier(const Shapes &shapes, const std::map<std::string, const Function *> &rows,
                     Member &member);
 
+// A plan for a function that the table calls still: what it gives never changes. False if it is
+// not.
+bool plan_still(const Shapes &shapes, Member &member);
+
 // The fields of a struct that tell one record from another, as columns; the whole struct as one
 // column for a struct of whose fields nothing is known.
 std::vector<PlanColumn> key_columns(const Shapes &shapes, const Shape &shape);

@@ -41,6 +41,17 @@ const StandinRow *Shapes::known(const std::string &word, const std::string &name
     return found->second;
 }
 
+const StandinRow *Shapes::known_pattern(const std::string &word, const std::string &name) const {
+    if (const StandinRow *exact = known(word, name); exact != nullptr) return exact;
+    for (const auto &row : model_.standin) {
+        if (row.word != word || !ends_with(row.name, "*")) continue;
+        if (!name.starts_with(row.name.substr(0, row.name.size() - 1))) continue;
+        row.used = true;
+        return &row;
+    }
+    return nullptr;
+}
+
 bool Shapes::is_plain_number(const std::string &type, const std::string &name) const {
     const auto found = plain_.find({type, name});
     return found != plain_.end() && (found->second->used = true);

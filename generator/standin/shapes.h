@@ -44,6 +44,8 @@ class Shapes {
     // What the table of the stand-in says of a name under that word, marked as used; null if it
     // says nothing.
     const StandinRow *known(const std::string &word, const std::string &name) const;
+    // The same for a function; a name that ends in a star stands for all that begin with the rest.
+    const StandinRow *known_pattern(const std::string &word, const std::string &name) const;
     // Whether it has a name that this one begins with.
     bool known_prefix(const std::string &word, const std::string &name) const;
     // Whether it says that an argument or a field of that type and name names nothing.

@@ -17,8 +17,9 @@ struct StatisticForm {
 };
 
 // `key..., stat, val`; `key..., nstat, stat_arr, value_arr`; `key..., stat, num_entries,
-// counter_indexes, counter_values`; `key..., stat_counter_id`; `key..., stat, stat_counter_id`.
-constexpr std::array<StatisticForm, 23> kForms = {{
+// counter_indexes, counter_values`; `key..., stat_counter_id`; `key..., stat, stat_counter_id`;
+// `key..., stat`.
+constexpr std::array<StatisticForm, 26> kForms = {{
     {"_stat_get", "_stat", "read", 2},
     {"_stat_get32", "_stat", "read", 2},
     {"_stat_sync_get", "_stat", "read", 2},
@@ -42,6 +43,9 @@ constexpr std::array<StatisticForm, 23> kForms = {{
     {"_stat_attach", "_stat_attach", "add", 1},
     {"_stat_detach", "_stat_attach", "remove", 0},
     {"_stat_id_get", "_stat_attach", "find", 2},
+    {"_stat_detach_with_id", "_stat_attach", "remove", 1},
+    {"_stat_clear", "_stat", "remove_all", 1},
+    {"_stat_extended_clear", "_stat_extended", "remove_all", 1},
 }};
 
 constexpr std::size_t kCounterBytes = 8;
@@ -132,16 +136,18 @@ bool plan_statistic(const Shapes &shapes, Member &member) {
         plan.count = key_end;
     else if (form->behind == 4)
         plan.count = key_end + 1;
-    if (form->behind >= 2 && !attached) {  // the number of the statistic
+    const bool clears = plan.operation == "remove_all";
+    if ((form->behind >= 2 || clears) && !attached) {  // the number of the statistic
         append(plan, member, form->behind == 3 ? key_end + 1 : key_end, "select",
                form->behind == 3);
     }
     if (form->behind == 4) append(plan, member, key_end + 2, "select", true);
     plan.key = plan.row;
-    if (form->behind != 0) {
-        append(plan, member, member.shapes.size() - 1,
-               attached && form->behind == 1 ? "write" : out, form->behind >= 3);
-    }
+    if (form->behind == 1 && attached)
+        append(plan, member, member.shapes.size() - 1, plan.operation == "add" ? "write" : "select",
+               false);
+    else if (form->behind != 0 && !clears)
+        append(plan, member, member.shapes.size() - 1, out, form->behind >= 3);
     const std::size_t value = form->behind == 4 ? member.shapes.back().size
                               : attached        ? 4
                                                 : kCounterBytes;

@@ -12,6 +12,30 @@ using namespace standin;
 
 namespace {
 
+Names without(Names names, const Names &others) {
+    std::erase_if(names, [&](const Name &one) {
+        return std::ranges::any_of(others, [&](const Name &other) {
+            return one.use == other.use && one.target == other.target;
+        });
+    });
+    return names;
+}
+
+// Takes new names back unless the entry that has them is there.
+struct Undo {
+    Undo(Switch &of, const Object &user, const Names &fresh) : chip(of), self(user), names(fresh) {}
+    ~Undo() {
+        if (!done) chip.references.unlink(self, names);
+    }
+    Undo(const Undo &) = delete;
+    Undo &operator=(const Undo &) = delete;
+
+    Switch &chip;
+    const Object &self;
+    const Names &names;
+    bool done = false;
+};
+
 int put_entry(Switch &chip, bcm_l2_addr_t entry, int event) {
     L2Chapter &l2 = chip.l2;
     if (!is_vlan(entry.vid))
@@ -24,11 +48,15 @@ int put_entry(Switch &chip, bcm_l2_addr_t entry, int event) {
     L2Row *row = l2.table.find_key(self.number);
     const Names before = row == nullptr ? Names{} : names_of(row->entry);
     const std::size_t capacity = table_capacity("l2", kL2Capacity);
+    const Names fresh = without(names, before);
+    const Names stale = without(before, names);
+    Undo undo(chip, self, fresh);  // what can fail comes first
+    chip.references.link(self, fresh);
     row = l2.table.put(entry, capacity);
     if (row == nullptr)
         return refused(BCM_E_FULL, std::to_string(l2.table.size()) + " addresses are there");
-    chip.references.unlink(self, before);
-    chip.references.link(self, names);
+    undo.done = true;
+    chip.references.unlink(self, stale);
     row->heard = l2.clock;
     note_l2(chip.events, entry, event);
     return BCM_E_NONE;

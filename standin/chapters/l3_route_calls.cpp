@@ -1,5 +1,6 @@
 // The calls of the routing chapter on hosts and routes.
 #include "sdk/bcm/l3.h"
+#include "standin/model/loans.h"
 #include "standin/model/tables.h"
 
 using namespace standin;
@@ -112,6 +113,16 @@ int remove_by_interface(const char *function, int unit, const typename Kind::Ent
     });
 }
 
+// The route with the longest prefix, up to that length, that covers the address.
+int find_covering(const std::map<RouteKey, bcm_l3_route_t> &routes, bcm_vrf_t vrf,
+                  const IpAddress &address, int longest, bcm_l3_route_t *route) {
+    for (int length = longest; length >= 0; --length)
+        if (const auto *const found =
+                find_in(routes, RouteKey{vrf, masked(address, length), length}))
+            return give(route, *found);
+    return refused(BCM_E_NOT_FOUND, "no route covers the address");
+}
+
 // Entries of the family that the flags name, numbered from 0; those from `start` to `end` are
 // called.
 template <class Kind, class Visit>
@@ -177,11 +188,26 @@ int bcm_l3_route_delete_by_interface(int unit, bcm_l3_route_t *info) {
 int bcm_l3_route_find(int unit, bcm_l3_host_t *host, bcm_l3_route_t *route) {
     return on_key<Hosts>(__func__, unit, host, [&](Switch &chip, auto &, const HostKey &key) {
         if (route == nullptr) return BCM_E_PARAM;
-        for (int length = key.address.bits(); length >= 0; --length) {
-            const RouteKey net{key.vrf, masked(key.address, length), length};
-            if (const auto *const found = find_in(chip.l3.routes, net)) return give(route, *found);
-        }
-        return int{BCM_E_NOT_FOUND};
+        return find_covering(chip.l3.routes, key.vrf, key.address, key.address.bits(), route);
+    });
+}
+
+// The next shorter prefix that covers a route.
+int bcm_l3_subnet_route_find(int unit, bcm_l3_route_t *route, bcm_l3_route_t *subnet_route) {
+    return on_key<Routes>(__func__, unit, route, [&](Switch &, auto &table, const RouteKey &key) {
+        if (subnet_route == nullptr) return int{BCM_E_PARAM};
+        if (!table.contains(key)) return gone<Routes>(key);
+        return find_covering(table, key.vrf, key.address, key.length - 1, subnet_route);
+    });
+}
+
+// A route has one hop, which may be a group of several.
+int bcm_l3_route_multipath_get(int unit, bcm_l3_route_t *info, bcm_l3_route_t *path_array,
+                               int path_max, int *path_count) {
+    return on_key<Routes>(__func__, unit, info, [&](Switch &, auto &table, const RouteKey &key) {
+        const auto *const there = find_in(table, key);
+        if (there == nullptr) return gone<Routes>(key);
+        return give_array(std::vector{*there}, path_max, path_array, path_count);
     });
 }
 

@@ -34,6 +34,26 @@ int change_list(const char *function, int unit, bcm_port_t port, std::uint32_t f
     });
 }
 
+int add_destination(const char *function, int unit, bcm_port_t port, std::uint32_t flags,
+                    bcm_gport_t mirror_dest_id) {
+    return change_list(function, unit, port, flags, [&](std::vector<bcm_gport_t> &list) {
+        if (std::ranges::find(list, mirror_dest_id) != list.end()) return BCM_E_EXISTS;
+        list.push_back(mirror_dest_id);
+        return BCM_E_NONE;
+    });
+}
+
+int give_destinations(const char *function, int unit, bcm_port_t port, std::uint32_t flags,
+                      int size, bcm_gport_t *destinations, int *count) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        const int number = local_port(port);
+        if (number < 0) return refused_port("port", port);
+        const MirroredTo *const list = find_in(mirrors_of(chip).of_port, {number, flags});
+        return give_array(list == nullptr ? std::vector<bcm_gport_t>{} : list->destinations, size,
+                          destinations, count);
+    });
+}
+
 int clear_mirrors(Switch &chip) {
     Mirrors &mirrors = mirrors_of(chip);
     References &references = chip.references;
@@ -155,22 +175,35 @@ int bcm_mirror_destination_traverse(int unit, bcm_mirror_destination_traverse_cb
 }
 
 int bcm_mirror_port_dest_add(int unit, bcm_port_t port, uint32 flags, bcm_gport_t mirror_dest_id) {
-    return change_list(__func__, unit, port, flags, [&](std::vector<bcm_gport_t> &list) {
-        if (std::ranges::find(list, mirror_dest_id) != list.end()) return BCM_E_EXISTS;
-        list.push_back(mirror_dest_id);
-        return BCM_E_NONE;
-    });
+    return add_destination(__func__, unit, port, flags, mirror_dest_id);
+}
+
+int bcm_mirror_port_destination_add(int unit, bcm_port_t port, uint32 flags,
+                                    bcm_gport_t mirror_dest_id, bcm_mirror_options_t options) {
+    if (options.flags != 0 || options.forward_strength != 0 || options.copy_strength != 0 ||
+        options.recycle_cmd != 0) {
+        return on_switch(__func__, unit, [](Switch &) {
+            return refused(BCM_E_UNAVAIL, "copies have no options of their own");
+        });
+    }
+    return add_destination(__func__, unit, port, flags, mirror_dest_id);
 }
 
 int bcm_mirror_port_dest_get(int unit, bcm_port_t port, uint32 flags, int mirror_dest_size,
                              bcm_gport_t *mirror_dest, int *mirror_dest_count) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        const int number = local_port(port);
-        if (number < 0) return refused_port("port", port);
-        const MirroredTo *const list = find_in(mirrors_of(chip).of_port, {number, flags});
-        return give_array(list == nullptr ? std::vector<bcm_gport_t>{} : list->destinations,
-                          mirror_dest_size, mirror_dest, mirror_dest_count);
-    });
+    return give_destinations(__func__, unit, port, flags, mirror_dest_size, mirror_dest,
+                             mirror_dest_count);
+}
+
+int bcm_mirror_port_destination_get(int unit, bcm_port_t port, uint32 flags, int mirror_dest_size,
+                                    bcm_gport_t *mirror_dest, int *mirror_dest_count,
+                                    bcm_mirror_options_t *options) {
+    if (mirror_dest_size > 0 && options == nullptr) return refuse(__func__, unit);
+    const int status = give_destinations(__func__, unit, port, flags, mirror_dest_size, mirror_dest,
+                                         mirror_dest_count);
+    for (int i = 0; status == BCM_E_NONE && mirror_dest_size > 0 && i < *mirror_dest_count; ++i)
+        options[i] = {};
+    return status;
 }
 
 int bcm_mirror_port_dest_delete(int unit, bcm_port_t port, uint32 flags,

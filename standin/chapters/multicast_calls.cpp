@@ -3,6 +3,7 @@
 
 #include "sdk/bcm/multicast.h"
 #include "standin/model/loans.h"
+#include "standin/model/named.h"
 #include "standin/model/tables.h"
 
 using namespace standin;
@@ -10,6 +11,18 @@ using namespace standin;
 namespace {
 
 using Members = std::vector<MulticastGroup::Member>;
+
+// Groups that were made in one call: how many, by the first.
+struct Runs {
+    std::map<bcm_multicast_t, int> size;
+};
+
+void visit_state(const Runs &runs, StateVisitor &to) {
+    for (const auto &[first, size] : runs.size) {
+        to.object("multicast_run", std::to_string(first));
+        to.number("size", size);
+    }
+}
 
 constexpr Numbering<bcm_multicast_t> kNumbers{"multicast", kMulticastGroups, 1,
                                               static_cast<int>(kMulticastGroups)};
@@ -87,8 +100,22 @@ int on_replications(const char *function, int unit, bcm_multicast_t group, int c
                           [&](Members &all) { return change_each(all, count, list, one); });
 }
 
+// A gport without its type.
+constexpr int number_of(bcm_gport_t gport) { return gport & ((1 << kGportTypeShift) - 1); }
+
+// on_switch where the group and the port are there.
+template <class Body>
+int encap(const char *function, int unit, bcm_multicast_t group, bcm_gport_t port, Body &&body) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        if (!groups_of(chip).contains(group)) return missing(group);
+        const int status = check_named(chip, kPortKind, "port", port);
+        return status < 0 ? status : body(chip);
+    });
+}
+
 int clear_groups(const char *function, int unit) {
     return start_chapter(function, unit, "bcm_multicast_", [](Switch &chip) {
+        chip.layers.forget<Runs>();
         return erase_objects(chip, groups_of(chip), ObjectKind::kMulticast);
     });
 }
@@ -203,22 +230,118 @@ int bcm_multicast_get(int unit, bcm_multicast_t group, uint32, int rep_max,
     });
 }
 
-// The encapsulation of a member that leaves in a VLAN is the VLAN, of a routed one its interface.
+// The encapsulation of a member that leaves in a VLAN is the VLAN, of a routed one its interface,
+// of one in a tunnel the number of its own port.
 int bcm_multicast_l2_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_vlan_t vid,
                                bcm_if_t *encap_id) {
-    return on_entry(__func__, unit, groups_of, group, [&](MulticastGroup &) {
-        if (gport_type(port) <= kLocalGport.type && local_port(port) < 0)
-            return refused_port("port", port);
-        return is_vlan(vid) ? give(encap_id, vid) : BCM_E_PARAM;
+    return encap(__func__, unit, group, port,
+                 [&](Switch &) { return is_vlan(vid) ? give(encap_id, vid) : BCM_E_PARAM; });
+}
+
+#define INTERFACE_ENCAP(name)                                                                  \
+    int name(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t intf,                 \
+             bcm_if_t *encap_id) {                                                             \
+        return encap(__func__, unit, group, port,                                              \
+                     [&](Switch &) { return intf > 0 ? give(encap_id, intf) : BCM_E_PARAM; }); \
+    }
+INTERFACE_ENCAP(bcm_multicast_l3_encap_get)
+INTERFACE_ENCAP(bcm_multicast_trill_encap_get)
+#undef INTERFACE_ENCAP
+
+int bcm_multicast_egress_object_encap_get(int unit, bcm_multicast_t group, bcm_if_t intf,
+                                          bcm_if_t *encap_id) {
+    return encap(__func__, unit, group, kCpuPort, [&](Switch &chip) {
+        if (!chip.l3.egresses.contains(intf)) return missing(intf);
+        return give(encap_id, intf);
     });
 }
 
-int bcm_multicast_l3_encap_get(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_if_t intf,
-                               bcm_if_t *encap_id) {
-    return on_entry(__func__, unit, groups_of, group, [&](MulticastGroup &) {
-        if (gport_type(port) <= kLocalGport.type && local_port(port) < 0)
-            return refused_port("port", port);
-        return intf > 0 ? give(encap_id, intf) : BCM_E_PARAM;
+#define PORT_ENCAP(name)                                                                 \
+    int name(int unit, bcm_multicast_t group, bcm_gport_t port, bcm_gport_t member_port, \
+             bcm_if_t *encap_id) {                                                       \
+        return encap(__func__, unit, group, port, [&](Switch &chip) {                    \
+            const int status = check_named(chip, kPortKind, "member_port", member_port); \
+            return status < 0 ? status : give(encap_id, number_of(member_port));         \
+        });                                                                              \
+    }
+PORT_ENCAP(bcm_multicast_extender_encap_get)
+PORT_ENCAP(bcm_multicast_l2gre_encap_get)
+PORT_ENCAP(bcm_multicast_mac_encap_get)
+PORT_ENCAP(bcm_multicast_mim_encap_get)
+PORT_ENCAP(bcm_multicast_niv_encap_get)
+PORT_ENCAP(bcm_multicast_subport_encap_get)
+PORT_ENCAP(bcm_multicast_vlan_encap_get)
+PORT_ENCAP(bcm_multicast_vpls_encap_get)
+PORT_ENCAP(bcm_multicast_vxlan_encap_get)
+PORT_ENCAP(bcm_multicast_wlan_encap_get)
+#undef PORT_ENCAP
+
+// The longest run of free numbers, of which the first counts.
+int bcm_multicast_group_free_range_get(int unit, uint32 flags, bcm_multicast_t *start,
+                                       bcm_multicast_t *end) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        if (flags != 0 || start == nullptr || end == nullptr) return int{BCM_E_PARAM};
+        int last = kNumbers.first - 1;
+        int longest = 0;
+        const auto run = [&](int next) {
+            if (next - last - 1 > longest) {
+                longest = next - last - 1;
+                *start = last + 1;
+                *end = next - 1;
+            }
+            last = next;
+        };
+        for (const auto &[group, one] : groups_of(chip)) run(group);
+        run(kNumbers.last + 1);
+        return longest > 0 ? int{BCM_E_NONE} : refused(BCM_E_FULL, "no group is free");
+    });
+}
+
+// Groups with numbers that follow each other. They go one by one, or together by the first.
+int bcm_multicast_multi_alloc(int unit, bcm_multicast_multi_info_t info,
+                              bcm_multicast_t *base_group) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        auto &groups = groups_of(chip);
+        const int count = info.number_of_elements;
+        if (base_group == nullptr || count < 1) return int{BCM_E_PARAM};
+        const bool given = (info.flags & kWithId) != 0;
+        int first = given ? *base_group : kNumbers.first;
+        if (given && !within(first, kNumbers.first, kNumbers.last)) return int{BCM_E_PARAM};
+        for (int next = first; next < first + count; ++next) {
+            if (next > kNumbers.last)
+                return refused(BCM_E_FULL, "so many do not follow each other");
+            if (!groups.contains(next)) continue;
+            if (given) return refused(BCM_E_EXISTS, "group " + std::to_string(next) + " is there");
+            first = next + 1;
+        }
+        if (groups.size() + static_cast<std::size_t>(count) >
+            table_capacity(kNumbers.name, kNumbers.capacity))
+            return refused(BCM_E_FULL, std::to_string(groups.size()) + " are there");
+        for (int next = first; next < first + count; ++next)
+            groups[next].flags = info.flags & ~kWithId;
+        chip.layers.of<Runs>().size[first] = count;
+        return give(base_group, first);
+    });
+}
+
+int bcm_multicast_multi_free(int unit, bcm_multicast_t group) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        auto &groups = groups_of(chip);
+        auto &runs = chip.layers.of<Runs>().size;
+        const auto run = runs.find(group);
+        if (run == runs.end()) return missing(group);
+        std::vector<bcm_multicast_t> left;
+        for (int one = group; one < group + run->second; ++one)
+            if (groups.contains(one)) left.push_back(one);
+        for (const bcm_multicast_t one : left)
+            if (const int status =
+                    chip.references.check_unused(chip, object(ObjectKind::kMulticast, one));
+                status < 0)
+                return status;
+        for (const bcm_multicast_t one : left)
+            erase_object(chip, groups, ObjectKind::kMulticast, one);
+        runs.erase(run);
+        return int{BCM_E_NONE};
     });
 }
 

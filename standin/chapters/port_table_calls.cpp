@@ -5,6 +5,7 @@
 #include "standin/chapters/hooks.h"
 #include "standin/chapters/linkscan.h"
 #include "standin/chapters/port_access.h"
+#include "standin/model/named.h"
 #include "standin/model/tables.h"
 
 using namespace standin;
@@ -54,6 +55,32 @@ int clear_ports(Switch &chip) {
     chip.ports = std::move(fresh);
     link_ports(chip);
     return BCM_E_NONE;
+}
+
+int tell_settings(const char *function, int unit, bcm_port_t port, bcm_port_info_t *info) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        const int number = local_port(port);
+        if (number < 0) return refused_port("port", port);
+        return info == nullptr ? BCM_E_PARAM : give(info, port_info(chip, number));
+    });
+}
+
+// What of the structure can be set; all or nothing. The masks of actions are not looked at.
+int take_settings(const char *function, int unit, bcm_port_t port, const bcm_port_info_t *info) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        Port *const one = chip.ports.find(port);
+        if (one == nullptr) return refused_port("port", port);
+        if (info == nullptr || !good_settings(*info)) return BCM_E_PARAM;
+        if (!can_run_at(*one, info->speed)) return BCM_E_CONFIG;
+        const Object self = object(ObjectKind::kPort, local_port(port));
+        const int status = change(chip, self, *one, [&](Port &made) {
+            each_setting(*info, made, [](const auto &told, auto &kept) { copy(kept, told); });
+            std::copy_n(info->pause_mac, made.pause_address.size(), made.pause_address.begin());
+            return BCM_E_NONE;
+        });
+        if (status == BCM_E_NONE) scan_link(chip, local_port(port), ScanCause::kChange);
+        return status;
+    });
 }
 
 }  // namespace
@@ -139,28 +166,54 @@ char *bcm_port_name(int unit, int port) {
 }
 
 int bcm_port_info_get(int unit, bcm_port_t port, bcm_port_info_t *info) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        const int number = local_port(port);
-        if (number < 0) return refused_port("port", port);
-        return info == nullptr ? BCM_E_PARAM : give(info, port_info(chip, number));
+    return tell_settings(__func__, unit, port, info);
+}
+int bcm_port_info_save(int unit, bcm_port_t port, bcm_port_info_t *info) {
+    return tell_settings(__func__, unit, port, info);
+}
+
+int bcm_port_info_set(int unit, bcm_port_t port, bcm_port_info_t *info) {
+    return take_settings(__func__, unit, port, info);
+}
+int bcm_port_info_restore(int unit, bcm_port_t port, bcm_port_info_t *info) {
+    return take_settings(__func__, unit, port, info);
+}
+
+int bcm_port_probe(int unit, bcm_pbmp_t pbmp, bcm_pbmp_t *okay_pbmp) {
+    return on_switch(__func__, unit, [&](Switch &) {
+        return is_subset(pbmp, kAllPorts) ? give(okay_pbmp, pbmp) : refused_ports(pbmp);
     });
 }
 
-// What of the structure can be set; all or nothing. The masks of actions are not looked at.
-int bcm_port_info_set(int unit, bcm_port_t port, bcm_port_info_t *info) {
+// A port that is detached is disabled.
+int bcm_port_detach(int unit, bcm_pbmp_t pbmp, bcm_pbmp_t *detached) {
     return on_switch(__func__, unit, [&](Switch &chip) {
-        Port *const one = chip.ports.find(port);
-        if (one == nullptr) return refused_port("port", port);
-        if (info == nullptr || !good_settings(*info)) return BCM_E_PARAM;
-        if (!can_run_at(*one, info->speed)) return BCM_E_CONFIG;
-        const Object self = object(ObjectKind::kPort, local_port(port));
-        const int status = change(chip, self, *one, [&](Port &made) {
-            each_setting(*info, made, [](const auto &told, auto &kept) { copy(kept, told); });
-            std::copy_n(info->pause_mac, made.pause_address.size(), made.pause_address.begin());
-            return BCM_E_NONE;
-        });
-        if (status == BCM_E_NONE) scan_link(chip, local_port(port), ScanCause::kChange);
-        return status;
+        if (!is_subset(pbmp, kAllPorts)) return refused_ports(pbmp);
+        if (detached == nullptr) return int{BCM_E_PARAM};
+        for (int port = 0; port < kPorts; ++port) {
+            if (!has_port(pbmp, port)) continue;
+            chip.ports.find(port)->enable = 0;
+            note_link(chip, port);
+        }
+        return give(detached, pbmp);
+    });
+}
+
+// The processor's port has no interface to the network.
+int bcm_port_to_nif_id(int unit, bcm_port_t port, int *nif_id) {
+    return on_switch(__func__, unit, [&](Switch &) {
+        const int number = local_port(port);
+        return number < 1 ? refused_port("port", port) : give(nif_id, number);
+    });
+}
+
+// The number of a port that the unit does not have is no gport that could be made.
+int bcm_port_gport_is_free(int unit, bcm_gport_t port) {
+    return on_switch(__func__, unit, [&](Switch &chip) {
+        if (check_named(chip, kPortKind, "port", port) == BCM_E_NONE)
+            return refused(BCM_E_EXISTS, "gport " + std::to_string(port) + " is in use");
+        const int type = gport_type(port);
+        return type <= 0 || type == kLocalGport.type ? refused_port("port", port) : int{BCM_E_NONE};
     });
 }
 

@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "standin/model/model.h"
+#include "standin/model/named.h"
 #include "standin/model/switch.h"
 
 namespace standin {
@@ -169,6 +170,11 @@ int find_names(Switch &chip, std::span<const Reference> references, const Generi
         } while (list);
     }
     return BCM_E_NONE;
+}
+
+int check_named(Switch &chip, const NameKind &kind, const char *field, std::int64_t number) {
+    Object target{};
+    return find_target(chip, {.kind = &kind, .field = field}, number, target);
 }
 
 void put_row(Switch &chip, const std::string &family, GenericTable &table, std::string_view key,

@@ -24,12 +24,13 @@ std::size_t L2Index::slot_of(std::uint64_t key) const {
 }
 
 void L2Index::insert(std::uint64_t key, std::uint32_t number) {
-    if (2 * ++size_ > slots_.size()) {
+    if (2 * (size_ + 1) > slots_.size()) {
         std::vector<Slot> old(2 * slots_.size());
         old.swap(slots_);
         for (const Slot &slot : old)
             if (slot.number != kNone) slots_[slot_of(slot.key)] = slot;
     }
+    ++size_;
     slots_[slot_of(key)] = {key, number};
 }
 
@@ -79,11 +80,18 @@ L2Row *L2Table::put(const bcm_l2_addr_t &entry, std::size_t capacity) {
         return row;
     }
     if (size() >= capacity) return nullptr;
+    const std::size_t places = rows_.size();
     const std::uint32_t place = take_place();
+    try {
+        index_.insert(l2_key(entry.mac, entry.vid), place);
+    } catch (...) {
+        walk_.pop_back();
+        orders_.resize(places);
+        rows_.size() > places ? rows_.pop_back() : free_.push_back(place);
+        throw;
+    }
     rows_[place] = {0, entry};
     orders_[place] = ++last_order_;
-    walk_.push_back({last_order_, place});
-    index_.insert(l2_key(entry.mac, entry.vid), place);
     count(entry, true);
     return &rows_[place];
 }
@@ -91,10 +99,10 @@ L2Row *L2Table::put(const bcm_l2_addr_t &entry, std::size_t capacity) {
 void L2Table::erase(L2Row &row) {
     const std::uint64_t key = l2_key(row.entry.mac, row.entry.vid);
     const std::uint32_t place = index_.find(key);
+    free_.push_back(place);  // the only step that can fail
     index_.erase(key);
     count(row.entry, false);
     orders_[place] = 0;
-    free_.push_back(place);
     if (walk_.size() > 2 * index_.size() + 64) squeeze();
 }
 
@@ -113,14 +121,20 @@ L2Row *L2Table::next(Cursor &cursor) {
     return &rows_[walk_[step].place];
 }
 
+// With its step in the walk, or neither of them.
 std::uint32_t L2Table::take_place() {
-    if (free_.empty()) {
-        rows_.emplace_back();
-        orders_.push_back(0);
-        return static_cast<std::uint32_t>(rows_.size() - 1);
+    const bool fresh = free_.empty();
+    const auto place = fresh ? static_cast<std::uint32_t>(rows_.size()) : free_.back();
+    walk_.push_back({last_order_ + 1, place});
+    try {
+        if (fresh) orders_.push_back(0);
+        if (fresh) rows_.emplace_back();
+    } catch (...) {
+        walk_.pop_back();
+        orders_.resize(rows_.size());
+        throw;
     }
-    const std::uint32_t place = free_.back();
-    free_.pop_back();
+    if (!fresh) free_.pop_back();
     return place;
 }
 

@@ -2,6 +2,7 @@
 #include "standin/model/refusal.h"
 
 #include <algorithm>
+#include <new>
 
 #include "standin/base/log.h"
 #include "standin/model/switch.h"
@@ -55,8 +56,11 @@ int CallRecord::close(int status) const {
     last.unit = unit_;
     last.status = status;
     last.why.swap(running.why);
-    if (log_level(kLayerBcm, kSourceApi) >= kSeverityInfo)
-        log_message(kSeverityInfo, kLayerBcm, kSourceApi, kNoUnit, sentence(last));
+    try {
+        if (log_level(kLayerBcm, kSourceApi) >= kSeverityInfo)
+            log_message(kSeverityInfo, kLayerBcm, kSourceApi, kNoUnit, sentence(last));
+    } catch (const std::bad_alloc &) {  // a refusal for want of memory stays one
+    }
     return status;
 }
 

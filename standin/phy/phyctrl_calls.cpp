@@ -1,6 +1,8 @@
 // Link, speed, medium and abilities. What the port has too is the port's.
 #include <algorithm>
 
+#include "sdk/bcm/petra.h"
+#include "sdk/bcm/port.h"
 #include "sdk/soc/phy.h"
 #include "sdk/soc/phyctrl.h"
 #include "standin/phy/mode_text.h"
@@ -357,6 +359,29 @@ int soc_phyctrl_ability_advert_set(int unit, soc_port_t port, soc_port_ability_t
     return on_phy(__func__, unit, port, [&](PhyView &view) {
         return ability == nullptr ? BCM_E_PARAM : advertise(view, mode_of(*ability));
     });
+}
+
+// The port chapter asks the same.
+int bcm_port_ability_get(int unit, bcm_port_t port, bcm_port_abil_t *ability_mask) {
+    return give_mode(__func__, unit, port, ability_mask, supported);
+}
+int bcm_port_advert_remote_get(int unit, bcm_port_t port, bcm_port_abil_t *ability_mask) {
+    return give_mode(__func__, unit, port, ability_mask, remote);
+}
+int bcm_petra_port_advert_remote_get(int unit, bcm_port_t port, bcm_port_abil_t *ability_mask) {
+    return give_mode(__func__, unit, port, ability_mask, remote);
+}
+int bcm_port_ability_local_get(int unit, bcm_port_t port, bcm_port_ability_t *ability_mask) {
+    return give_ability(__func__, unit, port, ability_mask, supported);
+}
+int bcm_port_ability_remote_get(int unit, bcm_port_t port, bcm_port_ability_t *ability_mask) {
+    return give_ability(__func__, unit, port, ability_mask, remote);
+}
+int bcm_port_medium_get(int unit, bcm_port_t port, bcm_port_medium_t *medium) {
+    return get_phy_field(__func__, unit, port, &Phy::medium, medium);
+}
+void bcm_port_ability_t_init(bcm_port_ability_t *ability_mask) {
+    if (ability_mask != nullptr) *ability_mask = {};
 }
 
 }  // extern "C"

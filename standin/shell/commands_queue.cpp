@@ -1,5 +1,5 @@
-// Commands on quality of service: maps of priorities, queues and their schedulers. Their calls have
-// no model, so the words are the fields of the rows that they keep.
+// Commands on quality of service: maps of priorities, queues and their schedulers. Most of their
+// calls have no model, so the words are the fields of the rows that they keep.
 #include <array>
 #include <cstring>
 
@@ -11,6 +11,8 @@
 #include "standin/model/tables.h"
 #include "standin/shell/commands.h"
 #include "standin/shell/fields.h"
+#include "standin/shell/queue_rows.h"
+#include "standin/text/unit_ports.h"
 
 namespace standin {
 namespace {
@@ -61,19 +63,32 @@ cmd_result_t qos_port(CommandCall &call) {
     return report(call, bcm_qos_port_map_set(call.unit(), row.port, row.ing_map, row.egr_map));
 }
 
-struct QueuesRow {
-    int numq;
-};
-cmd_result_t cosq_queues(CommandCall &call) {
-    return report(call, bcm_cosq_config_set(call.unit(), row_of<QueuesRow>(call).numq));
+cmd_result_t queues_show(CommandCall &call) {
+    const QueueRows &rows_of = *queue_rows_of(call.form().layout);
+    Rows rows(columns_of(call.form()));
+    const PortNames names = unit_ports(call.unit());
+    const int status = on_switch("cosq show", call.unit(), [&](Switch &chip) {
+        for (const std::string &row : rows_of.of(queues_of(chip)))
+            rows.row(cells_of(rows.columns(), rows_of.layout.fields, row.data(), names, {}));
+        return BCM_E_NONE;
+    });
+    if (status < 0) return report(call, status);
+    rows.show();
+    return kOk;
 }
 
-struct MappingRow {
-    int priority, cosq;
-};
+cmd_result_t cosq_queues(CommandCall &call) {
+    return report(call, bcm_cosq_config_set(call.unit(), row_of<QueueCountRow>(call).numq));
+}
+
 cmd_result_t cosq_map(CommandCall &call) {
-    const auto row = row_of<MappingRow>(call);
+    const auto row = row_of<QueueMapRow>(call);
     return report(call, bcm_cosq_mapping_set(call.unit(), row.priority, row.cosq));
+}
+
+cmd_result_t cosq_portmap(CommandCall &call) {
+    const auto row = row_of<PortQueueMapRow>(call);
+    return report(call, bcm_cosq_port_mapping_set(call.unit(), row.port, row.priority, row.cosq));
 }
 
 struct BandwidthRow {
@@ -87,14 +102,8 @@ cmd_result_t cosq_bandwidth(CommandCall &call) {
                             row.flags));
 }
 
-struct SchedRow {
-    bcm_pbmp_t pbm;
-    int mode;
-    int weights[8];
-    int delay;
-};
 cmd_result_t cosq_sched(CommandCall &call) {
-    const auto row = row_of<SchedRow>(call);
+    const auto row = row_of<QueueSchedRow>(call);
     return report(call,
                   bcm_cosq_port_sched_set(call.unit(), row.pbm, row.mode, row.weights, row.delay));
 }
@@ -149,90 +158,99 @@ constexpr Form kQosForms[] = {
      "bcm_qos_port_map"}};
 constexpr Command kQos = configuring({"qos", "Maps of priorities", kQosForms, "show"});
 
-constexpr Form kCosqForms[] = {{"queues show",
-                                "How many queues there are",
-                                "cosq queues show",
-                                family_show,
-                                {},
-                                {},
-                                "bcm_cosq_config"},
-                               {"queues",
-                                "Choose how many queues there are",
-                                "cosq queues numq=8",
-                                cosq_queues,
-                                kFields,
-                                {},
-                                "bcm_cosq_config"},
-                               {"map show",
-                                "The queues of priorities",
-                                "cosq map show",
-                                family_show,
-                                {},
-                                {},
-                                "bcm_cosq_mapping"},
-                               {"map",
-                                "Choose the queue of a priority",
-                                "cosq map priority=5 cosq=3",
-                                cosq_map,
-                                kFields,
-                                {},
-                                "bcm_cosq_mapping"},
-                               {"bandwidth show",
-                                "What queues of ports may send",
-                                "cosq bandwidth show",
-                                family_show,
-                                {},
-                                {},
-                                "bcm_cosq_port_bandwidth"},
-                               {"bandwidth",
-                                "Choose what a queue of a port may send",
-                                "cosq bandwidth port=3 cosq=1 kbits_sec_max=100000",
-                                cosq_bandwidth<bcm_cosq_port_bandwidth_set>,
-                                kFields,
-                                {},
-                                "bcm_cosq_port_bandwidth"},
-                               {"sched show",
-                                "How ports choose among queues",
-                                "cosq sched show",
-                                family_show,
-                                {},
-                                {},
-                                "bcm_cosq_port_sched"},
-                               {"sched",
-                                "Choose how ports choose among queues",
-                                "cosq sched pbm=xe1-xe4 mode=2 weights[0]=1 weights[1]=4",
-                                cosq_sched,
-                                kFields,
-                                {},
-                                "bcm_cosq_port_sched"},
-                               {"gbandwidth show",
-                                "What queues of global ports may send",
-                                "cosq gbandwidth show",
-                                family_show,
-                                {},
-                                {},
-                                "bcm_cosq_gport_bandwidth"},
-                               {"gbandwidth",
-                                "Choose what a queue of a global port may send",
-                                "cosq gbandwidth gport=3 cosq=1 kbits_sec_max=100000",
-                                cosq_bandwidth<bcm_cosq_gport_bandwidth_set>,
-                                kFields,
-                                {},
-                                "bcm_cosq_gport_bandwidth"},
-                               {"gsched show",
-                                "How global ports choose among queues",
-                                "cosq gsched show",
-                                family_show,
-                                {},
-                                {},
-                                "bcm_cosq_gport_sched"},
-                               {"gsched",
-                                "Choose how a global port chooses among queues",
-                                "cosq gsched gport=3 cosq=1 mode=2 weight=4",
-                                cosq_gsched,
-                                kFields,
-                                {},
-                                "bcm_cosq_gport_sched"}};
+constexpr Form kCosqForms[] = {
+    {"queues show",
+     "How many queues there are",
+     "cosq queues show",
+     queues_show,
+     {},
+     {},
+     "cosq queues"},
+    {"queues",
+     "Choose how many queues there are",
+     "cosq queues numq=8",
+     cosq_queues,
+     kFields,
+     {},
+     "cosq queues"},
+    {"map show", "The queues of priorities", "cosq map show", queues_show, {}, {}, "cosq map"},
+    {"map",
+     "Choose the queue of a priority",
+     "cosq map priority=5 cosq=3",
+     cosq_map,
+     kFields,
+     {},
+     "cosq map"},
+    {"portmap show",
+     "The queues of priorities at ports where they differ",
+     "cosq portmap show",
+     queues_show,
+     {},
+     {},
+     "cosq portmap"},
+    {"portmap",
+     "Choose the queue of a priority at a port",
+     "cosq portmap port=3 priority=5 cosq=2",
+     cosq_portmap,
+     kFields,
+     {},
+     "cosq portmap"},
+    {"bandwidth show",
+     "What queues of ports may send",
+     "cosq bandwidth show",
+     family_show,
+     {},
+     {},
+     "bcm_cosq_port_bandwidth"},
+    {"bandwidth",
+     "Choose what a queue of a port may send",
+     "cosq bandwidth port=3 cosq=1 kbits_sec_max=100000",
+     cosq_bandwidth<bcm_cosq_port_bandwidth_set>,
+     kFields,
+     {},
+     "bcm_cosq_port_bandwidth"},
+    {"sched show",
+     "How ports choose among queues",
+     "cosq sched show",
+     queues_show,
+     {},
+     {},
+     "cosq sched"},
+    {"sched",
+     "Choose how ports choose among queues",
+     "cosq sched pbm=xe1-xe4 mode=2 weights[0]=1 weights[1]=4",
+     cosq_sched,
+     kFields,
+     {},
+     "cosq sched"},
+    {"gbandwidth show",
+     "What queues of global ports may send",
+     "cosq gbandwidth show",
+     family_show,
+     {},
+     {},
+     "bcm_cosq_gport_bandwidth"},
+    {"gbandwidth",
+     "Choose what a queue of a global port may send",
+     "cosq gbandwidth gport=3 cosq=1 kbits_sec_max=100000",
+     cosq_bandwidth<bcm_cosq_gport_bandwidth_set>,
+     kFields,
+     {},
+     "bcm_cosq_gport_bandwidth"},
+    {"gsched show",
+     "How global ports choose among queues",
+     "cosq gsched show",
+     family_show,
+     {},
+     {},
+     "bcm_cosq_gport_sched"},
+    {"gsched",
+     "Choose how a global port chooses among queues",
+     "cosq gsched gport=3 cosq=1 mode=2 weight=4",
+     cosq_gsched,
+     kFields,
+     {},
+     "bcm_cosq_gport_sched"}};
 constexpr Command kCosq = configuring({"cosq", "Queues and their schedulers", kCosqForms});
 
 // Every table of the calls without a model.

@@ -15,6 +15,7 @@
 #include "standin/model/model.h"
 #include "standin/model/switch.h"
 #include "standin/shell/address_words.h"
+#include "standin/shell/queue_rows.h"
 #include "standin/shell/values.h"
 #include "standin/text/address_text.h"
 #include "standin/text/unit_ports.h"
@@ -147,9 +148,10 @@ std::size_t extent_of(LayoutFields fields) {
     return extent;
 }
 
-// Of a structure, or of the rows of a family.
+// Of a structure, of the rows of a family, or of queues.
 LayoutFields fields_named(std::string_view name) {
     if (const StructLayout *const found = struct_layout(name)) return found->fields;
+    if (const QueueRows *const found = queue_rows_of(name)) return found->layout.fields;
     const FamilyLayout *const family = family_layout(name);
     return family == nullptr ? LayoutFields{} : family->fields;
 }

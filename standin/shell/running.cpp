@@ -13,6 +13,7 @@
 #include "standin/shell/commands.h"
 #include "standin/shell/field_words.h"
 #include "standin/shell/fields.h"
+#include "standin/shell/queue_rows.h"
 #include "standin/text/unit_ports.h"
 
 namespace standin {
@@ -339,12 +340,12 @@ struct FamilyCommand {
     const char *family;
     const char *command;
 };
-constexpr FamilyCommand kFamilyCommands[] = {
-    {"bcm_qos_map", "qos create"},          {"bcm_qos_map/members", "qos add"},
-    {"bcm_qos_port_map", "qos port"},       {"bcm_cosq_config", "cosq queues"},
-    {"bcm_cosq_mapping", "cosq map"},       {"bcm_cosq_port_bandwidth", "cosq bandwidth"},
-    {"bcm_cosq_port_sched", "cosq sched"},  {"bcm_cosq_gport_bandwidth", "cosq gbandwidth"},
-    {"bcm_cosq_gport_sched", "cosq gsched"}};
+constexpr FamilyCommand kFamilyCommands[] = {{"bcm_qos_map", "qos create"},
+                                             {"bcm_qos_map/members", "qos add"},
+                                             {"bcm_qos_port_map", "qos port"},
+                                             {"bcm_cosq_port_bandwidth", "cosq bandwidth"},
+                                             {"bcm_cosq_gport_bandwidth", "cosq gbandwidth"},
+                                             {"bcm_cosq_gport_sched", "cosq gsched"}};
 
 void write_families(Writer &to) {
     for (const FamilyCommand &one : kFamilyCommands) {
@@ -354,6 +355,19 @@ void write_families(Writer &to) {
         for (const auto &[key, bytes] : table->second.rows)
             to.add(one.command +
                    field_words(row->fields, bytes.bytes.data(), to.names, nullptr, {}, row->key));
+    }
+}
+
+void write_queues(Writer &to) {
+    const auto queues = [](const Switch &chip) -> const Queues & {
+        return queues_of(const_cast<Switch &>(chip));
+    };
+    for (const QueueRows &one : queue_rows) {
+        const std::vector<std::string> first = one.of(queues(to.first));
+        for (const std::string &row : one.of(queues(to.now)))
+            if (std::find(first.begin(), first.end(), row) == first.end())
+                to.add(one.layout.family + field_words(one.layout.fields, row.data(), to.names,
+                                                       nullptr, {}, one.layout.key));
     }
 }
 
@@ -371,7 +385,7 @@ bool has_command(std::string_view kind) {
         "multicast",     "mirror_mode", "mirror",      "mirrored_port", "policer",
         "l3_limits",     "l3_intf",     "l3_egress",   "l3_multipath",  "l3_host",
         "l3_route",      "field_group", "field_range", "field_stat",    "field_entry",
-        "l2_table",      "learn_limit", "l2"};
+        "l2_table",      "learn_limit", "l2",          "cosq",          "cosq_port"};
     return std::find(std::begin(kKinds), std::end(kKinds), kind) != std::end(kKinds) ||
            std::any_of(std::begin(kFamilyCommands), std::end(kFamilyCommands),
                        [&](const FamilyCommand &one) { return kind == one.family; });
@@ -415,6 +429,7 @@ std::vector<std::string> running_lines(const SavedState &saved, const PortNames 
     write_l3(to);
     write_field(to);
     write_l2(to);
+    write_queues(to);
     write_families(to);
     write_ends(to);
     write_rest(to, saved);

@@ -7,6 +7,7 @@
 #include "sdk/bcm/multicast.h"
 #include "sdk/bcm/policer.h"
 #include "sdk/bcm/trunk.h"
+#include "sdk/bcm/vlan.h"
 #include "standin/model/groups.h"
 #include "standin/model/tables.h"
 
@@ -127,6 +128,42 @@ TEST_F(Chip, MulticastReplicationsAreTheEgressSide) {
     ASSERT_EQ(count, 1);
     EXPECT_EQ(list[0].port, 4);
     EXPECT_EQ(bcm_multicast_add(0, group, 0, 1, nullptr), BCM_E_PARAM);
+}
+
+TEST_F(Chip, MulticastEncapsulationsFollowTheMember) {
+    bcm_multicast_t group = 0;
+    ASSERT_EQ(bcm_multicast_create(0, 0, &group), BCM_E_NONE);
+    bcm_vlan_port_t service{};
+    ASSERT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
+    service.vsi = 10;
+    ASSERT_EQ(bcm_vlan_port_create(0, &service), BCM_E_NONE);
+    const auto get = bcm_multicast_vlan_encap_get;
+    bcm_if_t encap = 0;
+    EXPECT_EQ(get(0, group, 5, service.vlan_port_id, &encap), BCM_E_NONE);
+    EXPECT_EQ(encap, service.vlan_port_id & 0x3ffffff);
+    EXPECT_EQ(get(0, group, 5, service.vlan_port_id + 1, &encap), BCM_E_PORT);
+    EXPECT_EQ(get(0, group, 999, service.vlan_port_id, &encap), BCM_E_PORT);
+    EXPECT_EQ(get(0, group + 1, 5, service.vlan_port_id, &encap), BCM_E_NOT_FOUND);
+    EXPECT_EQ(bcm_multicast_egress_object_encap_get(0, group, 5, &encap), BCM_E_NOT_FOUND);
+}
+
+TEST_F(Chip, MulticastGroupsComeAndGoTogether) {
+    bcm_multicast_t taken = 3;
+    ASSERT_EQ(bcm_multicast_create(0, kWithId, &taken), BCM_E_NONE);
+    bcm_multicast_t first = 0;
+    ASSERT_EQ(bcm_multicast_multi_alloc(0, {0, 3}, &first), BCM_E_NONE);
+    EXPECT_EQ(first, 4);
+    bcm_multicast_t start = 0;
+    bcm_multicast_t end = 0;
+    EXPECT_EQ(bcm_multicast_group_free_range_get(0, 0, &start, &end), BCM_E_NONE);
+    EXPECT_EQ(std::pair(start, end), std::pair(7, 4096));
+    EXPECT_EQ(bcm_multicast_multi_alloc(0, {kWithId, 2}, &taken), BCM_E_EXISTS);
+    EXPECT_EQ(bcm_multicast_multi_alloc(0, {0, 5000}, &start), BCM_E_FULL);
+    EXPECT_EQ(bcm_multicast_destroy(0, 5), BCM_E_NONE);
+    EXPECT_EQ(bcm_multicast_multi_free(0, 5), BCM_E_NOT_FOUND);
+    EXPECT_EQ(bcm_multicast_multi_free(0, 4), BCM_E_NONE);
+    EXPECT_EQ(bcm_multicast_group_is_free(0, 6), BCM_E_NONE);
+    EXPECT_EQ(bcm_multicast_group_is_free(0, 3), BCM_E_EXISTS);
 }
 
 TEST_F(Chip, MulticastWalkMayDestroyWhatItSees) {

@@ -11,6 +11,7 @@
 #include "sdk/bcm/vlan.h"
 #include "standin/chapters/l2_select.h"
 #include "standin/model/l2_chapter.h"
+#include "toolkit/failing_new.h"
 
 namespace standin {
 namespace {
@@ -19,7 +20,8 @@ namespace {
 struct MacTable : Chip {
     void SetUp() override {
         Chip::SetUp();
-        for (const bcm_vlan_t vid : std::vector<bcm_vlan_t>{10, 20, 30}) ASSERT_EQ(bcm_vlan_create(0, vid), BCM_E_NONE);
+        for (const bcm_vlan_t vid : std::vector<bcm_vlan_t>{10, 20, 30})
+            ASSERT_EQ(bcm_vlan_create(0, vid), BCM_E_NONE);
         for (bcm_trunk_t tid : {5, 7, 9})
             ASSERT_EQ(bcm_trunk_create(0, BCM_TRUNK_FLAG_WITH_ID, &tid), BCM_E_NONE);
     }
@@ -128,6 +130,25 @@ TEST_F(MacTable, TableIsFullAtItsCapacity) {
     EXPECT_EQ(bcm_l2_addr_delete(0, Mac(0).data(), 10), BCM_E_NONE);
     EXPECT_EQ(add(kL2Capacity, 10, 1), BCM_E_NONE);
     EXPECT_EQ(walked().size(), kL2Capacity);
+}
+
+// Whichever allocation fails, the entry is there or it is not, in the index, the walk and the
+// counters alike.
+TEST_F(MacTable, WhereMemoryEndsNothingIsHalfDone) {
+    for (std::uint32_t number = 1; number <= 400; ++number) {
+        int status = BCM_E_MEMORY;
+        for (long left = 0; status == BCM_E_MEMORY; ++left) {
+            bcm_l2_addr_t made = entry(number, 10, 5);
+            allocations_left = left;
+            status = bcm_l2_addr_add(0, &made);
+            allocations_left = -1;
+            ASSERT_EQ(has(number, 10), status == BCM_E_NONE) << number << " after " << left;
+            ASSERT_EQ(walked().size(), status == BCM_E_NONE ? number : number - 1);
+        }
+        ASSERT_EQ(status, BCM_E_NONE);
+    }
+    ASSERT_EQ(bcm_l2_addr_delete_by_port(0, 0, 5, 0), BCM_E_NONE);
+    EXPECT_TRUE(walked().empty());
 }
 
 // Entries that come and go take each other's places; look-up and order follow a model.

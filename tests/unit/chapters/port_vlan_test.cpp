@@ -164,6 +164,10 @@ TEST_F(Chip, VlanGportsOfEachKind) {
     ASSERT_EQ(bcm_trunk_create(0, BCM_TRUNK_FLAG_WITH_ID, &tid), BCM_E_NONE);
     EXPECT_EQ(bcm_vlan_gport_add(0, 10, kTrunkGport.of(2), 0), BCM_E_NONE);
     EXPECT_EQ(bcm_vlan_gport_add(0, 10, 70, 0), BCM_E_PORT);
+    EXPECT_EQ(bcm_port_gport_is_free(0, kTrunkGport.of(2)), BCM_E_EXISTS);
+    EXPECT_EQ(bcm_port_gport_is_free(0, kTrunkGport.of(3)), BCM_E_NONE);
+    for (const bcm_gport_t none : {70, -1, kLocalGport.of(70)})
+        EXPECT_EQ(bcm_port_gport_is_free(0, none), BCM_E_PORT) << none;
     bcm_pbmp_t members{}, untagged{};
     bcm_vlan_port_get(0, 10, &members, &untagged);
     EXPECT_EQ(untagged, ports({4}));

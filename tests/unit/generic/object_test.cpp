@@ -106,6 +106,34 @@ TEST_F(Object, IdsInRecordsAreWrittenThere) {
     EXPECT_EQ(bcm_mim_vpn_get(0, info.vpn, &back), BCM_E_NOT_FOUND);
 }
 
+// A walk, or a removal of all, may ask for a field of the records.
+TEST_F(Object, RecordsArePickedByAField) {
+    std::vector<bcm_oam_group_t> groups;
+    for (int i = 0; i < 4; ++i) {
+        bcm_oam_group_info_t group{};
+        if (i < 2) {
+            ASSERT_EQ(bcm_oam_group_create(0, &group), BCM_E_NONE);
+            groups.push_back(group.id);
+        }
+        bcm_oam_endpoint_info_t end{};
+        end.group = groups[static_cast<std::size_t>(i) / 2 * (groups.size() - 1)];
+        ASSERT_EQ(bcm_oam_endpoint_create(0, &end), BCM_E_NONE);
+    }
+    const auto count = [](bcm_oam_group_t group) {
+        int met = 0;
+        const auto visit = [](int, bcm_oam_endpoint_info_t *, void *context) {
+            return ++*static_cast<int *>(context);
+        };
+        EXPECT_EQ(bcm_oam_endpoint_traverse(0, group, visit, &met), BCM_E_NONE);
+        return met;
+    };
+    EXPECT_EQ(count(groups[0]), 2);
+    EXPECT_EQ(bcm_oam_endpoint_destroy_all(0, groups[0]), BCM_E_NONE);
+    EXPECT_EQ(count(groups[0]), 0);
+    EXPECT_EQ(count(groups[1]), 2);
+    EXPECT_EQ(bcm_oam_endpoint_destroy_all(0, 999), BCM_E_NOT_FOUND);
+}
+
 // Objects are numbered within another: here ports within a network.
 TEST_F(Object, KeysMayComeBeforeTheId) {
     bcm_mim_vpn_config_t vpn{};

@@ -9,6 +9,7 @@
 #include "sdk/bcm/fabric.h"
 #include "sdk/bcm/mcast.h"
 #include "sdk/bcm/niv.h"
+#include "sdk/bcm/port.h"
 
 namespace {
 
@@ -38,11 +39,24 @@ TEST_F(Plain, InitialisersTakeTheFieldsTheyAreGiven) {
 }
 
 TEST_F(Plain, WithoutARuleTheCallIsUnavailable) {
-    uint64 crossbars = 0;
-    EXPECT_EQ(bcm_fabric_crossbar_status_get(0, &crossbars), BCM_E_UNAVAIL);
-    EXPECT_EQ(bcm_fabric_crossbar_status_get(kNoUnit, &crossbars), BCM_E_UNIT);
-    set("fault.bcm_fabric_crossbar_status_get", "status:-10,count:1");
-    EXPECT_EQ(bcm_fabric_crossbar_status_get(0, &crossbars), BCM_E_BUSY);
+    EXPECT_EQ(bcm_fabric_port_destroy(0, 1), BCM_E_UNAVAIL);
+    EXPECT_EQ(bcm_fabric_port_destroy(kNoUnit, 1), BCM_E_UNIT);
+    set("fault.bcm_fabric_port_destroy", "status:-10,count:1");
+    EXPECT_EQ(bcm_fabric_port_destroy(0, 1), BCM_E_BUSY);
+}
+
+TEST_F(Plain, WhatNeverMovesReadsAsZeros) {
+    uint64 crossbars = 7;
+    EXPECT_EQ(bcm_fabric_crossbar_status_get(0, &crossbars), BCM_E_NONE);
+    EXPECT_EQ(crossbars, 0u);
+    EXPECT_EQ(bcm_fabric_crossbar_status_get(0, nullptr), BCM_E_PARAM);
+    bcm_fabric_link_connectivity_t one{};
+    int count = 7;
+    EXPECT_EQ(bcm_fabric_link_connectivity_status_get(0, 1, &one, &count), BCM_E_NONE);
+    EXPECT_EQ(count, 0);
+    uint32 left = 7;
+    EXPECT_EQ(bcm_port_queued_count_get(0, 999, &left), BCM_E_PORT);
+    EXPECT_EQ(left, 7u);
 }
 
 TEST_F(Plain, ThreadsMayCallAtOnce) {

@@ -233,6 +233,8 @@ class Chance {
         bcm_qos_map_add(0, 0, &one, 1 + pick(3));
         bcm_qos_port_map_set(0, port(), 1 + pick(3), 1 + pick(3));
         bcm_cosq_mapping_set(0, pick(8), pick(8));
+        bcm_cosq_port_mapping_set(0, port(), pick(16), pick(8));
+        if (pick(6) == 0) bcm_cosq_config_set(0, 1 + pick(8));
         bcm_cosq_port_bandwidth_set(0, port(), pick(8), number(1000), number(1000), 0);
         const int weights[8] = {pick(4), pick(4), 3};
         bcm_cosq_port_sched_set(0, port_set(), pick(4), weights, pick(9));
