@@ -93,8 +93,8 @@ void watch(const char *what, int unit, Direction direction, const std::string &n
          name.c_str(), words_text(value).c_str());
 }
 
-void tell_observers(const Afterwards &after, const RegisterLayout &layout, int instance,
-                    const RegisterCall &call, const Value &value) {
+void tell_of_one(const Afterwards &after, const RegisterLayout &layout, int instance,
+                 const RegisterCall &call, const Value &value) {
     if (after.watched) {
         watch("reg", call.unit, call.direction,
               register_text(layout, port_of(layout, instance), call.index),
@@ -105,6 +105,13 @@ void tell_observers(const Afterwards &after, const RegisterLayout &layout, int i
         soc_regaddrinfo_t where = describe(layout, instance, call.index);
         after.snoop->call(call.unit, call.reg, &where, kind, value[1], value[0], after.snoop->user);
     }
+}
+
+// A write tells of each instance that it reached.
+void tell_observers(const Afterwards &after, const RegisterLayout &layout,
+                    const Instances &instances, const RegisterCall &call, const Value &value) {
+    const int count = call.direction == Direction::kWrite ? instances.count : 1;
+    for (int i = 0; i < count; ++i) tell_of_one(after, layout, instances.first + i, call, value);
 }
 
 // The 32-bit cell at `offset` of the control record.
@@ -142,12 +149,48 @@ int run_access(const Unit &unit, const MemoryLayout &layout, const Instances &co
     return status;
 }
 
-// Whether the shadow keeps the word of whatever lies at an address.
-bool keeps_word(const UnitState &state, std::uint32_t address) {
-    if (const auto place = find_register_at(address)) return !place->layout->is_volatile;
-    if (const auto place = find_memory_at(address))
-        return keeps_entry(state, *place->layout, place->array, place->index);
-    return false;
+// The number by which a call names the copy of a core.
+int copy_of(int unit, const MemoryLayout &layout, int core) {
+    for (const auto &[block, cells] : kCopyCells)
+        if (block == layout.block->name) return control_cell(unit, cells.of_core(core));
+    return kEveryCopy;
+}
+
+// One word of an entry, by way of the whole of it.
+int access_entry_word(const char *function, int unit, const MemoryPlace &place, Direction direction,
+                      std::uint32_t &word) {
+    MemoryCall call{unit,
+                    place.layout->id,
+                    static_cast<unsigned>(place.array),
+                    copy_of(unit, *place.layout, place.core),
+                    place.index,
+                    Direction::kRead};
+    Value entry{};
+    const bool write = direction == Direction::kWrite;
+    int status = BCM_E_NONE;
+    if (!write || place.layout->words() > 1) status = access_memory(function, call, entry.data());
+    if (status < 0) return status;
+    if (!write) {
+        word = entry[place.word];
+        return status;
+    }
+    entry[place.word] = word;
+    call.direction = Direction::kWrite;
+    return access_memory(function, call, entry.data());
+}
+
+int access_management(const char *function, int unit, std::uint32_t address, Direction direction,
+                      std::span<std::uint32_t> words) {
+    return on_unit(function, unit, Need::kReset, [&](Unit &view) {
+        int status = BCM_E_NONE;
+        for (std::uint32_t &word : words) {
+            if (status == BCM_E_NONE)
+                status = direction == Direction::kRead ? word_read(view, address, false, word)
+                                                       : word_write(view, address, false, word);
+            address += 4;
+        }
+        return status;
+    });
 }
 
 }  // namespace
@@ -202,7 +245,7 @@ int access_register(const char *function, const RegisterCall &call,
     });
     if (outside) status = run_override(after.access, call, layout->words(), words);
     if (status < 0) return status;
-    tell_observers(after, *layout, instances.first, call, words);
+    tell_observers(after, *layout, instances, call, words);
     if (!write) std::copy_n(words.begin(), value.size(), value.begin());
     return status;
 }
@@ -246,30 +289,24 @@ int access_memory(const char *function, const MemoryCall &call, std::uint32_t *e
 
 int access_words(const char *function, int unit, std::uint32_t address, Direction direction,
                  std::span<std::uint32_t> value) {
-    const auto place = find_register_at(address);
-    if (place && place->word == 0 && place->layout->words() == value.size()) {
+    if (const int status = unit_reachable(unit, Need::kReset); status < 0) return status;
+    if (const auto place = find_register_at(address)) {
+        if (place->word != 0) return BCM_E_PARAM;
         const RegisterCall call{unit, place->layout->id, port_of(*place->layout, place->instance),
                                 place->index, direction};
         return access_register(function, call, value);
     }
-    Value words{};
-    std::ranges::copy(value, words.begin());
-    const int status = on_unit(function, unit, Need::kReset, [&](Unit &view) {
-        for (std::size_t i = 0; i < value.size(); ++i)
-            if (word_mask(address + 4 * static_cast<std::uint32_t>(i)) == 0) return BCM_E_NOT_FOUND;
-        for (std::uint32_t &word : std::span(words).first(value.size())) {
-            const bool kept = keeps_word(view.state, address);
-            const int one = direction == Direction::kRead
-                                ? word_read(view, address, kept, word)
-                                : word_write(view, address, kept, word & word_mask(address));
-            if (one < 0) return one;
-            address += 4;
-        }
-        return BCM_E_NONE;
-    });
-    if (status >= 0 && direction == Direction::kRead)
-        std::copy_n(words.begin(), value.size(), value.begin());
-    return status;
+    const auto last = address + 4 * static_cast<std::uint32_t>(value.size() - 1);
+    if (is_management(address) && is_management(last))
+        return access_management(function, unit, address, direction, value);
+    if (!find_memory_at(address) || !find_memory_at(last)) return BCM_E_NOT_FOUND;
+    for (std::uint32_t &word : value) {
+        const int status =
+            access_entry_word(function, unit, *find_memory_at(address), direction, word);
+        if (status < 0) return status;
+        address += 4;
+    }
+    return BCM_E_NONE;
 }
 
 std::string register_text(const RegisterLayout &layout, int port, int index) {

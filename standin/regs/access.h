@@ -61,8 +61,8 @@ struct MemoryCall {
 // BCM_E_DISABLED: the table is the platform's, which is filling it (see docs/registers.md).
 int access_memory(const char *function, const MemoryCall &call, std::uint32_t *entry);
 
-// Reads or writes words from a bus address on, through the shadow. BCM_E_NOT_FOUND: there is
-// nothing at one of them.
+// The same two by a bus address, and management registers. BCM_E_NOT_FOUND: there is nothing at one
+// of the words; BCM_E_PARAM: the address is inside a register, or that is wider than `value`.
 int access_words(const char *function, int unit, std::uint32_t address, Direction direction,
                  std::span<std::uint32_t> value);
 

@@ -36,12 +36,14 @@ void set_policy(const char *function, bool ShadowPolicy::*field, bool value) {
     on_policy(function, [&](ShadowPolicy &policy) { policy.*field = value; });
 }
 
-// A table by its numbers, if `base` is its base address.
+// A table by its numbers, if `base` is its base address in one of the cores.
 const MemoryLayout *table_at(int mem, int array, int base) {
     const MemoryLayout *const layout = find_memory(mem);
     if (layout == nullptr || !within(array, 0, layout->arrays - 1)) return nullptr;
-    return entry_address(*layout, 0, array, 0) == static_cast<std::uint32_t>(base) ? layout
-                                                                                   : nullptr;
+    for (int core = 0; core < layout->block->count; ++core)
+        if (entry_address(*layout, core, array, 0) == static_cast<std::uint32_t>(base))
+            return layout;
+    return nullptr;
 }
 
 // Takes the entries of a table out of the shadow, from `first` on, in all copies.
@@ -53,13 +55,19 @@ void forget_entries(RegisterFile &file, const MemoryLayout &layout, int array, i
 }
 
 // The registers that getRegisterBlockFromShadow is asked for: elements from `offset` on, of the
-// instance in block `block`; the first instance for block -1. BCM_E_NOT_FOUND, BCM_E_PARAM.
-int find_block(int reg, int block, int offset, const RegisterLayout *&layout, int &instance) {
+// instance in block `block`; the first instance for block -1. In a block of ports `offset` counts
+// port after port. BCM_E_NOT_FOUND, BCM_E_PARAM.
+int find_block(int reg, int block, int &offset, const RegisterLayout *&layout, int &instance) {
     layout = find_register(reg);
     if (layout == nullptr) return BCM_E_NOT_FOUND;
     instance = block == -1 ? 0 : block - layout->block->number;
-    const bool known = within(instance, 0, layout->block->count - 1);
-    return known && within(offset, 0, layout->elements - 1) ? BCM_E_NONE : BCM_E_PARAM;
+    if (!within(instance, 0, layout->block->count - 1) || offset < 0) return BCM_E_PARAM;
+    if (layout->block->scope == Scope::kPort) {
+        instance = offset / layout->elements;
+        offset %= layout->elements;
+    }
+    return within(instance, 0, layout->instances() - 1) && offset < layout->elements ? BCM_E_NONE
+                                                                                     : BCM_E_PARAM;
 }
 
 }  // namespace

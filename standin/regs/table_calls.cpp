@@ -11,16 +11,23 @@ using Hardware::HardwareShadow;
 
 namespace {
 
-// Finds the object of the first array for which `wanted(layout, base)` holds; null if none.
+// The tables of a memory: core after core, array after array.
+int tables_of(const MemoryLayout &layout) { return layout.arrays * layout.block->count; }
+
+std::uint32_t table_address(const MemoryLayout &layout, int table) {
+    return entry_address(layout, table / layout.arrays, table % layout.arrays, 0);
+}
+
+// Finds the object of the first table for which `wanted(layout, base)` holds; null if none.
 template <class Wanted>
 ChipMemory::Ptr find_table(const char *function, int unit, int mem, Wanted &&wanted) {
     ChipMemory::Ptr found;
     const MemoryLayout *const layout = find_memory(mem);
     on_unit(function, unit, Need::kDevice, [&](Unit &view) {
-        for (int array = 0; layout != nullptr && array < layout->arrays; ++array) {
-            const std::uint32_t base = entry_address(*layout, 0, array, 0);
+        for (int table = 0; layout != nullptr && table < tables_of(*layout); ++table) {
+            const std::uint32_t base = table_address(*layout, table);
             if (!wanted(*layout, base)) continue;
-            ChipMemory::Ptr &kept = view.state.memories[{mem, array}];
+            ChipMemory::Ptr &kept = view.state.memories[{mem, table}];
             if (!kept) {
                 const ChipMemory::Place place{unit, mem, Hardware::ChipAddress(base),
                                               layout->array_bytes()};
@@ -54,12 +61,13 @@ bool tableNotManagedBySdk(ChipMemory const *memory) {
 
 namespace TesselApi {
 
-// All ones where there is no such table.
+// The arrays of the second core come after those of the first. All ones where there is no such
+// table.
 U32 tableBaseAddr(int unit, int mem, int arrayIndex) {
     const MemoryLayout *const layout = find_memory(mem);
     return unit_value(__func__, unit, kNoAddress, [&](const Unit &) {
-        const bool there = layout != nullptr && within(arrayIndex, 0, layout->arrays - 1);
-        return there ? entry_address(*layout, 0, arrayIndex, 0) : kNoAddress;
+        const bool there = layout != nullptr && within(arrayIndex, 0, tables_of(*layout) - 1);
+        return there ? table_address(*layout, arrayIndex) : kNoAddress;
     });
 }
 

@@ -1,12 +1,37 @@
 // Reads and writes of one word, through the shadow or past it.
 #include "standin/regs/words.h"
 
+#include "sdk/constants.h"
 #include "standin/base/log.h"
 
 namespace standin {
 namespace {
 
 constexpr std::uint32_t kAllOnes = 0xffffffff;
+
+// What the MAC of a port has received is counted once: these registers are views of it.
+struct CounterRow {
+    int reg;
+    std::uint64_t PortCounters::*field;
+};
+constexpr CounterRow kCounters[] = {{RBCAr, &PortCounters::packets}, {RBYTr, &PortCounters::bytes}};
+
+struct CounterWord {
+    std::uint64_t *counter = nullptr;  // null at other addresses
+    unsigned shift = 0;                // of the word in it
+    std::uint64_t mask = 0;            // of the bits that the word has
+};
+
+CounterWord counter_at(const Unit &unit, std::uint32_t address) {
+    const auto place = find_register_at(address);
+    if (!place || !place->layout->is_volatile) return {};
+    for (const CounterRow &row : kCounters) {
+        if (row.reg != place->layout->id) continue;
+        Port &port = *unit.device.chip->ports.find(place->instance);
+        return {&(port.in.*row.field), place->word * kWordBits, place->layout->mask(place->word)};
+    }
+    return {};
+}
 
 std::uint32_t reset_value(std::uint32_t address) {
     const auto place = find_register_at(address);
@@ -23,14 +48,24 @@ int hardware_read(const Unit &unit, std::uint32_t address, std::uint32_t &value)
     value = kAllOnes;
     if (!unit.device.mapped) return BCM_E_INIT;
     const auto found = unit.file.hardware.find(address);
-    value = found == unit.file.hardware.end() ? reset_value(address) : found->second;
+    if (found != unit.file.hardware.end())
+        value = found->second;
+    else if (const CounterWord word = counter_at(unit, address); word.counter != nullptr)
+        value = static_cast<std::uint32_t>(*word.counter >> word.shift & word.mask);
+    else
+        value = reset_value(address);
     bde_trace_access(unit.number, false, address, value);
     return BCM_E_NONE;
 }
 
 int hardware_write(const Unit &unit, std::uint32_t address, std::uint32_t value) {
     if (!unit.device.mapped) return BCM_E_INIT;
-    unit.file.hardware[address] = value;
+    if (const CounterWord word = counter_at(unit, address); word.counter != nullptr) {
+        *word.counter &= ~(word.mask << word.shift);
+        *word.counter |= (value & word.mask) << word.shift;
+    } else {
+        unit.file.hardware[address] = value;
+    }
     bde_trace_access(unit.number, true, address, value);
     return BCM_E_NONE;
 }

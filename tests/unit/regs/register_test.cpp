@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "helper/shadow.h"
+#include "helper/shadow_cxx.h"
 #include "regs_fixture.h"
+#include "sdk/bcm/stat.h"
 #include "sdk/soc/chip.h"
 #include "standin/regs/layout.h"
 
@@ -127,10 +129,13 @@ TEST_F(RegistersTest, AnAddressLeadsToTheSameRegister) {
     constexpr uint64 expected = (uint64{1} << 48) - 1;
     const auto read64 = [&](uint64 *data) { return soc_reg64_read(0, address, data); };
     const auto read = [&](uint64 *data) { return soc_reg_read(0, RBYTr, address, data); };
-    const auto high = [&](uint32 *data) { return soc_reg32_read(0, address + 4, data); };
     EXPECT_EQ(value_of<uint64>(read64), expected);
     EXPECT_EQ(value_of<uint64>(read), expected);
-    EXPECT_EQ(value_of<uint32>(high), 0xffffu);
+    // A call is as wide by address as by number.
+    uint32 narrow = 0;
+    EXPECT_EQ(soc_reg32_read(0, address, &narrow), BCM_E_PARAM);
+    EXPECT_EQ(soc_reg32_read(0, address + 4, &narrow), BCM_E_PARAM);
+    EXPECT_EQ(korvel_read_low(0, address + 4), 0xffffu) << "below, there are words";
     // Broken up again: the description, and the block with the offset in it.
     soc_regaddrinfo_t info{};
     soc_regaddrinfo_get(0, &info, address);
@@ -163,7 +168,8 @@ TEST_F(RegistersTest, AnAddressWithNothingBehindIsNotFound) {
         EXPECT_EQ(info.valid, 0);
         EXPECT_EQ(info.reg, -1);
     }
-    EXPECT_EQ(soc_reg64_read(0, eci, &wide), BCM_E_NOT_FOUND);
+    EXPECT_EQ(soc_reg64_read(0, eci, &wide), BCM_E_NONE);
+    EXPECT_EQ(wide, 0u);
     EXPECT_EQ(soc_reg_read(0, IHP_GENERAL_TRAPr, eci, &wide), BCM_E_PARAM);
     EXPECT_EQ(soc_reg_write(0, kNoRegister, 0, kAllOnes), BCM_E_NOT_FOUND);
     EXPECT_EQ(soc_reg_write(3, kNoRegister, 0, kAllOnes), BCM_E_UNIT);
@@ -320,7 +326,8 @@ TEST_F(RegistersTest, TheWalkVisitsEveryElementAndMayBeEnded) {
     const auto visit = [](int unit, soc_regaddrinfo_t *info, void *data) {
         Walk &of = *static_cast<Walk *>(data);
         uint32 word = 0;
-        EXPECT_EQ(soc_reg32_read(unit, info->addr, &word), BCM_E_NONE);  // the lock is free
+        const bool fits = find_register(info->reg)->words() == 1;
+        EXPECT_EQ(soc_reg32_read(unit, info->addr, &word), fits ? BCM_E_NONE : BCM_E_PARAM);
         return ++of.visits == of.until ? BCM_E_FAIL : BCM_E_NONE;
     };
     int elements = 0;
@@ -383,6 +390,38 @@ TEST_F(RegistersTest, ASnoopIsToldOfTheAccessesThatItAskedFor) {
     EXPECT_EQ(told.calls, 2);
 }
 
+TEST_F(RegistersTest, BothCoresAndBothRoadsAreSnooped) {
+    Told told;
+    soc_reg_snoop_register(0, IHP_GENERAL_TRAPr, 0, snoop, &told);
+    ASSERT_EQ(soc_reg32_set(0, IHP_GENERAL_TRAPr, REG_PORT_ANY, 0, 8), BCM_E_NONE);
+    EXPECT_EQ(told.calls, 2) << "a write that reaches both cores";
+    for (const int core : {0, 1}) {
+        const uint32 address = soc_reg_addr(0, IHP_GENERAL_TRAPr, core, 0);
+        ASSERT_EQ(soc_reg32_write(0, address, 9), BCM_E_NONE);
+        EXPECT_EQ(told.info.port, core);
+        EXPECT_EQ(told.info.addr, address);
+        EXPECT_EQ(get32(IHP_GENERAL_TRAPr, core), 9u);
+    }
+    EXPECT_EQ(told.calls, 6);
+}
+
+TEST_F(RegistersTest, CountersAreThoseOfThePort) {
+    const auto read = [](int reg) {
+        return value_of<uint64>([&](uint64 *value) { return soc_reg64_get(0, reg, 5, 0, value); });
+    };
+    const auto stat = [](bcm_stat_val_t kind) {
+        return value_of<uint64>([&](uint64 *value) { return bcm_stat_get(0, 5, kind, value); });
+    };
+    standin_port_traffic(0, 5, 0, 3, 300);
+    EXPECT_EQ(read(RBCAr), 3u);
+    EXPECT_EQ(read(RBYTr), 300u);
+    soc_fe1600_stat_write(0, 5, 1, 0x123456789a);
+    EXPECT_EQ(stat(snmpIfInOctets), 0x123456789au);
+    EXPECT_EQ(korvel_read_low(0, soc_reg_addr(0, RBYTr, 5, 0)), 0x3456789au);
+    EXPECT_EQ(bcm_stat_clear(0, 5), BCM_E_NONE);
+    EXPECT_EQ(read(RBYTr) + read(RBCAr), 0u);
+}
+
 TEST_F(RegistersTest, AccessFunctionsTakeOverTheirWidth) {
     soc_reg_access_t access{};
     access.reg32_get = [](int unit, soc_reg_t reg, int port, int index, uint32 *data) {
@@ -405,6 +444,10 @@ TEST_F(RegistersTest, AccessFunctionsTakeOverTheirWidth) {
     uint32 entry = 0;
     EXPECT_EQ(soc_mem_read(0, CGM_HAPMm, -1, 0, &entry), BCM_E_NONE);
     EXPECT_EQ(entry, 77u);
+    const uint32 table = TesselApi::tableBaseAddr(0, CGM_HAPMm, 0);
+    entry = 0;
+    EXPECT_EQ(soc_reg32_read(0, table, &entry), BCM_E_NONE);
+    EXPECT_EQ(entry, 77u) << "by address, too";
     access = {};  // the library has its own copy
     EXPECT_EQ(get32(ECI_TEST_REGISTERr), 1005u);
     ASSERT_EQ(soc_reg_access_func_register(0, nullptr), BCM_E_NONE);

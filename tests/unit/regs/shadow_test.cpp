@@ -226,8 +226,13 @@ TEST_F(ShadowTest, TablesOfThePlatformAreClosedWhileItFillsThem) {
     EXPECT_EQ(status(0, IHB_MEM_F30000m), BCM_E_NONE);
     allowAllTableAccess(0, false);
     EXPECT_EQ(status(0, IHB_MEM_F30000m), BCM_E_DISABLED);
+    std::uint32_t word = 0;
+    const std::uint32_t there = TesselApi::tableBaseAddr(0, IHB_MEM_F30000m, 1) + 4;
+    EXPECT_EQ(soc_reg32_read(0, there, &word), BCM_E_DISABLED) << "by address, in the other core";
+    EXPECT_EQ(soc_reg32_write(0, there, 1), BCM_E_DISABLED);
     teardownShadowForHwInit(0);
     EXPECT_EQ(status(0, IHB_MEM_F30000m), BCM_E_NONE);
+    EXPECT_EQ(soc_reg32_write(0, there, 1), BCM_E_NONE);
 }
 
 TEST_F(ShadowTest, ARegisterBlockTellsItsSizeFirst) {
@@ -248,6 +253,17 @@ TEST_F(ShadowTest, ARegisterBlockTellsItsSizeFirst) {
     EXPECT_EQ(getRegisterBlockFromShadow(0, reg, -1, 16, nullptr, &size), BCM_E_PARAM);
     EXPECT_EQ(getRegisterBlockFromShadow(0, reg, 77, 0, nullptr, &size), BCM_E_PARAM);
     EXPECT_EQ(getRegisterBlockFromShadow(0, 1, -1, 0, nullptr, &size), BCM_E_NOT_FOUND);
+    // A port is an offset, a core a block.
+    ASSERT_EQ(soc_reg32_set(0, PORT_CNTMAXSIZEr, 64, 0, 9000), BCM_E_NONE);
+    size = sizeof words;
+    EXPECT_EQ(getRegisterBlockFromShadow(0, PORT_CNTMAXSIZEr, -1, 64, words, &size), BCM_E_NONE);
+    EXPECT_EQ(size, 4u);
+    EXPECT_EQ(words[0], 9000u);
+    EXPECT_EQ(getRegisterBlockFromShadow(0, PORT_CNTMAXSIZEr, -1, 65, words, &size), BCM_E_PARAM);
+    ASSERT_EQ(soc_reg32_set(0, IHP_GENERAL_TRAPr, 1, 0, 5), BCM_E_NONE);
+    const int block = static_cast<int>(soc_reg_addr(0, IHP_GENERAL_TRAPr, 1, 0) >> kBlockShift);
+    EXPECT_EQ(getRegisterBlockFromShadow(0, IHP_GENERAL_TRAPr, block, 0, words, &size), BCM_E_NONE);
+    EXPECT_EQ(words[0], 5u);
 }
 
 TEST_F(ShadowTest, DumpsTellWhatThereIs) {
@@ -324,7 +340,14 @@ TEST_F(ShadowTest, ATableIsFoundByItsBaseAndByWhatLiesInIt) {
     EXPECT_FALSE(TesselApi::findChipMemory(0, mem, static_cast<int>(base) + 4));
     EXPECT_FALSE(TesselApi::findChipMemory(0, 371, static_cast<int>(base)));
     EXPECT_FALSE(TesselApi::findChipMemory(7, mem, static_cast<int>(base)));
-    EXPECT_EQ(TesselApi::tableBaseAddr(0, mem, 4), kNoAddress);
+    // The arrays of the second core follow.
+    const std::uint32_t other = TesselApi::tableBaseAddr(0, mem, 6);
+    EXPECT_EQ(find_memory_at(other)->core, 1);
+    EXPECT_EQ(find_memory_at(other)->array, 2);
+    EXPECT_EQ(within(other + 4, 4),
+              TesselApi::findChipMemory(0, mem, static_cast<int>(other)).get());
+    EXPECT_NE(within(other + 4, 4), by_base.get());
+    EXPECT_EQ(TesselApi::tableBaseAddr(0, mem, 8), kNoAddress);
     EXPECT_EQ(TesselApi::tableBaseAddr(0, 371, 0), kNoAddress);
 }
 
