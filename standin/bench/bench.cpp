@@ -4,6 +4,7 @@
 #include "standin/base/config_store.h"
 #include "standin/base/faults.h"
 #include "standin/chapters/hooks.h"
+#include "standin/model/registrations.h"
 #include "standin/phy/hooks.h"
 #include "standin/regs/hooks.h"
 
@@ -72,6 +73,14 @@ PyObject *faults_never_met(PyObject *arguments) {
                    [](const std::string &one) { return text_object(one); });
 }
 
+// (function, cause, whether it can be called) of each.
+PyObject *registrations(PyObject *arguments) {
+    if (!PyArg_ParseTuple(arguments, ":registrations")) return nullptr;
+    return list_of(standin::registrations(), [](const standin::RegistrationRow &one) {
+        return Py_BuildValue("(ssN)", one.function, one.cause, PyBool_FromLong(one.callable));
+    });
+}
+
 constexpr auto kUnset = "The setting of a fault, without 'fault.', goes. Whether it was there.";
 
 PyMethodDef rows[] = {
@@ -86,6 +95,20 @@ PyMethodDef rows[] = {
      "traffic(unit, port, outwards, packets, bytes): packets pass a port."},
     {"field_stat_hit", row<standin_field_stat_hit>, METH_VARARGS,
      "field_stat_hit(unit, stat, packets, bytes): a counter of a rule grows."},
+    {"switch_event", row<standin_switch_event>, METH_VARARGS,
+     "switch_event(unit, event, arg1, arg2, arg3): the chip tells of itself."},
+    {"oam_event", row<standin_oam_event>, METH_VARARGS,
+     "oam_event(unit, type, flags, group, endpoint): so does maintenance,"},
+    {"oam_performance_event", row<standin_oam_performance_event>, METH_VARARGS,
+     "oam_performance_event(unit, type, group, endpoint): of performance,"},
+    {"oam_pm_event", row<standin_oam_pm_event>, METH_VARARGS,
+     "oam_pm_event(unit, type): and of measurements."},
+    {"cosq_event", row<standin_cosq_event>, METH_VARARGS,
+     "cosq_event(unit, type, gport, cosq, index, value): a queue tells."},
+    {"pfc_deadlock", row<standin_pfc_deadlock>, METH_VARARGS,
+     "pfc_deadlock(unit, port, cosq, event): the recovery of one begins or ends."},
+    {"registrations", guarded<registrations>, METH_VARARGS,
+     "A list of (function, cause, callable): what calls whom one registers."},
     {"last_refusal", row<standin_last_refusal>, METH_VARARGS,
      "Why the last call that was refused on this thread has its status."},
     {"platform_value", row<standin_platform_value>, METH_VARARGS,

@@ -190,14 +190,6 @@ int bcm_subport_gport_modport_get(int unit, bcm_gport_t gport, bcm_module_t *mod
     });
 }
 
-int bcm_stk_modmap_map(int unit, int, bcm_module_t modid_in, bcm_port_t port_in,
-                       bcm_module_t *modid_out, bcm_port_t *port_out) {
-    return on_port(__func__, unit, port_in, [&](const Port &) {
-        const int status = give(modid_out, modid_in);
-        return status < 0 ? status : give(port_out, port_in);
-    });
-}
-
 int _bcm_dpp_port_mod_port_to_sys_port(int unit, bcm_module_t modid, bcm_port_t port,
                                        unsigned int *sys_port) {
     return on_port(__func__, unit, port, [&](const Port &) {

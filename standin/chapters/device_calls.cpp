@@ -32,7 +32,8 @@ int add_device(const char *function, const PciAddress &address, ChipKind kind, b
                bool mapped) {
     if (const int fault = fault_check(function); fault != BCM_E_NONE) return fault;
     const std::lock_guard<std::mutex> guard(model_lock());
-    return device_table().add(address, kind, fake, mapped);
+    return platform().shutting_down ? int{BCM_E_DISABLED}
+                                    : device_table().add(address, kind, fake, mapped);
 }
 
 template <class Body>

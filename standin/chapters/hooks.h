@@ -24,6 +24,15 @@ int standin_time_pass(int unit, unsigned long long microseconds);
 // The far end of the link of `port` comes (1) or goes (0); it is there at the start.
 int standin_link_set(int unit, int port, int present);
 
+// The chip tells of itself: an event of BCM_SWITCH_EVENT_, bcmOAMEvent, bcmCosqEvent, or of the
+// recovery from a deadlock of a queue. BCM_E_DISABLED: the interrupts of the chip do not reach us.
+int standin_switch_event(int unit, int event, unsigned arg1, unsigned arg2, unsigned arg3);
+int standin_oam_event(int unit, int type, unsigned flags, int group, int endpoint);
+int standin_oam_performance_event(int unit, int type, int group, int endpoint);
+int standin_oam_pm_event(int unit, int type);
+int standin_cosq_event(int unit, int type, int gport, int cosq, int index, int value);
+int standin_pfc_deadlock(int unit, int port, int cosq, int event);
+
 // `packets` of `bytes` in all pass `port`: inwards for `outwards` 0, else outwards.
 int standin_port_traffic(int unit, int port, int outwards, unsigned packets,
                          unsigned long long bytes);

@@ -6,6 +6,7 @@
 #include "sdk/bcm/l2.h"
 #include "standin/chapters/hooks.h"
 #include "standin/chapters/l2_select.h"
+#include "standin/chapters/registration.h"
 #include "standin/model/tables.h"
 
 using namespace standin;
@@ -284,15 +285,11 @@ int bcm_l2_age_timer_get(int unit, int *age_seconds) {
 }
 
 int bcm_l2_addr_register(int unit, bcm_l2_addr_callback_t callback, void *userdata) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        return chip.events.handlers.add(handler(Registration::kL2Address, callback, userdata));
-    });
+    return add_handler(__func__, unit, Registration::kL2Address, callback, userdata);
 }
 
 int bcm_l2_addr_unregister(int unit, bcm_l2_addr_callback_t callback, void *userdata) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        return chip.events.handlers.remove(handler(Registration::kL2Address, callback, userdata));
-    });
+    return remove_handler(__func__, unit, Registration::kL2Address, callback, userdata);
 }
 
 int bcm_l2_learn_limit_set(int unit, bcm_l2_learn_limit_t *limit) {

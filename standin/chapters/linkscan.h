@@ -21,9 +21,20 @@ enum class ScanCause : std::uint8_t {
 
 void scan_link(Switch &chip, int port, ScanCause cause);
 
+// Who reads the link of a port that has something outside the chip behind it, such as an external
+// PHY: set by the layer that knows of it. `reads` is asked with the model's lock held, `read`
+// without; a negative answer is a failure, after which the link is what it was.
+struct OutsideLink {
+    bool (*reads)(int unit, int port) = nullptr;
+    int (*read)(int unit, int port, int *link) = nullptr;
+    void (*note_down)(Switch &chip, int port) = nullptr;  // with the lock held
+};
+extern OutsideLink outside_link;
+
 // To be called after whatever may have changed the link of a port.
 inline void note_link(Switch &chip, int number) {
     const Port &port = *chip.ports.find(number);
+    if (port.link() == 0 && outside_link.note_down != nullptr) outside_link.note_down(chip, number);
     if (port.link() != port.scanned_link) scan_link(chip, number, ScanCause::kChange);
 }
 

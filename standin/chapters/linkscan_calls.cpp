@@ -5,8 +5,10 @@
 #include "standin/base/output.h"
 #include "standin/chapters/linkscan.h"
 #include "standin/chapters/port_access.h"
+#include "standin/chapters/registration.h"
 #include "standin/model/device_table.h"
 #include "standin/model/tables.h"
+#include "standin/model/telling.h"
 
 using namespace standin;
 
@@ -30,18 +32,19 @@ void find_link(Switch &chip, int number, int link) {
     });
 }
 
-// Asks the handler of a port for its link, without the lock.
+bool has_outside(const Switch &chip, int number) {
+    return outside_link.reads != nullptr && outside_link.reads(chip.unit, number);
+}
+
+// Asks the handler of a port, or what stands outside the chip, for its link, without the lock.
 void ask_for_link(Switch &chip, int number) {
     chip.events.raise([number](int unit) {
-        std::optional<Handler> asked;
-        on_switch("bcm_linkscan_update", unit, [&](Switch &now) {
-            if (const Handler *one =
-                    now.events.handlers.find(Registration::kLinkscanPort, {number}))
-                asked = *one;
-            return BCM_E_NONE;
-        });
+        const auto asked = first_handler(unit, Registration::kLinkscanPort, {number});
         int link = 0;
-        if (!asked || asked->as<bcm_linkscan_port_handler_t>()(unit, number, &link) < 0) return;
+        const int answer = asked ? asked->as<bcm_linkscan_port_handler_t>()(unit, number, &link)
+                           : outside_link.read == nullptr ? BCM_E_NOT_FOUND
+                                                          : outside_link.read(unit, number, &link);
+        if (answer < 0) return;
         on_switch("bcm_linkscan_update", unit, [&](Switch &now) {
             now.ports.find(number)->told_link = link != 0;
             find_link(now, number, now.ports.find(number)->link());
@@ -98,17 +101,22 @@ int change_port_handler(const char *function, int unit, bcm_port_t port,
 
 namespace standin {
 
+OutsideLink outside_link;
+
 void scan_link(Switch &chip, int number, ScanCause cause) {
-    const Port &port = *chip.ports.find(number);
+    Port &port = *chip.ports.find(number);
     const bool by_hardware = port.linkscan == BCM_LINKSCAN_MODE_HW;
     if (cause != ScanCause::kCall) {
         if (!is_scanned(chip, port)) return;
         if (by_hardware && (cause == ScanCause::kTime || !interrupts_reach(chip.unit))) return;
     }
-    if (chip.events.handlers.find(Registration::kLinkscanPort, {number}) != nullptr)
+    if (chip.events.handlers.find(Registration::kLinkscanPort, {number}) != nullptr ||
+        has_outside(chip, number)) {
         ask_for_link(chip, number);
-    else
-        find_link(chip, number, port.link());
+        return;
+    }
+    port.told_link.reset();
+    find_link(chip, number, port.link());
 }
 
 void scan_due_links(Switch &chip) {
@@ -197,22 +205,17 @@ int bcm_port_linkscan_get(int unit, bcm_port_t port, int *mode) {
 }
 
 int bcm_linkscan_register(int unit, bcm_linkscan_handler_t handler_function) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        return chip.events.handlers.add(handler(Registration::kLinkscan, handler_function));
-    });
+    return add_handler(__func__, unit, Registration::kLinkscan, handler_function, nullptr);
 }
 
 int bcm_linkscan_unregister(int unit, bcm_linkscan_handler_t handler_function) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        return chip.events.handlers.remove(handler(Registration::kLinkscan, handler_function));
-    });
+    return remove_handler(__func__, unit, Registration::kLinkscan, handler_function, nullptr);
 }
 
 // A port has one such handler: BCM_E_EXISTS for a second one.
 int bcm_linkscan_port_register(int unit, bcm_port_t port, bcm_linkscan_port_handler_t handler) {
     return change_port_handler(__func__, unit, port, handler, [](Switch &chip, const Handler &one) {
-        auto &handlers = chip.events.handlers;
-        return handlers.find(one.row, one.key) != nullptr ? BCM_E_EXISTS : handlers.add(one);
+        return set_handler(chip, one);
     });
 }
 

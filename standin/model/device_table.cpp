@@ -1,6 +1,7 @@
 // The device table, and the lock under which all of the model stands.
 #include "standin/model/device_table.h"
 
+#include "standin/model/device_marks.h"
 #include "standin/model/model.h"
 #include "standin/model/rehearsal.h"
 
@@ -53,10 +54,10 @@ void Device::renew_chip() {
 }
 
 bool interrupts_reach(int unit) {
-    const Device *const device = device_table().find(unit);
+    Device *const device = device_table().find(unit);
     const Platform &all = platform();
-    return device != nullptr && all.interrupts_connected &&
-           !all.masked_buses.contains(device->address.bus);
+    return device != nullptr && !marks_of(*device).no_interrupts && all.interrupts_connected &&
+           !all.shutting_down && !all.masked_buses.contains(device->address.bus);
 }
 
 DeviceTable &device_table() {

@@ -5,10 +5,12 @@
 #include <deque>
 #include <utility>
 
+#include "sdk/bcm/switch_types.h"
 #include "sdk/constants.h"
 #include "standin/base/faults.h"
-#include "standin/model/device_table.h"
+#include "standin/model/device_marks.h"
 #include "standin/model/model.h"
+#include "standin/model/telling.h"
 
 namespace standin {
 namespace {
@@ -23,13 +25,12 @@ struct Waiting {
 // What the outermost call of a thread has still to tell; null while it tells nothing.
 thread_local std::deque<Waiting> *queue = nullptr;
 
-std::optional<Handler> next_handler(int unit, Registration row, std::uint64_t after,
-                                    std::uint64_t last) {
-    const std::lock_guard<std::mutex> guard(model_lock());
-    const Device *const device = device_table().find(unit);
-    const Handler *const found =
-        device == nullptr ? nullptr : device->chip->events.handlers.next(row, after, last);
-    return found == nullptr ? std::nullopt : std::optional(*found);
+// The handlers of a unit that the row belongs to, or null.
+Handlers *handlers_of(int unit, Registration row) {
+    Device *const device = device_table().find(unit);
+    if (device == nullptr) return nullptr;
+    return row == Registration::kAttach ? &marks_of(*device).watchers.handlers
+                                        : &device->chip->events.handlers;
 }
 
 bool same(const Handler &one, const Handler &other) {
@@ -38,6 +39,21 @@ bool same(const Handler &one, const Handler &other) {
 }
 
 }  // namespace
+
+std::optional<Handler> next_handler(int unit, Registration row, std::uint64_t after,
+                                    std::uint64_t last) {
+    const std::lock_guard<std::mutex> guard(model_lock());
+    const Handlers *const handlers = handlers_of(unit, row);
+    const Handler *const found = handlers == nullptr ? nullptr : handlers->next(row, after, last);
+    return found == nullptr ? std::nullopt : std::optional(*found);
+}
+
+std::optional<Handler> first_handler(int unit, Registration row, const HandlerKey &key) {
+    const std::lock_guard<std::mutex> guard(model_lock());
+    const Handlers *const handlers = handlers_of(unit, row);
+    const Handler *const found = handlers == nullptr ? nullptr : handlers->find(row, key);
+    return found == nullptr ? std::nullopt : std::optional(*found);
+}
 
 int Handlers::add(Handler one) {
     if (!registrations()[static_cast<std::size_t>(one.row)].callable) return BCM_E_UNAVAIL;
@@ -86,6 +102,13 @@ void Events::raise(Registration row, Tell tell) {
             const char *const function = registrations()[static_cast<std::size_t>(row)].function;
             if (callback_fault_check(function, unit) == 0) tell(unit, *next);
         }
+    });
+}
+
+void note_switch_event(Events &events, int event, std::array<unsigned, 3> arguments) {
+    events.raise(Registration::kSwitchEvent, [=](int unit, const Handler &one) {
+        one.as<bcm_switch_event_cb_t>()(unit, static_cast<bcm_switch_event_t>(event), arguments[0],
+                                        arguments[1], arguments[2], one.user);
     });
 }
 

@@ -1,8 +1,8 @@
 // The registrations of the API and what calls their handlers: the one table of them.
 //
-// kLinkscan, kLinkscanPort and kL2Address are modelled. The callbacks of all others are kept by
-// their generated answers, and nothing calls them until a chapter models the cause that stands
-// here.
+// Each has its cause, or the reason why nothing ever comes of it; the call then answers
+// BCM_E_UNAVAIL. Handlers are called as events.h says: by the thread of the cause, without the
+// model's lock.
 #pragma once
 #include <cstdint>
 #include <span>

@@ -63,4 +63,14 @@ int bcm_port_phy_reset_unregister(int unit, bcm_port_t port, bcm_port_phy_reset_
     return pass_on(__func__, soc_phy_reset_unregister, unit, port, callback, user_data);
 }
 
+int bcm_port_medium_status_register(int unit, bcm_port_t port, bcm_port_medium_status_cb_t cb,
+                                    void *user_data) {
+    return pass_on(__func__, soc_phy_medium_status_register, unit, port, cb, user_data);
+}
+
+int bcm_port_medium_status_unregister(int unit, bcm_port_t port, bcm_port_medium_status_cb_t cb,
+                                      void *user_data) {
+    return pass_on(__func__, soc_phy_medium_status_unregister, unit, port, cb, user_data);
+}
+
 }  // extern "C"

@@ -5,15 +5,14 @@
 #include "sdk/soc/phy.h"
 #include "sdk/soc/phyctrl.h"
 #include "standin/model/device_table.h"
-#include "standin/phy/accessors.h"
+#include "standin/phy/external.h"
 #include "standin/phy/identity.h"
+#include "standin/phy/standard_registers.h"
 
 using namespace standin;
 
 namespace {
 
-constexpr std::uint16_t kIdHigh = 0xa100;
-constexpr std::uint16_t kIdLow = 0x0011;
 constexpr std::uint16_t kNothing = 0xffff;  // what a number of a PHY is where there is none
 constexpr sal_usecs_t kNegotiationTimeout = 250'000;
 // Flags of the calls on addresses.
@@ -89,24 +88,44 @@ int soc_phyctrl_drv_name_get(int unit, soc_port_t port, char *name, int len) {
 }
 
 int soc_phy_info_get(int unit, soc_port_t port, soc_phy_info_t *pi) {
-    return on_phy(__func__, unit, port, [&](const PhyView &view) {
+    Accessor external;
+    const int status = on_phy(__func__, unit, port, [&](const PhyView &view) {
         if (pi == nullptr) return BCM_E_PARAM;
         fill_info(view.phy, view.number, *pi);
+        external = find_external(unit, view.number);
         return BCM_E_NONE;
     });
+    if (!external) return status;
+    pi->phy_id0 = identity_external(external, 2);
+    pi->phy_id1 = identity_external(external, 3);
+    return status;
+}
+
+// An identifier of the PHY that is nearest to the wire.
+static uint16 identity_of(const char *function, int unit, soc_port_t port, unsigned number) {
+    Accessor external;
+    const uint16 own = number_of(function, unit, port, kNothing, [&](const PhyView &view) {
+        external = find_external(unit, view.number);
+        return number == 2 ? kIdHigh : kIdLow;
+    });
+    return external ? identity_external(external, number) : own;
 }
 
 uint16 soc_phy_id0reg_get(int unit, soc_port_t port) {
-    return number_of(__func__, unit, port, kNothing, [](const PhyView &) { return kIdHigh; });
+    return identity_of(__func__, unit, port, 2);
 }
 
 // On standby, the version that the platform told of the external PHY, if it did.
 uint16 soc_phy_id1reg_get(int unit, soc_port_t port) {
-    return number_of(__func__, unit, port, kNothing, [&](const PhyView &view) {
-        const auto told = accessors().version(static_cast<std::uint32_t>(unit),
-                                              static_cast<std::uint16_t>(view.number));
-        return platform().standby_sup && told ? *told : kIdLow;
+    std::optional<std::uint16_t> told;
+    const int status = on_phy(__func__, unit, port, [&](const PhyView &view) {
+        if (platform().standby_sup)
+            told = accessors().version(static_cast<std::uint32_t>(unit),
+                                       static_cast<std::uint16_t>(view.number));
+        return BCM_E_NONE;
     });
+    if (status < 0) return kNothing;
+    return told ? *told : identity_of(__func__, unit, port, 3);
 }
 
 // All PHYs are addressed by device and register.

@@ -7,9 +7,7 @@ void Phy::reset() {
     Phy fresh;
     fresh.address = address;
     fresh.internal_address = internal_address;
-    fresh.on_reset = std::move(on_reset);
     fresh.default_reset = default_reset;
-    fresh.on_medium = std::move(on_medium);
     *this = std::move(fresh);
 }
 

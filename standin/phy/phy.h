@@ -13,6 +13,7 @@
 
 #include "native/values.h"
 #include "sdk/variables.h"
+#include "standin/chapters/linkscan.h"
 #include "standin/model/model.h"
 #include "standin/model/switch.h"
 
@@ -43,16 +44,6 @@ inline bool belongs(const PhyPart &part, const PhyPart &whole) {
     return whole.lane == kEveryLane && part.whole() == whole;
 }
 
-template <class Function>
-struct Callback {
-    Function call;
-    void *user;
-    bool operator==(const Callback &) const = default;
-};
-
-using ResetCallback = Callback<_shr_port_phy_reset_cb_t>;
-using MediumCallback = Callback<_shr_port_medium_status_cb_t>;
-
 struct Phy {
     bool attached = true;  // its driver is
     int interface = 0;
@@ -68,17 +59,18 @@ struct Phy {
     int event = -1;  // the last one told, with its data
     std::uint32_t event_data = 0;
     std::vector<std::uint8_t> firmware;
-    std::map<std::pair<PhyPart, int>, std::uint32_t> controls;         // by kind of control
-    std::map<PhyPart, int> loopback;                                   // but the plain one
-    std::map<PhyPart, int> autoneg;                                    // but the plain one
-    std::map<std::pair<int, std::uint32_t>, std::uint16_t> registers;  // lane, address
+    std::map<std::pair<PhyPart, int>, std::uint32_t> controls;                // by kind of control
+    std::map<PhyPart, int> loopback;                                          // but the plain one
+    std::map<PhyPart, int> autoneg;                                           // but the plain one
+    std::map<std::pair<int, std::uint32_t>, std::uint16_t> registers;         // lane, address
+    std::map<std::pair<int, std::uint32_t>, std::uint16_t> access_addresses;  // lane, device
     std::map<std::uint8_t, std::uint16_t> top_registers;  // of a primary port, by offset
     std::map<std::uint32_t, std::uint32_t> diagnostics;
-    std::vector<ResetCallback> on_reset;
     bool default_reset = true;
-    std::vector<MediumCallback> on_medium;
 
-    // The driver's settings as they were on the first day; callbacks and addresses stay.
+    bool operator==(const Phy &) const = default;
+
+    // The driver's settings as they were on the first day; addresses stay.
     void reset();
 };
 
@@ -86,20 +78,26 @@ struct Phys {
     Phys();
 
     std::array<Phy, kPorts> ports;
-    int dividend = 1;  // of the clock on the MDIO bus
+    std::array<std::uint32_t, kPorts> fell{};  // by device: the link was down since that was told
+    int dividend = 1;                          // of the clock on the MDIO bus
     int divisor = 128;
 };
 
 void visit_state(const Phys &phys, StateVisitor &to);
-void keep_state(Phys &copy, const Phys &present);  // the callbacks
 
 // A PHY, while the model's lock is held.
 struct PhyView {
+    Switch &chip;
     int number;  // of its port
     Port &port;
     Phy &phy;
     Phys &all;
 };
+
+// Up when the link of the port is, with both directions on.
+inline int link_of(const PhyView &view) {
+    return view.port.link() != 0 && view.phy.tx_enabled != 0 && view.phy.rx_enabled != 0;
+}
 
 // REQUIRES: the model's lock is held.
 inline Phys &phys_of(Switch &chip) { return chip.layers.of<Phys>(); }
@@ -117,9 +115,11 @@ int on_any_phy(const char *function, int unit, soc_port_t port, Body &&body) {
         const int number = local_port(translated_port);
         if (number < 0) return BCM_E_PORT;
         Phys &all = phys_of(chip);
-        PhyView view{number, *chip.ports.find(number), all.ports[static_cast<std::size_t>(number)],
-                     all};
-        return std::forward<Body>(body)(view);
+        PhyView view{chip, number, *chip.ports.find(number),
+                     all.ports[static_cast<std::size_t>(number)], all};
+        const int status = body(view);
+        note_link(chip, number);
+        return status;
     });
 }
 

@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "sdk/soc/phyctrl.h"
-#include "standin/phy/accessors.h"
-#include "standin/phy/phy.h"
+#include "standin/phy/external.h"
+#include "standin/phy/standard_registers.h"
 
 using namespace standin;
 
@@ -16,45 +16,22 @@ namespace {
 constexpr uint32 kInternal = 1;
 constexpr uint32 kWidest = 0xffff;
 
-unsigned device_part(uint32 address) { return address >> 16; }
-unsigned register_part(uint32 address) { return address & 0xffff; }
-
-// Carries out `internal(Phy &)` under the lock, or, where the external PHY is meant, only finds its
+// Carries out `internal(view)` under the lock, or, where the external PHY is meant, only finds its
 // accessor.
 template <class Internal>
 int on_either(const char *function, int unit, soc_port_t port, uint32 flags, Accessor &external,
               Internal &&internal) {
     return on_phy(function, unit, port, [&](PhyView &view) {
-        if ((flags & kInternal) == 0) {
-            external = accessors().find(static_cast<std::uint32_t>(unit),
-                                        static_cast<std::uint16_t>(view.number));
-        }
-        return external ? BCM_E_NONE : internal(view.phy);
+        if ((flags & kInternal) == 0) external = find_external(unit, view.number);
+        return external ? BCM_E_NONE : internal(view);
     });
-}
-
-std::uint16_t internal_register(const Phy &phy, int lane, uint32 address) {
-    const auto found = phy.registers.find({lane, address});
-    return found == phy.registers.end() ? std::uint16_t{0} : found->second;
 }
 
 template <class Body>
 int on_lane(const char *function, int unit, soc_port_t port, int lane, Body &&body) {
     return on_phy(function, unit, port, [&](PhyView &view) {
-        return within(lane, 0, lanes_of(view.number) - 1) ? body(view.phy) : BCM_E_PARAM;
+        return within(lane, 0, lanes_of(view.number) - 1) ? body(view) : BCM_E_PARAM;
     });
-}
-
-int external_read(const Accessor &external, uint32 address, uint32 &data) {
-    std::uint16_t value = 0;
-    const int status = external->read(device_part(address), register_part(address), &value);
-    if (status == BCM_E_NONE) data = value;
-    return status;
-}
-
-int external_write(const Accessor &external, uint32 address, uint32 data) {
-    return external->write(device_part(address), register_part(address),
-                           static_cast<std::uint16_t>(data));
 }
 
 }  // namespace
@@ -63,8 +40,8 @@ extern "C" {
 
 int soc_phyctrl_reg_read(int unit, soc_port_t port, uint32 flags, uint32 addr, uint32 *data) {
     Accessor external;
-    const int status = on_either(__func__, unit, port, flags, external, [&](const Phy &phy) {
-        return give(data, internal_register(phy, 0, addr));
+    const int status = on_either(__func__, unit, port, flags, external, [&](PhyView &view) {
+        return give(data, data == nullptr ? 0 : read_internal(view, 0, addr));
     });
     if (status < 0 || !external) return status;
     return data == nullptr ? BCM_E_PARAM : external_read(external, addr, *data);
@@ -72,9 +49,9 @@ int soc_phyctrl_reg_read(int unit, soc_port_t port, uint32 flags, uint32 addr, u
 
 int soc_phyctrl_reg_write(int unit, soc_port_t port, uint32 flags, uint32 addr, uint32 data) {
     Accessor external;
-    const int status = on_either(__func__, unit, port, flags, external, [&](Phy &phy) {
+    const int status = on_either(__func__, unit, port, flags, external, [&](PhyView &view) {
         if (data > kWidest) return BCM_E_PARAM;
-        phy.registers[{0, addr}] = static_cast<std::uint16_t>(data);
+        write_internal(view, 0, addr, static_cast<std::uint16_t>(data));
         return BCM_E_NONE;
     });
     if (status < 0 || !external) return status;
@@ -86,9 +63,9 @@ int soc_phyctrl_reg_modify(int unit, soc_port_t port, uint32 flags, uint32 addr,
                            uint32 mask) {
     if ((data & mask) > kWidest) return BCM_E_PARAM;
     Accessor external;
-    int status = on_either(__func__, unit, port, flags, external, [&](Phy &phy) {
-        const uint32 old = internal_register(phy, 0, addr);
-        phy.registers[{0, addr}] = static_cast<std::uint16_t>((old & ~mask) | (data & mask));
+    int status = on_either(__func__, unit, port, flags, external, [&](PhyView &view) {
+        const uint32 old = read_internal(view, 0, addr);
+        write_internal(view, 0, addr, static_cast<std::uint16_t>((old & ~mask) | (data & mask)));
         return BCM_E_NONE;
     });
     if (status < 0 || !external) return status;
@@ -99,15 +76,16 @@ int soc_phyctrl_reg_modify(int unit, soc_port_t port, uint32 flags, uint32 addr,
 
 int soc_phyctrl_lane_reg_read(int unit, soc_port_t port, int lane, uint32, uint32 addr,
                               uint32 *data) {
-    return on_lane(__func__, unit, port, lane,
-                   [&](const Phy &phy) { return give(data, internal_register(phy, lane, addr)); });
+    return on_lane(__func__, unit, port, lane, [&](PhyView &view) {
+        return give(data, data == nullptr ? 0 : read_internal(view, lane, addr));
+    });
 }
 
 int soc_phyctrl_lane_reg_write(int unit, soc_port_t port, int lane, uint32, uint32 addr,
                                uint32 data) {
-    return on_lane(__func__, unit, port, lane, [&](Phy &phy) {
+    return on_lane(__func__, unit, port, lane, [&](PhyView &view) {
         if (data > kWidest) return BCM_E_PARAM;
-        phy.registers[{lane, addr}] = static_cast<std::uint16_t>(data);
+        write_internal(view, lane, addr, static_cast<std::uint16_t>(data));
         return BCM_E_NONE;
     });
 }
@@ -124,10 +102,10 @@ int soc_phyctrl_port_phy_multi_get(int unit, soc_port_t port, uint32 flags, uint
     const uint32 first = dev_addr << 16 | offset;
     *actual_size = 0;
     Accessor external;
-    int status = on_either(__func__, unit, port, flags, external, [&](const Phy &phy) {
+    int status = on_either(__func__, unit, port, flags, external, [&](PhyView &view) {
         for (; *actual_size < max_size; ++*actual_size) {
             const uint32 address = first + static_cast<uint32>(*actual_size);
-            data[*actual_size] = static_cast<uint8>(internal_register(phy, 0, address));
+            data[*actual_size] = static_cast<uint8>(read_internal(view, 0, address));
         }
         return BCM_E_NONE;
     });

@@ -6,9 +6,11 @@
 #include "sdk/soc/phy.h"
 #include "sdk/soc/phyctrl.h"
 #include "standin/model/device_table.h"
-#include "standin/phy/accessors.h"
+#include "standin/model/tables.h"
+#include "standin/model/telling.h"
+#include "standin/phy/external.h"
 #include "standin/phy/identity.h"
-#include "standin/phy/phy.h"
+#include "standin/phy/standard_registers.h"
 
 using namespace standin;
 
@@ -54,19 +56,50 @@ struct PhyTables {
 // REQUIRES: the model's lock is held, and the unit is there.
 PhyTables &tables_of(int unit) { return device_table().find(unit)->layers.of<PhyTables>(); }
 
-// Starts or stops the drivers of all ports.
-int attach_all(const char *function, int unit, bool attached) {
-    return on_switch(function, unit, [&](Switch &chip) {
-        for (Phy &phy : phys_of(chip).ports) phy.attached = attached;
+int detach(const char *function, int unit, soc_port_t port) {
+    return on_any_phy(function, unit, port, [&](PhyView &view) {
+        view.phy.attached = false;
         return BCM_E_NONE;
     });
 }
 
-int attach(const char *function, int unit, soc_port_t port, bool attached) {
-    return on_any_phy(function, unit, port, [&](PhyView &view) {
-        view.phy.attached = attached;
+// The driver of a port looks for its PHY before it starts, and comes to nothing where an external
+// one does not answer.
+template <class Outside>
+int attach(const char *function, int unit, soc_port_t port, Outside &&outside) {
+    const int status = with_external<true>(function, unit, port, outside, [](PhyView &view) {
+        view.phy.attached = true;
         return BCM_E_NONE;
     });
+    if (status < 0) detach(function, unit, port);
+    return status;
+}
+
+int find_and_start(const Accessor &external) {
+    const int status = probe_external(external);
+    return status < 0 ? status : start_external(external);
+}
+
+int detach_all(const char *function, int unit) {
+    return on_switch(function, unit, [&](Switch &chip) {
+        for (Phy &phy : phys_of(chip).ports) phy.attached = false;
+        return BCM_E_NONE;
+    });
+}
+
+// The first failure is the status; the drivers of the other ports are at work.
+int attach_all(const char *function, int unit) {
+    const int status = on_switch(function, unit, [&](Switch &chip) {
+        for (Phy &phy : phys_of(chip).ports) phy.attached = true;
+        return BCM_E_NONE;
+    });
+    int first = status;
+    for (int port = 0; status >= 0 && port < kPorts; ++port) {
+        if (!find_external(unit, port)) continue;
+        const int one = attach(function, unit, port, find_and_start);
+        if (first >= 0) first = one;
+    }
+    return first;
 }
 
 }  // namespace
@@ -88,38 +121,43 @@ int soc_phy_common_detach(int unit) {
     });
 }
 
-int soc_phy_init(int unit) { return attach_all(__func__, unit, true); }
-int soc_phy_deinit(int unit) { return attach_all(__func__, unit, false); }
-int soc_phyctrl_software_init(int unit) { return attach_all(__func__, unit, true); }
-int soc_phyctrl_software_deinit(int unit) { return attach_all(__func__, unit, false); }
+int soc_phy_init(int unit) { return attach_all(__func__, unit); }
+int soc_phy_deinit(int unit) { return detach_all(__func__, unit); }
+int soc_phyctrl_software_init(int unit) { return attach_all(__func__, unit); }
+int soc_phyctrl_software_deinit(int unit) { return detach_all(__func__, unit); }
 
-int soc_phy_port_init(int unit, soc_port_t port) { return attach(__func__, unit, port, true); }
-int soc_phyctrl_probe(int unit, soc_port_t port) { return attach(__func__, unit, port, true); }
-int soc_phyctrl_init(int unit, soc_port_t port) { return attach(__func__, unit, port, true); }
-int soc_phyctrl_detach(int unit, soc_port_t port) { return attach(__func__, unit, port, false); }
+int soc_phy_port_init(int unit, soc_port_t port) {
+    return attach(__func__, unit, port, find_and_start);
+}
+int soc_phyctrl_probe(int unit, soc_port_t port) {
+    return attach(__func__, unit, port, probe_external);
+}
+int soc_phyctrl_init(int unit, soc_port_t port) {
+    return attach(__func__, unit, port, start_external);
+}
+int soc_phyctrl_detach(int unit, soc_port_t port) { return detach(__func__, unit, port); }
 int soc_phyctrl_software_port_init(int unit, soc_port_t port) {
-    return attach(__func__, unit, port, true);
+    return attach(__func__, unit, port, start_external);
 }
 
-// `*okay_pbmp` receives the ports of `pbmp` that have a PHY.
+// `*okay_pbmp` receives the ports of `pbmp` whose PHY answers.
 int soc_phyctrl_pbm_probe_init(int unit, pbmp_t pbmp, pbmp_t *okay_pbmp) {
-    return on_switch(__func__, unit, [&](Switch &chip) {
-        if (okay_pbmp == nullptr) return BCM_E_PARAM;
+    if (okay_pbmp == nullptr) return refuse(__func__, unit);
+    const int status = on_switch(__func__, unit, [&](Switch &) {
         *okay_pbmp = {};
-        for (int port = 0; port < kPorts; ++port) {
-            if (!has_port(pbmp, port)) continue;
-            phys_of(chip).ports[static_cast<std::size_t>(port)].attached = true;
-            add_port(*okay_pbmp, port);
-        }
         return BCM_E_NONE;
     });
+    for (int port = 0; status >= 0 && port < kPorts; ++port)
+        if (has_port(pbmp, port) && attach(__func__, unit, port, find_and_start) >= 0)
+            add_port(*okay_pbmp, port);
+    return status;
 }
 
 // -- reset ---------------------------------------------------------------------------------------
 
 int soc_phyctrl_reset(int unit, soc_port_t port, void *) {
-    return on_phy(__func__, unit, port, [](PhyView &view) {
-        view.phy.reset();
+    return with_external(__func__, unit, port, reset_external, [](PhyView &view) {
+        reset_internal(view);
         return BCM_E_NONE;
     });
 }
@@ -127,16 +165,25 @@ int soc_phyctrl_reset(int unit, soc_port_t port, void *) {
 // Callbacks run without the lock, in the order of their registration; a negative answer ends them
 // and is the status.
 int soc_phy_reset(int unit, soc_port_t port) {
-    std::vector<ResetCallback> callbacks;
-    const int status = on_phy(__func__, unit, port, [&](PhyView &view) {
-        if (view.phy.default_reset) view.phy.reset();
-        callbacks = view.phy.on_reset;
+    std::uint64_t last = 0;
+    bool ours = false;
+    int status = on_phy(__func__, unit, port, [&](PhyView &view) {
+        ours = view.phy.default_reset;
+        last = last_handler();
         port = view.number;
         return BCM_E_NONE;
     });
+    if (status >= 0 && ours) status = soc_phyctrl_reset(unit, port, nullptr);
     if (status < 0) return status;
-    for (const auto &one : callbacks)
-        if (const int answer = one.call(unit, port, one.user); answer < 0) return answer;
+    std::uint64_t at = 0;
+    while (const auto one = next_handler(unit, Registration::kSocPhyReset, at, last)) {
+        at = one->number;
+        if (one->key != HandlerKey{port} ||
+            callback_fault_check("soc_phy_reset_register", unit) != 0)
+            continue;
+        const int answer = one->as<_shr_port_phy_reset_cb_t>()(unit, port, one->user);
+        if (answer < 0) return answer;
+    }
     return BCM_E_NONE;
 }
 
@@ -145,13 +192,10 @@ int soc_phy_reset(int unit, soc_port_t port) {
 int soc_phy_reset_register(int unit, soc_port_t port, soc_port_phy_reset_cb_t callback,
                            void *user_data, int reg_default) {
     return on_phy(__func__, unit, port, [&](PhyView &view) {
-        if (callback == nullptr) return BCM_E_PARAM;
-        auto &all = view.phy.on_reset;
-        if (std::ranges::find(all, ResetCallback{callback, user_data}) != all.end())
-            return BCM_E_EXISTS;
-        all.push_back({callback, user_data});
-        view.phy.default_reset = reg_default != 0;
-        return BCM_E_NONE;
+        const int status = view.chip.events.handlers.add(
+            handler(Registration::kSocPhyReset, callback, user_data, {view.number}));
+        if (status == BCM_E_NONE) view.phy.default_reset = reg_default != 0;
+        return status;
     });
 }
 
@@ -159,25 +203,24 @@ int soc_phy_reset_register(int unit, soc_port_t port, soc_port_phy_reset_cb_t ca
 int soc_phy_reset_unregister(int unit, soc_port_t port, soc_port_phy_reset_cb_t callback,
                              void *user_data) {
     return on_phy(__func__, unit, port, [&](PhyView &view) {
-        auto &all = view.phy.on_reset;
-        if (std::erase(all, ResetCallback{callback, user_data}) == 0) return BCM_E_NOT_FOUND;
-        if (all.empty()) view.phy.default_reset = true;
-        return BCM_E_NONE;
+        auto &handlers = view.chip.events.handlers;
+        const int status = handlers.remove(
+            handler(Registration::kSocPhyReset, callback, user_data, {view.number}));
+        if (handlers.find(Registration::kSocPhyReset, {view.number}) == nullptr)
+            view.phy.default_reset = true;
+        return status;
     });
 }
 
 // Resets the external PHY, through bit 15 of register 0 of its device 1. The address of the
 // function that resets a PHY; null where there is no external PHY, or it did not answer.
 void *soc_phyctrl_ext_phy_reset(int unit, soc_port_t port) {
-    constexpr unsigned device = 1;
-    constexpr std::uint16_t reset_bit = 0x8000;
     Accessor external;
     on_phy(__func__, unit, port, [&](const PhyView &view) {
-        external = accessors().find(static_cast<std::uint32_t>(unit),
-                                    static_cast<std::uint16_t>(view.number));
+        external = find_external(unit, view.number);
         return BCM_E_NONE;
     });
-    if (!external || external->write(device, 0, reset_bit) < 0) return nullptr;
+    if (!external || external_write(external, kPma << 16, kResetBit) < 0) return nullptr;
     return reinterpret_cast<void *>(&soc_phyctrl_reset);
 }
 

@@ -43,26 +43,25 @@ void visit_phy(StateVisitor &to, const Phy &phy) {
     visit_numbers(to, "loopback", phy.loopback, text_of);
     visit_numbers(to, "autoneg", phy.autoneg, text_of);
     visit_numbers(to, "register", phy.registers, pair);
+    visit_numbers(to, "access_address", phy.access_addresses, pair);
     visit_numbers(to, "top_register", phy.top_registers, number);
     visit_numbers(to, "diagnostic", phy.diagnostics, number);
 }
 
 }  // namespace
 
+// Those that are not as on the first day.
 void visit_state(const Phys &phys, StateVisitor &to) {
-    to.object("mdio_clock", "");
-    to.number("dividend", phys.dividend);
-    to.number("divisor", phys.divisor);
+    static const Phys first;
+    if (phys.dividend != first.dividend || phys.divisor != first.divisor) {
+        to.object("mdio_clock", "");
+        to.number("dividend", phys.dividend);
+        to.number("divisor", phys.divisor);
+    }
     for (std::size_t port = 0; port < phys.ports.size(); ++port) {
+        if (phys.ports[port] == first.ports[port]) continue;
         to.object("phy", std::to_string(port));
         visit_phy(to, phys.ports[port]);
-    }
-}
-
-void keep_state(Phys &copy, const Phys &present) {
-    for (std::size_t port = 0; port < copy.ports.size(); ++port) {
-        copy.ports[port].on_reset = present.ports[port].on_reset;
-        copy.ports[port].on_medium = present.ports[port].on_medium;
     }
 }
 

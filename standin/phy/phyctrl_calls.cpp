@@ -5,6 +5,8 @@
 #include "sdk/bcm/port.h"
 #include "sdk/soc/phy.h"
 #include "sdk/soc/phyctrl.h"
+#include "standin/phy/abilities.h"
+#include "standin/phy/external.h"
 #include "standin/phy/mode_text.h"
 #include "standin/phy/phy.h"
 
@@ -44,36 +46,8 @@ int get_of_port(const char *function, int unit, soc_port_t port, int Port::*fiel
                   [&](const PhyView &view) { return give(value, view.port.*field); });
 }
 
-// -- abilities: bits of soc_port_mode_t, as mode_text.h lists them --------------------------------
-
-struct SpeedBit {
-    int speed;
-    unsigned bit;
-};
-constexpr SpeedBit kSpeeds[] = {{10, 1},      {100, 3},     {1'000, 5},    {2'500, 6},
-                                {5'000, 7},   {10'000, 9},  {20'000, 10},  {25'000, 11},
-                                {40'000, 12}, {50'000, 13}, {100'000, 14}, {200'000, 15}};
-// Pause in both directions, negotiation, loopback in MAC and PHY, error correction, fiber.
-constexpr std::uint32_t kAlways = 0x2f << 16 | 1 << 24;
-
 bool is_speed(int speed) {
-    return std::ranges::find(kSpeeds, speed, &SpeedBit::speed) != std::end(kSpeeds);
-}
-
-std::uint32_t supported(const Port &port) {
-    std::uint32_t mode = kAlways;
-    for (const SpeedBit &one : kSpeeds)
-        if (one.speed <= port.speed_max) mode |= 1u << one.bit;
-    return mode;
-}
-
-// What the far end, which is one of our kind, can do: nothing if nobody is there.
-std::uint32_t remote(const Port &port) { return port.peer ? supported(port) : 0; }
-
-std::uint32_t mode_of(const soc_port_ability_t &ability) {
-    std::uint32_t mode = 0;
-    for (const std::uint32_t word : ability.words) mode |= word;
-    return mode;
+    return std::ranges::find(kSpeedBits, speed, &SpeedBit::speed) != std::end(kSpeedBits);
 }
 
 int give_mode(const char *function, int unit, soc_port_t port, soc_port_mode_t *out,
@@ -92,17 +66,24 @@ int give_ability(const char *function, int unit, soc_port_t port, soc_port_abili
     });
 }
 
-// BCM_E_CONFIG for what the port can't do.
-int advertise(PhyView &view, std::uint32_t mode) {
-    if ((mode & ~supported(view.port)) != 0) return BCM_E_CONFIG;
-    view.port.advertised = {};
-    ability_words(mode, view.port.advertised.words);
-    return BCM_E_NONE;
-}
-
-// Tells those who wait for the medium; without the lock.
-void tell_medium(const std::vector<MediumCallback> &callbacks, int unit, int port, int medium) {
-    for (const auto &one : callbacks) one.call(unit, port, medium, one.user);
+// `give_out(view)` once the port knows of its link what the external PHY, if there is one, says. A
+// handler that reads the link in our place is not overruled.
+template <class Give>
+int with_link(const char *function, int unit, soc_port_t port, Give &&give_out) {
+    int link = 0;
+    bool asked = false;
+    const auto outside = [&](const Accessor &external) {
+        asked = true;
+        return link_external(external, link);
+    };
+    return with_external(function, unit, port, outside, [&](PhyView &view) {
+        const auto &handlers = view.chip.events.handlers;
+        if (handlers.find(Registration::kLinkscanPort, {view.number}) == nullptr) {
+            view.port.told_link.reset();
+            if (asked) view.port.told_link = link;
+        }
+        return give_out(view);
+    });
 }
 
 }  // namespace
@@ -118,10 +99,24 @@ extern "C" {
     int getter(int unit, soc_port_t port, int *value) {                           \
         return get_of_port(__func__, unit, port, &Port::field, value);            \
     }
-PORT_PAIR(soc_phyctrl_enable_set, soc_phyctrl_enable_get, enable, 1)
 PORT_PAIR(soc_phyctrl_duplex_set, soc_phyctrl_duplex_get, duplex, 1)
 PORT_PAIR(soc_phyctrl_master_set, soc_phyctrl_master_get, master, kMost)
 #undef PORT_PAIR
+
+int soc_phyctrl_enable_set(int unit, soc_port_t port, int value) {
+    const auto outside = [&](const Accessor &external) {
+        return within(value, 0, 1) ? enable_external(external, value != 0) : int{BCM_E_NONE};
+    };
+    return with_external(__func__, unit, port, outside, [&](PhyView &view) {
+        if (!within(value, 0, 1)) return BCM_E_PARAM;
+        view.port.enable = value;
+        return BCM_E_NONE;
+    });
+}
+
+int soc_phyctrl_enable_get(int unit, soc_port_t port, int *value) {
+    return get_of_port(__func__, unit, port, &Port::enable, value);
+}
 
 #define PHY_PAIR(setter, getter, type, field)                                     \
     int setter(int unit, soc_port_t port, type value) {                           \
@@ -192,26 +187,21 @@ int soc_serdes_mask_100G_get(int unit, soc_port_t port, uint32 *mask) {
 
 // -- link ----------------------------------------------------------------------------------------
 
-// Up when the port is enabled, both directions are on, and somebody answers.
-static int link_of(const PhyView &view) {
-    return view.port.link() && view.phy.tx_enabled != 0 && view.phy.rx_enabled != 0;
-}
-
 int soc_phyctrl_link_get(int unit, soc_port_t port, int *link) {
-    return on_phy(__func__, unit, port,
-                  [&](const PhyView &view) { return give(link, link_of(view)); });
+    return with_link(__func__, unit, port,
+                     [&](const PhyView &view) { return give(link, link_of(view)); });
 }
 
 // The port is on and has no link.
 int soc_phyctrl_linkfault_get(int unit, soc_port_t port, int *fault) {
-    return on_phy(__func__, unit, port, [&](const PhyView &view) {
+    return with_link(__func__, unit, port, [&](const PhyView &view) {
         return give(fault, view.port.enable != 0 && link_of(view) == 0);
     });
 }
 
 int soc_phyctrl_link_change(int unit, soc_port_t port, int *link) {
-    return on_phy(__func__, unit, port,
-                  [&](const PhyView &view) { return give(link, link_of(view)); });
+    return with_link(__func__, unit, port,
+                     [&](const PhyView &view) { return give(link, link_of(view)); });
 }
 
 // The driver has nothing to do when a link comes or goes.
@@ -294,33 +284,32 @@ int soc_phyctrl_cable_diag(int unit, soc_port_t port, soc_port_cable_diag_t *sta
 int soc_phy_medium_status_register(int unit, soc_port_t port, soc_port_medium_status_cb_t cb,
                                    void *user_data) {
     return on_phy(__func__, unit, port, [&](PhyView &view) {
-        if (cb == nullptr) return BCM_E_PARAM;
-        auto &all = view.phy.on_medium;
-        if (std::ranges::find(all, MediumCallback{cb, user_data}) != all.end()) return BCM_E_EXISTS;
-        all.push_back({cb, user_data});
-        return BCM_E_NONE;
+        return view.chip.events.handlers.add(
+            handler(Registration::kSocMediumStatus, cb, user_data, {view.number}));
     });
 }
 
 int soc_phy_medium_status_unregister(int unit, soc_port_t port, soc_port_medium_status_cb_t cb,
                                      void *user_data) {
     return on_phy(__func__, unit, port, [&](PhyView &view) {
-        return std::erase(view.phy.on_medium, MediumCallback{cb, user_data}) != 0 ? BCM_E_NONE
-                                                                                  : BCM_E_NOT_FOUND;
+        return view.chip.events.handlers.remove(
+            handler(Registration::kSocMediumStatus, cb, user_data, {view.number}));
     });
 }
 
 // Sets the medium, 1 copper or 2 fiber, and tells who registered.
 void soc_phy_medium_status_notify(int unit, soc_port_t port, soc_port_medium_t medium) {
-    std::vector<MediumCallback> callbacks;
-    const int status = on_phy(__func__, unit, port, [&](PhyView &view) {
+    on_phy(__func__, unit, port, [&](PhyView &view) {
         if (!within(medium, kMediumCopper, kMediumFiber)) return BCM_E_PARAM;
         view.phy.medium = medium;
-        callbacks = view.phy.on_medium;
-        port = view.number;
+        const int number = view.number;
+        view.chip.events.raise(
+            Registration::kSocMediumStatus, [number, medium](int of, const Handler &one) {
+                if (one.key == HandlerKey{number})
+                    one.as<_shr_port_medium_status_cb_t>()(of, number, medium, one.user);
+            });
         return BCM_E_NONE;
     });
-    if (status == BCM_E_NONE) tell_medium(callbacks, unit, port, medium);
 }
 
 // -- abilities -----------------------------------------------------------------------------------
@@ -334,12 +323,11 @@ int soc_phyctrl_adv_remote_get(int unit, soc_port_t port, soc_port_mode_t *mode)
 }
 
 int soc_phyctrl_adv_local_get(int unit, soc_port_t port, soc_port_mode_t *mode) {
-    return give_mode(__func__, unit, port, mode,
-                     [](const Port &one) { return mode_of(one.advertised); });
+    return give_mode(__func__, unit, port, mode, advertised);
 }
 
 int soc_phyctrl_adv_local_set(int unit, soc_port_t port, soc_port_mode_t mode) {
-    return on_phy(__func__, unit, port, [&](PhyView &view) { return advertise(view, mode); });
+    return on_phy(__func__, unit, port, [&](PhyView &view) { return advertise(view.port, mode); });
 }
 
 int soc_phyctrl_ability_local_get(int unit, soc_port_t port, soc_port_ability_t *ability) {
@@ -351,13 +339,15 @@ int soc_phyctrl_ability_remote_get(int unit, soc_port_t port, soc_port_ability_t
 }
 
 int soc_phyctrl_ability_advert_get(int unit, soc_port_t port, soc_port_ability_t *ability) {
-    return give_ability(__func__, unit, port, ability,
-                        [](const Port &one) { return mode_of(one.advertised); });
+    return give_ability(__func__, unit, port, ability, advertised);
 }
 
 int soc_phyctrl_ability_advert_set(int unit, soc_port_t port, soc_port_ability_t *ability) {
     return on_phy(__func__, unit, port, [&](PhyView &view) {
-        return ability == nullptr ? BCM_E_PARAM : advertise(view, mode_of(*ability));
+        std::uint32_t mode = 0;
+        if (ability == nullptr) return BCM_E_PARAM;
+        for (const std::uint32_t word : ability->words) mode |= word;
+        return advertise(view.port, mode);
     });
 }
 

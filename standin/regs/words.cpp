@@ -27,7 +27,7 @@ CounterWord counter_at(const Unit &unit, std::uint32_t address) {
     if (!place || !place->layout->is_volatile) return {};
     for (const CounterRow &row : kCounters) {
         if (row.reg != place->layout->id) continue;
-        Port &port = *unit.device.chip->ports.find(place->instance);
+        Port &port = *chip_of(unit.device).ports.find(place->instance);
         return {&(port.in.*row.field), place->word * kWordBits, place->layout->mask(place->word)};
     }
     return {};

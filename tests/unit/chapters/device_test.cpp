@@ -2,9 +2,13 @@
 #include <functional>
 
 #include "chip_fixture.h"
+#include "helper/shadow.h"
 #include "sdk/bcm/init.h"
+#include "sdk/bcm/stk.h"
 #include "sdk/bcm/vlan.h"
 #include "sdk/diag/appl.h"
+#include "sdk/soc/phyctrl.h"
+#include "sdk/soc/reg.h"
 #include "sdk/variables.h"
 
 namespace standin {
@@ -103,6 +107,86 @@ TEST_F(Devices, EveryOrderOfStartHasItsStatus) {
         {"start again", [] { return soc_init(0); }, BCM_E_NONE},
         {"as on the first day", vlan, BCM_E_NONE},
     });
+}
+
+TEST_F(Devices, TheRecordOfAStartIsReadOrRefused) {
+    ASSERT_EQ(addOmbraDevice(0, 1, 0, 0), 0);
+    ASSERT_EQ(soc_init(0), BCM_E_NONE);
+    using Param = appl_dcmn_init_param_t;
+    const auto start = [](auto field, auto value) {
+        Param param{};
+        param.*field = value;
+        const int status = appl_dcmn_init(0, &param);
+        if (appl_dcmn_deinit(0, &param) != BCM_E_NONE && status == BCM_E_NONE) return 99;
+        return status;
+    };
+    EXPECT_EQ(start(&Param::warmboot, 1), BCM_E_UNAVAIL);
+    EXPECT_NE(std::string(standin_last_refusal()).find("field warmboot is 1"), std::string::npos);
+    EXPECT_EQ(start(&Param::l2_mode, 1u), BCM_E_UNAVAIL);
+    EXPECT_EQ(start(&Param::unit, 3u), BCM_E_PARAM);
+    EXPECT_EQ(start(&Param::nof_devices, -1), BCM_E_PARAM);
+    EXPECT_EQ(start(&Param::modid, 9999), BCM_E_PARAM);
+    EXPECT_EQ(start(&Param::no_elk_appl, 1), BCM_E_NONE);
+    EXPECT_EQ(start(&Param::no_init, 1), 99) << "nothing was started";
+    EXPECT_EQ(start(&Param::modid, 7), BCM_E_NONE);
+    int module = 0;
+    EXPECT_EQ(bcm_stk_modid_get(0, &module), BCM_E_NONE);
+    EXPECT_EQ(module, 7);
+    Param quiet{};
+    quiet.no_intr = 1;
+    quiet.no_appl_stk = 1;
+    EXPECT_EQ(appl_dcmn_init(0, &quiet), BCM_E_NONE);
+    EXPECT_EQ(standin_switch_event(0, 1, 0, 0, 0), BCM_E_DISABLED);
+    EXPECT_EQ(appl_dpp_bcm_diag_init(0, &quiet), BCM_E_NONE);
+    EXPECT_EQ(appl_dpp_stk_diag_init(0), BCM_E_DISABLED);
+    EXPECT_EQ(appl_dpp_cosq_diag_init(0), BCM_E_NONE);
+    EXPECT_EQ(appl_dpp_bcm_diag_init_py(0, 1, 2, 1), BCM_E_NONE);
+    EXPECT_EQ(appl_dpp_cosq_diag_init(0), BCM_E_DISABLED);
+}
+
+TEST_F(Devices, AShutdownStartsNothingAndASwitchoverKeepsTheChip) {
+    ASSERT_EQ(addOmbraDevice(0, 1, 0, 0), 0);
+    ASSERT_EQ(soc_init(0), BCM_E_NONE);
+    ASSERT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
+    isShuttingDownIs(true);
+    EXPECT_EQ(addOmbraDevice(0, 2, 0, 0), BCM_E_DISABLED);
+    EXPECT_EQ(system_init(0), BCM_E_DISABLED);
+    EXPECT_EQ(soc_init(0), BCM_E_DISABLED);
+    EXPECT_EQ(standin_switch_event(0, 1, 0, 0, 0), BCM_E_DISABLED);
+    EXPECT_EQ(bcm_vlan_create(0, 10), BCM_E_EXISTS);
+    isShuttingDownIs(false);
+    EXPECT_EQ(standin_switch_event(0, 1, 0, 0, 0), BCM_E_NONE);
+    ssoIs(true);
+    EXPECT_EQ(soc_deinit(0), BCM_E_NONE);
+    EXPECT_EQ(soc_init(0), BCM_E_NONE);
+    EXPECT_EQ(bcm_vlan_create(0, 10), BCM_E_EXISTS);
+    ssoIs(false);
+    EXPECT_EQ(soc_init(0), BCM_E_NONE);
+    EXPECT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
+}
+
+TEST_F(Devices, ADeviceThatIsRewiredTakesItsHardwareAlong) {
+    ASSERT_EQ(addOmbraDevice(0, 1, 0, 0), 0);
+    ASSERT_EQ(soc_init(0), BCM_E_NONE);
+    ASSERT_EQ(soc_reg32_set(0, IHP_GENERAL_TRAPr, 1, 0, 5), BCM_E_NONE);
+    ASSERT_EQ(soc_phyctrl_reg_write(0, 7, 0, 0x18000, 6), BCM_E_NONE);
+    ASSERT_EQ(bcm_vlan_create(0, 10), BCM_E_NONE);
+    maskDeviceInterrupts(1);
+    for (const auto rewire : {rewireOmbraDeviceRemap, rewireOmbraDeviceNoRemap}) {
+        rewire(0, 0, 2, 0, 0);
+        uint32 value = 0;
+        forceReadFromHardwareIs(true);
+        EXPECT_EQ(soc_reg32_get(0, IHP_GENERAL_TRAPr, 1, 0, &value), BCM_E_NONE);
+        forceReadFromHardwareIs(false);
+        EXPECT_EQ(value, 5u);
+        EXPECT_EQ(soc_phyctrl_reg_read(0, 7, 0, 0x18000, &value), BCM_E_NONE);
+        EXPECT_EQ(value, 6u);
+        EXPECT_EQ(bcm_vlan_create(0, 10), BCM_E_EXISTS);
+        EXPECT_EQ(standin_switch_event(0, 1, 0, 0, 0), BCM_E_NONE) << "on a bus that is heard";
+        rewire(0, 0, 1, 0, 0);
+        EXPECT_EQ(standin_switch_event(0, 1, 0, 0, 0), BCM_E_DISABLED);
+        EXPECT_EQ(addOmbraDevice(0, 1, 0, 0), BCM_E_EXISTS);
+    }
 }
 
 TEST_F(Devices, PlatformKeepsWhatItIsTold) {

@@ -7,7 +7,9 @@
 #include "chip_fixture.h"
 #include "sdk/bcm/l2.h"
 #include "sdk/bcm/linkscan.h"
+#include "sdk/bcm/oam.h"
 #include "sdk/bcm/port.h"
+#include "sdk/bcm/time.h"
 #include "standin/model/registrations.h"
 
 namespace standin {
@@ -197,6 +199,78 @@ TEST_F(Events, WaitingTellsWhichLinksAreUp) {
     EXPECT_EQ(bcm_link_wait(0, nullptr, 1'000), BCM_E_PARAM);
     EXPECT_EQ(bcm_linkscan_enable_port_get(0, 1), BCM_E_NONE);
     EXPECT_EQ(bcm_linkscan_enable_port_get(0, 7), BCM_E_DISABLED);
+}
+
+int beat_again(int unit, bcm_time_if_t id, bcm_time_capture_t *time, void *user) {
+    auto &beats = *static_cast<std::vector<std::uint64_t> *>(user);
+    beats.push_back(time->synchronous.seconds * 1'000 + time->synchronous.nanoseconds / 1'000'000);
+    return beats.size() == 5 ? bcm_time_heartbeat_unregister(unit, id) : int{BCM_E_NONE};
+}
+
+TEST_F(Events, AHeartbeatBeatsAtItsTimesWhileItIsHeard) {
+    std::vector<std::uint64_t> beats;
+    bcm_time_interface_t one{};
+    one.id = 3;
+    EXPECT_EQ(bcm_time_heartbeat_register(0, 3, beat_again, &beats), BCM_E_NOT_FOUND);
+    ASSERT_EQ(bcm_time_interface_add(0, &one), BCM_E_NONE);
+    EXPECT_EQ(bcm_time_interface_add(0, &one), BCM_E_EXISTS);
+    EXPECT_EQ(bcm_time_heartbeat_enable_set(0, 3, 1), BCM_E_CONFIG) << "it has no frequency";
+    one.flags = 0x20;  // in the place of the one there
+    one.heartbeat_hz = 4;
+    one.offset = {1, 0, 400'000'000};
+    ASSERT_EQ(bcm_time_interface_add(0, &one), BCM_E_NONE);
+    standin_time_pass(0, 150'000);
+    ASSERT_EQ(bcm_time_heartbeat_enable_set(0, 3, 1), BCM_E_NONE);
+    EXPECT_EQ(bcm_time_heartbeat_register(0, 3, beat_again, &beats), BCM_E_NONE);
+    EXPECT_EQ(bcm_time_heartbeat_register(0, 3, beat_again, &beats), BCM_E_EXISTS);
+    standin_time_pass(0, 249'999);
+    EXPECT_TRUE(beats.empty());
+    standin_time_pass(0, 1);
+    standin_time_pass(0, 60'000'000);
+    EXPECT_EQ(beats, (std::vector<std::uint64_t>{0, 250, 500, 750, 1000}));
+    bcm_time_capture_t now{};
+    EXPECT_EQ(bcm_time_capture_get(0, 3, &now), BCM_E_NONE);
+    EXPECT_EQ(now.free.seconds, 60u);
+    EXPECT_EQ(now.synchronous.nanoseconds, 0u);
+    one.offset = {1, 100, 0};
+    ASSERT_EQ(bcm_time_interface_add(0, &one), BCM_E_NONE);
+    EXPECT_EQ(bcm_time_capture_get(0, 3, &now), BCM_E_NONE);
+    EXPECT_EQ(now.synchronous.isnegative, 1);
+    EXPECT_EQ(now.synchronous.seconds, 39u);
+    EXPECT_EQ(now.synchronous.nanoseconds, 600'000'000u);
+    EXPECT_EQ(bcm_time_interface_delete(0, 3), BCM_E_NONE);
+    EXPECT_EQ(bcm_time_heartbeat_unregister(0, 3), BCM_E_NOT_FOUND);
+}
+
+// What the handlers of maintenance events were told, with the number that is their argument.
+std::vector<std::pair<int, int>> maintained;
+
+int on_oam(int, uint32, bcm_oam_event_type_t type, bcm_oam_group_t, bcm_oam_endpoint_t,
+           void *user) {
+    maintained.emplace_back(*static_cast<int *>(user), type);
+    return BCM_E_NONE;
+}
+
+TEST_F(Events, ATypeOfAnEventIsTakenBackByItself) {
+    maintained.clear();
+    int first = 1;
+    int second = 2;
+    const bcm_oam_event_types_t both{{1u << 3, 1u << 8}};
+    const bcm_oam_event_types_t one{{1u << 3}};
+    EXPECT_EQ(bcm_oam_event_register(0, {}, on_oam, &first), BCM_E_PARAM);
+    EXPECT_EQ(bcm_oam_event_unregister(0, both, on_oam), BCM_E_NOT_FOUND);
+    EXPECT_EQ(bcm_oam_event_register(0, one, on_oam, &first), BCM_E_NONE);
+    EXPECT_EQ(bcm_oam_event_register(0, both, on_oam, &second), BCM_E_NONE);
+    EXPECT_EQ(bcm_oam_event_register(0, both, on_oam, &second), BCM_E_EXISTS);
+    for (const int type : {3, 40, 4}) standin_oam_event(0, type, 0, 0, 0);
+    EXPECT_EQ(bcm_oam_event_unregister(0, one, on_oam), BCM_E_NONE);
+    for (const int type : {3, 40}) standin_oam_event(0, type, 0, 0, 0);
+    EXPECT_EQ(maintained, (std::vector<std::pair<int, int>>{{1, 3}, {2, 40}, {2, 40}}));
+    EXPECT_EQ(standin_oam_event(0, bcmOAMEventCount, 0, 0, 0), BCM_E_PARAM);
+    EXPECT_EQ(bcm_oam_detach(0), BCM_E_NONE);
+    EXPECT_EQ(bcm_oam_init(0), BCM_E_NONE);
+    standin_oam_event(0, 40, 0, 0, 0);
+    EXPECT_EQ(maintained.size(), 3u) << "the chapter's handlers end with it";
 }
 
 TEST(Registrations, StandInTheOrderOfTheirNumbers) {

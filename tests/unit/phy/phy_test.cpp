@@ -2,6 +2,7 @@
 #include <array>
 #include <atomic>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <string>
 #include <thread>
@@ -50,9 +51,9 @@ TEST_F(PhyTest, PortAndPhyAreOfOneMind) {
     ASSERT_EQ(soc_phyctrl_loopback_set(0, 7, 0, 0), BCM_E_NONE);
     EXPECT_EQ(number(bcm_port_loopback_get, 7), BCM_PORT_LOOPBACK_MAC);
     EXPECT_EQ(number(soc_phyctrl_duplex_get, kLocalGport.of(7)), 1);
-    ASSERT_EQ(bcm_port_phy_set(0, 7, 0, 0x10002, 0x55), BCM_E_NONE);
+    ASSERT_EQ(bcm_port_phy_set(0, 7, 0, 0x18002, 0x55), BCM_E_NONE);
     uint32 value = 0;
-    ASSERT_EQ(soc_phyctrl_reg_read(0, 7, 0, 0x10002, &value), BCM_E_NONE);
+    ASSERT_EQ(soc_phyctrl_reg_read(0, 7, 0, 0x18002, &value), BCM_E_NONE);
     EXPECT_EQ(value, 0x55u);
 }
 
@@ -178,24 +179,25 @@ TEST_F(PhyTest, RegistersOfTheInternalPhy) {
         TesselApiInternalPhyRead(0, port, lane, address, &value);
         return int{value};
     };
-    ASSERT_EQ(soc_phyctrl_reg_write(0, 60, 0, 0x1000a, 0xffff), BCM_E_NONE);
-    EXPECT_EQ(get(60, 0, 0x1000a), 0xffff);
-    EXPECT_EQ(get(60, 1, 0x1000a), 0);
-    EXPECT_EQ(get(61, 0, 0x1000a), 0);
-    EXPECT_EQ(get(60, 4, 0x1000a), 0x7777);
-    EXPECT_EQ(get(7, 1, 0x1000a), 0x7777);
-    ASSERT_EQ(soc_phyctrl_reg_modify(0, 60, 0, 0x1000a, 0x0012, 0x00ff), BCM_E_NONE);
-    EXPECT_EQ(get(60, 0, 0x1000a), 0xff12);
+    ASSERT_EQ(soc_phyctrl_reg_write(0, 60, 0, 0x1800a, 0xffff), BCM_E_NONE);
+    EXPECT_EQ(get(60, 0, 0x1800a), 0xffff);
+    EXPECT_EQ(get(60, 1, 0x1800a), 0);
+    EXPECT_EQ(get(61, 0, 0x1800a), 0);
+    EXPECT_EQ(get(60, 4, 0x1800a), 0x7777);
+    EXPECT_EQ(get(7, 1, 0x1800a), 0x7777);
+    ASSERT_EQ(soc_phyctrl_reg_modify(0, 60, 0, 0x1800a, 0x0012, 0x00ff), BCM_E_NONE);
+    EXPECT_EQ(get(60, 0, 0x1800a), 0xff12);
     EXPECT_EQ(soc_phyctrl_reg_write(0, 60, 0, 0, 0x10000), BCM_E_PARAM);
     EXPECT_EQ(soc_phyctrl_reg_modify(0, 60, 0, 0, 0x10000, ~0u), BCM_E_PARAM);
     EXPECT_EQ(soc_phyctrl_reg_read(0, 60, 0, 0, nullptr), BCM_E_PARAM);
-    TesselApiInternalPhyWrite(0, 60, 3, 0x1000a, 9);
-    EXPECT_EQ(get(60, 3, 0x1000a), 9);
+    TesselApiInternalPhyWrite(0, 60, 3, 0x1800a, 9);
+    EXPECT_EQ(get(60, 3, 0x1800a), 9);
     TesselApiInternalPhyRead(0, 60, 3, 0, nullptr);
     TesselApiInternalPhyWrite(9, 60, 3, 0, 1);
     std::array<uint8, 3> bytes{};
     int size = 0;
-    ASSERT_EQ(soc_phyctrl_port_phy_multi_get(0, 60, 0, 1, 9, 3, bytes.data(), &size), BCM_E_NONE);
+    ASSERT_EQ(soc_phyctrl_port_phy_multi_get(0, 60, 0, 1, 0x8009, 3, bytes.data(), &size),
+              BCM_E_NONE);
     EXPECT_EQ(size, 3);
     EXPECT_EQ(bytes[1], 0x12);
     EXPECT_EQ(soc_phyctrl_port_phy_multi_get(0, 60, 0, 1, 0xffff, 2, bytes.data(), &size),
@@ -205,6 +207,134 @@ TEST_F(PhyTest, RegistersOfTheInternalPhy) {
     ASSERT_EQ(soc_phyctrl_toplvl_reg_read(0, 59, 57, 4, &word), BCM_E_NONE);
     EXPECT_EQ(word, 0x55);
     EXPECT_EQ(soc_phyctrl_toplvl_reg_read(0, 59, kNoPort, 4, &word), BCM_E_PORT);
+}
+
+// Registers of an internal PHY, by device and number.
+struct Registers {
+    int port = 7;
+    uint32 operator()(uint32 device, uint32 number) const {
+        return value_of<uint32>([&](uint32 *value) {
+            return soc_phyctrl_reg_read(0, port, kInternal, device << 16 | number, value);
+        });
+    }
+    void set(uint32 device, uint32 number, uint32 value) const {
+        EXPECT_EQ(soc_phyctrl_reg_write(0, port, kInternal, device << 16 | number, value),
+                  BCM_E_NONE);
+    }
+};
+
+TEST_F(PhyTest, TheStandardRegistersAndTheCallsAreOneState) {
+    const Registers reg;
+    for (const uint32 device : {0u, 1u, 3u, 7u}) {
+        reg.set(device, 2, 0);  // nobody writes an identifier
+        EXPECT_EQ(reg(device, 2), soc_phy_id0reg_get(0, 7));
+        EXPECT_EQ(reg(device, 3), soc_phy_id1reg_get(0, 7));
+    }
+    // What a call does a register shows, and the other way round.
+    struct Case {
+        const char *what;
+        std::function<void(int)> set;
+        std::function<int()> get;
+        uint32 device, number, bit;
+        bool inverse = false;
+    };
+    const auto loopback = [](int on) { soc_phyctrl_loopback_set(0, 7, on, 0); };
+    const auto is_looped = [] { return number(soc_phyctrl_loopback_get, 7); };
+    const auto enable = [](int on) { bcm_port_enable_set(0, 7, on); };
+    const auto is_enabled = [] { return number(bcm_port_enable_get, 7); };
+    const auto negotiate = [](int on) { bcm_port_autoneg_set(0, 7, on); };
+    const auto negotiates = [] { return number(bcm_port_autoneg_get, 7); };
+    const Case cases[] = {
+        {"loopback", loopback, is_looped, 0, 0, 1 << 14},
+        {"loopback, PMA", loopback, is_looped, 1, 0, 1 << 0},
+        {"loopback, PCS", loopback, is_looped, 3, 0, 1 << 14},
+        {"power", enable, is_enabled, 0, 0, 1 << 11, true},
+        {"power, PMA", enable, is_enabled, 1, 0, 1 << 11, true},
+        {"negotiation", negotiate, negotiates, 0, 0, 1 << 12},
+        {"negotiation, 45", negotiate, negotiates, 7, 0, 1 << 12},
+        {"duplex", [](int on) { bcm_port_duplex_set(0, 7, on); },
+         [] { return number(bcm_port_duplex_get, 7); }, 0, 0, 1 << 8},
+        {"transmitter", [](int on) { soc_enable_txrx_set(0, 7, on, 1); },
+         [] {
+             int tx = 0;
+             int rx = 0;
+             soc_enable_txrx_get(0, 7, &tx, &rx);
+             return tx;
+         },
+         1, 9, 1 << 0, true},
+    };
+    for (const Case &one : cases) {
+        SCOPED_TRACE(one.what);
+        for (const int on : {1, 0, 1, 0}) {
+            one.set(on);
+            const bool bit = (on != 0) != one.inverse;
+            EXPECT_EQ((reg(one.device, one.number) & one.bit) != 0, bit);
+            const uint32 other = reg(one.device, one.number) ^ one.bit;
+            reg.set(one.device, one.number, other);
+            EXPECT_EQ(one.get(), 1 - on);
+            EXPECT_EQ(reg(one.device, one.number), other);
+        }
+        one.set(one.inverse ? 1 : 0);
+    }
+}
+
+TEST_F(PhyTest, SpeedsAbilitiesAndPagesStandInTheirBits) {
+    const Registers reg;
+    struct Case {
+        int speed;
+        uint32 basic, coded;
+    };
+    const Case cases[] = {{10, 0, 0},
+                          {100, 1 << 13, 1 << 13},
+                          {1'000, 1 << 6, 1 << 6},
+                          {10'000, 0x2040, 0x2040},
+                          {25'000, 0x2040, 0x2040 | 4 << 2}};
+    for (const Case &one : cases) {
+        SCOPED_TRACE(one.speed);
+        ASSERT_EQ(bcm_port_speed_set(0, 7, one.speed), BCM_E_NONE);
+        EXPECT_EQ(reg(0, 0) & 0x2040, one.basic);
+        EXPECT_EQ(reg(1, 0) & 0x207c, one.coded);
+        ASSERT_EQ(bcm_port_speed_set(0, 7, 5'000), BCM_E_NONE);
+        reg.set(3, 0, one.coded);
+        EXPECT_EQ(number(bcm_port_speed_get, 7), one.speed);
+    }
+    reg.set(1, 0, 0x2040 | 3 << 2);  // 100 Gbit/s, which the port can't
+    EXPECT_EQ(number(bcm_port_speed_get, 7), 25'000);
+    reg.set(0, 4, 0xffff);
+    reg.set(7, 17, 1 << 15);
+    soc_port_mode_t mode = 0;
+    ASSERT_EQ(soc_phyctrl_adv_local_get(0, 7, &mode), BCM_E_NONE);
+    EXPECT_EQ(mode, 1u << 1 | 1u << 3 | 3u << 16 | 1u << 11);
+    EXPECT_EQ(reg(0, 4), 1u | 1 << 6 | 1 << 8 | 3 << 10);
+    EXPECT_EQ(reg(0, 5), reg(0, 4)) << "the far end is one of our kind";
+    EXPECT_EQ(reg(1, 5), 0x8bu);
+    EXPECT_EQ(reg(1, 4) & 1, 1u);
+    standin_link_set(0, 7, 0);
+    EXPECT_EQ(reg(0, 5), 0u);
+    // The way round through clause 22: the address, then the data.
+    reg.set(0, 13, 1);
+    reg.set(0, 14, 0x8000);
+    reg.set(0, 13, 2u << 14 | 1);
+    reg.set(0, 14, 0x55);
+    reg.set(0, 14, 0x66);
+    EXPECT_EQ(reg(1, 0x8000), 0x55u);
+    EXPECT_EQ(reg(1, 0x8001), 0x66u);
+}
+
+TEST_F(PhyTest, ALinkThatWasDownIsDownOnceMoreInEachDevice) {
+    const Registers reg;
+    for (const uint32 device : {0u, 1u, 3u, 7u}) EXPECT_NE(reg(device, 1) & 4, 0u);
+    standin_link_set(0, 7, 0);
+    standin_link_set(0, 7, 1);
+    for (const uint32 device : {0u, 1u, 3u, 7u}) {
+        EXPECT_EQ(reg(device, 1) & 4, 0u);
+        EXPECT_NE(reg(device, 1) & 4, 0u);
+    }
+    soc_phyctrl_loopback_set(0, 7, 1, 0);
+    soc_phyctrl_mdix_set(0, 7, 2);
+    reg.set(0, 0, 0x8000);
+    EXPECT_EQ(reg(0, 0) & 0xc000, 0u) << "the bit clears itself, the loopback is over";
+    EXPECT_EQ(number(soc_phyctrl_mdix_get, 7), 0);
 }
 
 TEST_F(PhyTest, ADetachedDriverAnswersNothingUntilItIsProbed) {

@@ -409,8 +409,9 @@ TEST_F(RegistersTest, CountersAreThoseOfThePort) {
     const auto read = [](int reg) {
         return value_of<uint64>([&](uint64 *value) { return soc_reg64_get(0, reg, 5, 0, value); });
     };
-    const auto stat = [](bcm_stat_val_t kind) {
-        return value_of<uint64>([&](uint64 *value) { return bcm_stat_get(0, 5, kind, value); });
+    const auto stat = [](int kind) {
+        return value_of<uint64>(
+            [&](uint64 *value) { return bcm_stat_get(0, 5, bcm_stat_val_t{kind}, value); });
     };
     standin_port_traffic(0, 5, 0, 3, 300);
     EXPECT_EQ(read(RBCAr), 3u);
