@@ -22,11 +22,14 @@ compile_debug := cmake --build build/debug --parallel $(JOBS) $(quiet)
 python = . build/python27.env && PYTHONPATH=build/lib "$$PYTHON27_EXECUTABLE" $(1)
 have_debug = . build/python27.env && [ -n "$$PYTHON27_DEBUG_EXECUTABLE" ]
 
-.PHONY: help demo test build product debug bench growth docs docs-test race fuzz soak portable install \
+.PHONY: help demo demo-ping test build product debug bench growth docs docs-test race fuzz soak portable install \
     install-standin uninstall deb deb-test root-test format tidy setup configure mutants clean
 
 demo: product ## install what is missing, build, and run the quick start
 	@$(call python,examples/quickstart.py)
+
+demo-ping: product ## two hosts ping through the switch: real frames as root, else in memory
+	@$(call python,examples/ping/ping.py)
 
 test: build portable debug ## the same, and every test: release, then debug interpreter and sanitizers
 	@tests/run/ctest_all.sh $(JOBS)

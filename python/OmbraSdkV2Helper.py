@@ -17,6 +17,7 @@ functions of the SDK and of the platform, the constants, the variables in
   SdkError;
 * ports(), which makes a port list that came out fit to go in again; gport()
   and gport_parts() for global port numbers; mem_field_set() for table entries;
+* packet() and packet_bytes(), which make a packet of bytes and read one back;
 * describe() and find(), which know all functions, structures and constants;
 * started(), registered(), mdio_access(), log_to() and trace_to(), blocks that
   put back what they set up; callback_errors(), a hook for exceptions in
@@ -49,8 +50,8 @@ import _OmbraSdkV2Helper as _native
 import _OmbraSdkV2Proxy as _proxy
 from _OmbraSdkV2Aids import (
     L2_FLAG_BLACKHOLE, L2_FLAG_STATIC, L2_FLAG_TRUNK, gport, gport_parts, log_to,
-    mdio_access, mem_field_get, mem_field_set, ports, registered, started,
-    trace_to, traverse)
+    mdio_access, mem_field_get, mem_field_set, packet, packet_bytes, ports,
+    registered, started, trace_to, traverse)
 from _OmbraSdkV2Companion import (
     Array, bind, callback_errors, cookie, release, view)
 from _OmbraSdkV2Proxy import Struct, Value, box

@@ -1,5 +1,5 @@
-"""Small helpers of OmbraSdkV2Helper: ports, flags, entries of tables, and
-blocks that put back what they set up."""
+"""Small helpers of OmbraSdkV2Helper: ports, flags, entries of tables,
+packets, and blocks that put back what they set up."""
 
 import sys
 from operator import index
@@ -101,6 +101,36 @@ def mem_field_set(unit, mem, entry, field, value):
     for place, (word, bit) in enumerate(bits):
         cleared = entry[word] & ~(1 << bit)
         entry[word] = cleared | (value >> place & 1) << bit
+
+
+def packet(data, **fields):
+    """A packet of one block with these bytes, for bcm_tx(). With `tx_pbmp` it
+    leaves by those ports as it is, and by those of `tx_upbmp` without its
+    tag; without ports it goes through the switch.
+
+        check(bcm_tx(unit, packet(frame, tx_pbmp=[1, 2]), None))
+    """
+    made = companion.Array('bcm_pkt_s', 1)[0]
+    made.blk_count = 1
+    made.pkt_len = made.tot_len = len(data)
+    block = made._pkt_data  # the packet's own, so there is none to free
+    block.data = companion.Array('uint8', data)
+    block.len = len(data)
+    made.pkt_data = block
+    for name, value in fields.iteritems():
+        setattr(made, name, value)
+    return made
+
+
+def packet_bytes(packet_):
+    """The bytes of all blocks of a packet, as a handler of bcm_rx_register()
+    gets it."""
+    if not packet_.blk_count:
+        return ''
+    blocks = companion.view('bcm_pkt_blk_t', packet_.pkt_data,
+                            packet_.blk_count)
+    return ''.join(companion.view('uint8', block.data, block.len).bytes()
+                   for block in blocks if block.len > 0)
 
 
 def traverse(function, *args):

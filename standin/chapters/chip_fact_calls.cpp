@@ -14,7 +14,7 @@
 #include "sdk/bcm/subport.h"
 #include "sdk/bcm/switch.h"
 #include "standin/chapters/port_access.h"
-#include "standin/chapters/queues.h"
+#include "standin/model/queues.h"
 #include "standin/model/tables.h"
 
 using namespace standin;

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "sdk/bcm/cosq.h"
-#include "standin/chapters/queues.h"
+#include "standin/model/queues.h"
 #include "standin/model/tables.h"
 
 using namespace standin;

@@ -6,6 +6,8 @@
 #include "helper/platform.h"
 #include "sdk/soc/init.h"
 #include "standin/chapters/hooks.h"
+#include "standin/chapters/packet_book.h"
+#include "standin/chapters/packet_run.h"
 #include "standin/model/device_table.h"
 #include "standin/model/model.h"
 
@@ -183,8 +185,10 @@ int sysconf_attach(int pci_device_n) {
 }
 
 void standin_reset(void) {
+    leave_all();
     const std::lock_guard<std::mutex> guard(model_lock());
     device_table().clear();
+    forget_packets();
     platform() = Platform{};
 }
 

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "standin/base/log.h"
+#include "standin/model/rule_changes.h"
 #include "standin/model/switch.h"
 
 namespace standin {
@@ -16,6 +17,8 @@ struct Refusal {
     int status = 0;
     std::string why;
 };
+
+std::uint64_t changes_of_rules = 0;
 
 thread_local Refusal running;
 thread_local Refusal last;
@@ -84,6 +87,9 @@ std::string last_refusal() { return sentence(last); }
 
 void forget_refusal() { last = {}; }
 
+std::uint64_t rule_changes() { return changes_of_rules; }
+void note_rule_change() { ++changes_of_rules; }
+
 bool is_stopped(const Switch &chip, const char *function) {
     if (chip.stopped.empty()) return false;
     const std::string_view name = function;
@@ -93,6 +99,10 @@ bool is_stopped(const Switch &chip, const char *function) {
 }
 
 void note_chapter(Switch &chip, const char *function) {
+    const std::string_view name = function;
+    if (name.starts_with("bcm_field_") && !name.ends_with("_get") &&
+        !name.starts_with("bcm_field_stat_"))
+        note_rule_change();
     for (const std::string_view last_word : {"detach", "cleanup"})
         if (const std::string_view chapter = chapter_of(function, last_word); !chapter.empty()) {
             chip.stopped.emplace(chapter);

@@ -8,6 +8,7 @@
 
 #include "standin/model/layouts.h"
 #include "standin/model/model.h"
+#include "standin/model/rule_changes.h"
 #include "standin/model/switch.h"
 
 namespace standin {
@@ -139,7 +140,9 @@ int load_state(int unit, const SavedState &saved) {
     const std::lock_guard<std::mutex> guard(model_lock());
     int status = BCM_E_NONE;
     Switch *const chip = ready_switch(unit, status);
-    if (chip != nullptr) static_cast<SwitchState &>(*chip) = made;
+    if (chip == nullptr) return status;
+    static_cast<SwitchState &>(*chip) = made;
+    note_rule_change();
     return status;
 }
 

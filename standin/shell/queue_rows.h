@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "sdk/scalars.h"
-#include "standin/chapters/queues.h"
+#include "standin/model/queues.h"
 #include "standin/model/layouts.h"
 
 namespace standin {
