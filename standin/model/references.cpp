@@ -46,8 +46,6 @@ const UseRow kUses[] = {
     {Use::kRowFalls, ObjectKind::kRow, "", Bond::kFalls},
 };
 
-const UseRow &row_of(Use use) { return kUses[static_cast<std::size_t>(use)]; }
-
 // Changes the user of an object that goes, and the index with it.
 template <class T, class Edit>
 void leave(Switch &chip, const Object &user, T &slot, Edit &&edit) {
@@ -97,6 +95,8 @@ void end_use(Switch &chip, Use use, const Object &user, const Object &target) {
 }
 
 }  // namespace
+
+const UseRow &row_of(Use use) { return kUses[static_cast<std::size_t>(use)]; }
 
 bool exists(Switch &chip, const Object &object) {
     const auto number = static_cast<std::int64_t>(object.number);
