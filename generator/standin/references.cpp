@@ -174,9 +174,9 @@ std::map<std::string, std::size_t> first_ids(const std::map<std::string, OwnId> 
     std::map<std::string, std::size_t> next;
     std::map<std::string, std::size_t> first;
     for (const auto &[family, own] : ids) {
-        const auto block =
-            std::find_if(kIdBlocks.begin(), kIdBlocks.end(), [&](const IdBlocks &one) {
-                return own.kind == one.kind || std::string(one.kind).empty();
+        const auto block = std::find_if(
+            kIdBlocks.begin(), kIdBlocks.end(), [&kind = own.kind](const IdBlocks &one) {
+                return kind == one.kind || std::string(one.kind).empty();
             });
         const bool shared = givers[own.kind] > 1 && own.size > 1 && !own.kind.empty();
         const bool plain = std::string(block->kind).empty();
