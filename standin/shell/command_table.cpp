@@ -20,7 +20,7 @@ std::vector<const Command *> by_name() {
     for (std::span<const Command *const> group :
          {shell_commands(), port_commands(), switch_commands(), register_commands(),
           system_commands(), group_commands(), l3_commands(), field_commands(), queue_commands(),
-          state_commands()})
+          packet_commands(), state_commands()})
         all.insert(all.end(), group.begin(), group.end());
     std::sort(all.begin(), all.end(), [](const Command *one, const Command *other) {
         return std::string_view(one->name) < other->name;

@@ -21,8 +21,9 @@ std::span<const Command *const> system_commands();    // configuration, log, pac
 std::span<const Command *const> group_commands();     // trunks, multicast, mirrors, policers
 std::span<const Command *const> l3_commands();
 std::span<const Command *const> field_commands();
-std::span<const Command *const> queue_commands();  // quality of service, tables without a model
-std::span<const Command *const> state_commands();  // the state as a whole, faults, the shadow
+std::span<const Command *const> queue_commands();   // quality of service, tables without a model
+std::span<const Command *const> packet_commands();  // frames on ports
+std::span<const Command *const> state_commands();   // the state as a whole, faults, the shadow
 
 // Forms of `config` that are about the state of the unit.
 cmd_result_t config_diff(CommandCall &call);

@@ -117,7 +117,7 @@ TEST_P(ShellSession, GoesAsItDidBefore) {
 INSTANTIATE_TEST_SUITE_P(Golden, ShellSession,
                          ::testing::Values("language", "ports", "switching", "registers", "system",
                                            "help", "refusals", "filters", "typing", "groups",
-                                           "routing", "rules", "state"));
+                                           "routing", "rules", "state", "packets"));
 
 // Each example of a form is read, and each table keeps the kinds of its columns in JSON.
 TEST_F(ShellTest, EveryFormTakesItsExampleAndEveryTableIsJson) {
